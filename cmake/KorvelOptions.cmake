@@ -1,0 +1,20 @@
+# Compiler options: the product's targets link to korvel-options, the tests to korvel-warnings.
+
+set(KORVEL_SANITIZERS "" CACHE STRING "Sanitizers to build with, comma-separated (address,undefined)")
+
+add_library(korvel-warnings INTERFACE)
+target_compile_options(korvel-warnings INTERFACE
+    -Wall -Wextra -Wshadow -Wconversion -Woverloaded-virtual)
+
+# Texts of the product say how they are encoded; those of tests are plain to read.
+add_library(korvel-options INTERFACE)
+target_link_libraries(korvel-options INTERFACE korvel-warnings)
+target_compile_definitions(korvel-options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
+
+if(KORVEL_SANITIZERS)
+    # Every object is instrumented, or a library built without would hide its own faults.
+    add_compile_options(-fsanitize=${KORVEL_SANITIZERS} -fno-sanitize-recover=all
+        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${KORVEL_SANITIZERS})
+endif()

@@ -1,0 +1,33 @@
+# Tests run in a locale with a decimal comma and with a HOME that does not exist.
+#
+#   korvel_add_test(name libraries...)     builds unit/tst_<name>.cpp
+
+find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+find_program(LOCALEDEF localedef REQUIRED)
+
+# The locale is made for the tests alone, so that they need none of the machine's.
+set(KORVEL_TEST_LOCALES ${PROJECT_BINARY_DIR}/locales)
+set(KORVEL_TEST_LOCALE it_IT.UTF-8)
+add_custom_command(
+    OUTPUT ${KORVEL_TEST_LOCALES}/${KORVEL_TEST_LOCALE}/LC_NUMERIC
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${KORVEL_TEST_LOCALES}
+    COMMAND ${LOCALEDEF} -i it_IT -f UTF-8 ${KORVEL_TEST_LOCALES}/${KORVEL_TEST_LOCALE}
+    COMMENT "Making the locale of the tests"
+    VERBATIM)
+add_custom_target(korvel-test-locale ALL
+    DEPENDS ${KORVEL_TEST_LOCALES}/${KORVEL_TEST_LOCALE}/LC_NUMERIC)
+
+function(korvel_add_test name)
+    korvel_add_test_from(${name} unit/tst_${name}.cpp ${ARGN})
+endfunction()
+
+function(korvel_add_test_from name source)
+    add_executable(tst_${name} ${source})
+    set_target_properties(tst_${name} PROPERTIES AUTOMOC ON)
+    target_include_directories(tst_${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(tst_${name} PRIVATE Qt6::Test korvel-warnings ${ARGN})
+    add_dependencies(tst_${name} korvel-test-locale)
+    add_test(NAME ${name} COMMAND tst_${name})
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT
+        "LC_ALL=${KORVEL_TEST_LOCALE};LOCPATH=${KORVEL_TEST_LOCALES};HOME=${PROJECT_BINARY_DIR}/no-home")
+endfunction()

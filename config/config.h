@@ -1,0 +1,113 @@
+// The settings store: a settings file, in either notation, as a tree that answers dotted keys.
+#pragma once
+
+#include <QDomDocument>
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <fstream>
+#include <memory>
+
+namespace libconfig {
+
+/**
+ * Reads one settings file into a tree and answers dotted keys such as "korvel.language.file".
+ *
+ * Groups are elements, settings are attributes, all values are strings. The top element of the
+ * tree is a wrapper named as the file; look-ups start below it. A store is filled once and then
+ * only asked; it does no locking.
+ *
+ * The bodies: config.cpp life cycle and look-up, cfgreader.cpp and xmlreader.cpp the two notations.
+ */
+class Config
+{
+public:
+    /// An empty store: nothing is read, every look-up answers the empty string.
+    Config() = default;
+
+    /// Reads a settings file; see constructor().
+    Config(const QString &name, const QString &notation);
+
+    Q_DISABLE_COPY_MOVE(Config)
+    ~Config() = default;
+
+    /// Reads a settings file into a store built empty; see constructor().
+    void readFile(const QString &name, const QString &notation);
+
+    /**
+     * Reads a settings file into a fresh tree, whatever was read before.
+     *
+     * @param name     path of the file, and the name of the tree's top element
+     * @param notation "cfg" for the brace notation or "xml"; with any other nothing is read
+     *
+     * A missing file leaves the tree empty; the brace notation says so on standard output.
+     */
+    void constructor(const QString &name, const QString &notation);
+
+    /**
+     * Opens the stream of the brace notation on a file, as bytes.
+     *
+     * @return false when the file cannot be opened, with a line on standard output that says so
+     */
+    bool openFile(const QString &name);
+
+    /// Opens the stream on the store's own file.
+    bool openFile();
+
+    /// Closes the stream.
+    void closeFile();
+
+    /// Reads the stream past the next `c`; false when the end of the file comes first.
+    bool jump(char c);
+
+    /// Reads the store's file in the brace notation into the tree.
+    void loadFile();
+
+    /**
+     * Reads the body of one group of the brace notation, from behind its '{' to behind its "};".
+     *
+     * @param groupName name of the group; a nameless group is read over
+     * @param parent    element that the group belongs to. The group is attached to it with its
+     *                  first setting or subgroup, so one with nothing in it leaves no trace.
+     */
+    void loadFile(const QString &groupName, const QDomNode &parent);
+
+    /// Reads the store's file in the XML notation. A missing or malformed one leaves the tree
+    /// empty.
+    void loadXmlFile();
+
+    /**
+     * The value of a setting.
+     *
+     * @param key fields joined by '.': the first top-level group, its nested groups, the setting
+     * @return the value as stored, or the empty string when there is none. Only the first
+     *         top-level group is searched; an empty value is passed over for one that a later
+     *         group of the same name holds.
+     */
+    [[nodiscard]] QString lookup(const QString &key) const;
+
+    /// The value that `key` has below `node`, its first field being the name of `node` itself.
+    [[nodiscard]] QString lookup(const QDomNode &node, const QString &key) const;
+
+protected:
+    /// Names of a group's settings in the order in which they were first set.
+    [[nodiscard]] QStringList settingNames(const QDomElement &group) const;
+
+    QString fileName;                       // path of the settings file, name of the top element
+    QString fileFormat;                     // "cfg" or "xml"
+    std::ifstream stream;                   // what the brace notation is read from
+    std::unique_ptr<QDomDocument> document; // the tree; null until a file is read
+
+private:
+    bool loadStatements(QDomElement group, QDomNode parent);
+    QString readValue();
+    void set(QDomElement &group, const QString &name, const QString &value);
+    void noteSetting(const QDomElement &group, const QString &name);
+    void noteSettingOrder(const QByteArray &xml);
+
+    // The toolkit keeps attributes in a hash, whose order changes from run to run.
+    QHash<const void *, QStringList> settingOrder; // by the identity of the group's element
+};
+
+} // namespace libconfig
