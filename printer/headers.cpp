@@ -1,0 +1,140 @@
+// The blocks at the top of a document: margin, headers, company, numbers, order information,
+// customer.
+#include "printer/printerdriver.h"
+
+#include "config/configuration.h"
+
+#include <QStringTokenizer>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Longer than any margin: one that a slip in the settings made longer is cut back to it.
+constexpr int longestMargin = 65536;
+
+/// A line of a label and an attribute's value that a setting switches on.
+struct InfoLine
+{
+    bool Layout::*setting;
+    const char *label;
+    QLatin1StringView attribute;
+};
+
+constexpr InfoLine orderInfoLines[] = {
+    {&Layout::printDate,   QT_TRANSLATE_NOOP("PrinterDriver", "Date:"),   "date"_L1  },
+    {&Layout::printTime,   QT_TRANSLATE_NOOP("PrinterDriver", "Time:"),   "time"_L1  },
+    {&Layout::printTable,  QT_TRANSLATE_NOOP("PrinterDriver", "Table:"),  "table"_L1 },
+    {&Layout::printWaiter, QT_TRANSLATE_NOOP("PrinterDriver", "Waiter:"), "waiter"_L1},
+    {&Layout::printNote,   QT_TRANSLATE_NOOP("PrinterDriver", "Note:"),   "note"_L1  },
+    {&Layout::printCredit, QT_TRANSLATE_NOOP("PrinterDriver", "Credit:"), "credit"_L1},
+};
+
+} // namespace
+
+void PrinterDriver::printGeometry(const QXmlAttributes & /*attributes*/)
+{
+    if (!layout.printGeometry)
+        return;
+    const int margin = settings->getStrValue(documentPrefix + "topMargin"_L1).toInt();
+    for (int line = 0; line < std::min(margin, longestMargin); ++line)
+        println(QString());
+}
+
+void PrinterDriver::printHeaders(const QXmlAttributes &attributes)
+{
+    if (!layout.printHeader)
+        return;
+    for (int i = 0; i < attributes.count(); ++i)
+        println(attributes.value(i));
+    printSeparatorLine();
+}
+
+void PrinterDriver::printPrinterInfo()
+{
+    // The lines that follow stay centred until a character size is set.
+    setCenterJustify();
+    println(printerName);
+    printSeparatorLine();
+}
+
+void PrinterDriver::printCompanyHeader(const QXmlAttributes &attributes)
+{
+    if (!layout.printCompany)
+        return;
+    setCharSize();
+    setCenterJustify();
+    for (int i = 0; i < attributes.count(); ++i)
+        println(attributes.value(i));
+    setCharSize();
+    printSeparatorLine();
+}
+
+void PrinterDriver::printReceiptHeader(const QXmlAttributes &attributes)
+{
+    // Unlike the next two, this label brings its own blank.
+    println(1, tr("Serial Number: ") + attributes.value("serialnumber"_L1));
+    printSeparatorLine();
+}
+
+void PrinterDriver::printInvoiceHeader(const QXmlAttributes &attributes)
+{
+    printLabelled(tr("Invoice Number:"), attributes.value("serialnumber"_L1));
+    printSeparatorLine();
+}
+
+void PrinterDriver::printDeliveryHeader(const QXmlAttributes &attributes)
+{
+    printLabelled(tr("Delivery Number:"), attributes.value("serialnumber"_L1));
+    printSeparatorLine();
+}
+
+void PrinterDriver::printOrderInfo(const QXmlAttributes &attributes)
+{
+    setCharSize();
+    for (const auto &[setting, label, attribute] : orderInfoLines)
+        if (layout.*setting)
+            printLabelled(tr(label), attributes.value(attribute));
+    if (layout.printCredit)
+        credit = attributes.value("credit"_L1);
+    printSeparatorLine();
+}
+
+void PrinterDriver::printCustomerHeader(const QXmlAttributes &attributes)
+{
+    if (!layout.printCustomer)
+        return;
+    println(tr("CUSTOMER"));
+    println(1, attributes.value("name"_L1));
+    if (layout.printBillingAddress)
+        printAddress(attributes.value("billingaddress"_L1));
+    if (layout.printDeliveryAddress)
+        printAddress(attributes.value("deliveryaddress"_L1));
+    if (layout.printTelephone)
+        printLabelled(tr("Telephone:"), attributes.value("telephone"_L1));
+    if (layout.printLicenseNumber)
+        printLabelled(tr("License Number:"), attributes.value("licensenumber"_L1));
+    if (layout.printFiscalCode)
+        printLabelled(tr("Fiscal Code:"), attributes.value("fiscalcode"_L1));
+    printSeparatorLine();
+}
+
+/// One line for each field of a comma-separated address, up to the first empty field. A field of
+/// blanks is not empty.
+void PrinterDriver::printAddress(const QString &address)
+{
+    for (const QStringView field : qTokenize(address, u',')) {
+        if (field.isEmpty())
+            return;
+        println(1, field.trimmed().toString());
+    }
+}
+
+/// A line of a label and a value, each after a blank.
+void PrinterDriver::printLabelled(const QString &label, const QString &value)
+{
+    print(1, label);
+    println(1, value);
+}
