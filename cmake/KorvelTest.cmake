@@ -1,6 +1,7 @@
 # Tests run in a locale with a decimal comma and with a HOME that does not exist.
 #
 #   korvel_add_test(name libraries...)     builds unit/tst_<name>.cpp
+#   korvel_add_program_test(name source)   builds a test that runs the renderer itself
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 find_program(LOCALEDEF localedef REQUIRED)
@@ -19,6 +20,15 @@ add_custom_target(korvel-test-locale ALL
 
 function(korvel_add_test name)
     korvel_add_test_from(${name} unit/tst_${name}.cpp ${ARGN})
+endfunction()
+
+function(korvel_add_program_test name source)
+    korvel_add_test_from(${name} ${source} korvel::config)
+    add_dependencies(tst_${name} korvel-print)
+    target_compile_definitions(tst_${name} PRIVATE
+        KORVEL_BINARY_DIR="${PROJECT_BINARY_DIR}"
+        KORVEL_PRINT="$<TARGET_FILE:korvel-print>"
+        KORVEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
 endfunction()
 
 function(korvel_add_test_from name source)

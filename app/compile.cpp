@@ -1,0 +1,65 @@
+// The whole run: arguments, translation, driver, parse.
+#include "app/compile.h"
+
+#include "config/configuration.h"
+#include "printer/company/companyprinterdriver.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QLocale>
+#include <QTranslator>
+#include <QXmlInputSource>
+#include <QXmlSimpleReader>
+
+#include <iostream>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+void silence(QtMsgType /*type*/, const QMessageLogContext & /*context*/, const QString & /*text*/)
+{
+}
+
+/// Loads the catalogue that the settings name: by the system's locale when the file is "/", else
+/// the file itself. The toolkit completes the name; what it does not find leaves labels
+/// untranslated.
+void loadTranslation(QTranslator &translator, const KVConfiguration &settings)
+{
+    const QString baseDir = settings.getStrValue(u"korvel.language.basedir"_s);
+    const QString file = settings.getStrValue(u"korvel.language.file"_s);
+    if (file == "/"_L1)
+        static_cast<void>(
+            translator.load(baseDir + "/korvel_"_L1 + QLocale::system().name(), u"."_s));
+    else if (const QString name = baseDir + file; !name.isEmpty())
+        static_cast<void>(translator.load(name));
+}
+
+} // namespace
+
+void compile(int argc, char *argv[])
+{
+    if (argc != 3 && argc != 4) {
+        std::cout << "Usage: " << (argc > 0 ? argv[0] : "") << " input_file output_file"
+                  << std::endl;
+        return;
+    }
+    const QString inputPath = QFile::decodeName(argv[1]);
+    const QString outputPath = QFile::decodeName(argv[2]);
+
+    // The toolkit warns of a locale that is not UTF-8, and the like.
+    qInstallMessageHandler(silence);
+    const QCoreApplication application(argc, argv);
+    const KVConfiguration *settings = SyncSingleton<KVConfiguration>::instance();
+
+    QTranslator translator;
+    loadTranslation(translator, *settings);
+    QCoreApplication::installTranslator(&translator);
+
+    CompanyPrinterDriver driver(outputPath, false);
+    QXmlSimpleReader reader;
+    reader.setContentHandler(&driver);
+    QFile input(inputPath);
+    const QXmlInputSource source(&input);
+    reader.parse(source);
+}

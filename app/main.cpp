@@ -1,0 +1,8 @@
+// korvel-print: renders one print job. The exit status is 0 in every case.
+#include "app/compile.h"
+
+int main(int argc, char *argv[])
+{
+    compile(argc, argv);
+    return 0;
+}
