@@ -309,4 +309,5 @@ private:
     void printAddress(const QString &address);
     void printLabelled(const QString &label, const QString &value);
     [[nodiscard]] QString variantDescription(const QXmlAttributes &attributes) const;
+    void printTaxBlock(const QXmlAttributes &attributes);
 };
