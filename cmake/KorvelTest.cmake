@@ -24,20 +24,20 @@ endfunction()
 
 function(korvel_add_program_test name source)
     korvel_add_test_from(${name} ${source} korvel::config)
-    add_dependencies(tst_${name} korvel-print)
+    add_dependencies(tst_${name} korvel-print korvel-translations)
     target_compile_definitions(tst_${name} PRIVATE
         KORVEL_BINARY_DIR="${PROJECT_BINARY_DIR}"
-        KORVEL_PRINT="$<TARGET_FILE:korvel-print>"
-        KORVEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+        KORVEL_PRINT="$<TARGET_FILE:korvel-print>")
 endfunction()
 
 function(korvel_add_test_from name source)
     add_executable(tst_${name} ${source})
     set_target_properties(tst_${name} PROPERTIES AUTOMOC ON)
     target_include_directories(tst_${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_compile_definitions(tst_${name} PRIVATE KORVEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     target_link_libraries(tst_${name} PRIVATE Qt6::Test korvel-warnings ${ARGN})
     add_dependencies(tst_${name} korvel-test-locale)
     add_test(NAME ${name} COMMAND tst_${name})
     set_tests_properties(${name} PROPERTIES ENVIRONMENT
-        "LC_ALL=${KORVEL_TEST_LOCALE};LOCPATH=${KORVEL_TEST_LOCALES};HOME=${PROJECT_BINARY_DIR}/no-home")
+        "LC_ALL=${KORVEL_TEST_LOCALE};LOCPATH=${KORVEL_TEST_LOCALES};HOME=${PROJECT_BINARY_DIR}/no-home;QT_QPA_PLATFORM=offscreen")
 endfunction()
