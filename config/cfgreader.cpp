@@ -12,13 +12,6 @@ namespace {
 /// What stands before a ':' or '=': Latin-1, outer white space stripped, inner kept.
 QString nameOf(const QByteArray &bytes) { return QString::fromLatin1(bytes).trimmed(); }
 
-/// Hangs a group below its parent; nothing to do for a nameless one, or below one.
-void attach(const QDomElement &group, QDomNode &parent)
-{
-    if (!group.isNull() && !parent.isNull())
-        parent.appendChild(group);
-}
-
 } // namespace
 
 bool Config::openFile(const QString &name)

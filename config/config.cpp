@@ -66,7 +66,16 @@ QString Config::lookup(const QDomNode &node, const QString &key) const { return 
 
 QStringList Config::settingNames(const QDomElement &group) const
 {
-    return settingOrder.value(Identity(group).get());
+    const QDomNamedNodeMap attributes = group.attributes();
+    QStringList names = settingOrder.value(Identity(group).get());
+    if (names.size() == attributes.count())
+        return names;
+
+    names.clear();
+    for (int i = 0; i < attributes.count(); ++i)
+        names.append(attributes.item(i).nodeName());
+    names.sort();
+    return names;
 }
 
 void Config::set(QDomElement &group, const QString &name, const QString &value)
@@ -76,6 +85,13 @@ void Config::set(QDomElement &group, const QString &name, const QString &value)
     if (!group.hasAttribute(name))
         noteSetting(group, name);
     group.setAttribute(name, value);
+}
+
+/// Hangs a group below its parent; nothing to do for a nameless one, or below one.
+void Config::attach(const QDomElement &group, QDomNode &parent)
+{
+    if (!group.isNull() && !parent.isNull())
+        parent.appendChild(group);
 }
 
 void Config::noteSetting(const QDomElement &group, const QString &name)

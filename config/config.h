@@ -4,10 +4,14 @@
 #include <QDomDocument>
 #include <QHash>
 #include <QString>
+#include <QStringConverter>
 #include <QStringList>
 
 #include <fstream>
+#include <functional>
 #include <memory>
+
+class QTextStream;
 
 namespace libconfig {
 
@@ -18,7 +22,8 @@ namespace libconfig {
  * tree is a wrapper named as the file; look-ups start below it. A store is filled once and then
  * only asked; it does no locking.
  *
- * The bodies: config.cpp life cycle and look-up, cfgreader.cpp and xmlreader.cpp the two notations.
+ * The bodies: config.cpp life cycle and look-up; cfgreader.cpp and xmlreader.cpp the two notations,
+ * in; writers.cpp out.
  */
 class Config
 {
@@ -90,8 +95,42 @@ public:
     /// The value that `key` has below `node`, its first field being the name of `node` itself.
     [[nodiscard]] QString lookup(const QDomNode &node, const QString &key) const;
 
+    // The writers. What they write is what the readers read back, but for what a notation cannot
+    // hold: a value goes out as stored, so a quote in it is lost in the brace notation, and a
+    // quote, '<' or '&' makes the XML notation malformed. Settings keep the order in which they
+    // were first set. A file that cannot be written is passed over without a word.
+
+    /**
+     * Writes the tree in the brace notation: the settings outside every group, then the first
+     * top-level group; later ones, which no look-up finds, are left out.
+     *
+     * @param name file to write, as Latin-1; empty for the file that the tree was read from
+     */
+    void buildConfigFile(const QString &name) const;
+
+    /// Writes one group and everything below it in the brace notation.
+    void buildConfigFile(const QDomNode &node, QTextStream &out) const;
+
+    /**
+     * Writes the tree in the XML notation: like buildConfigFile(), but the group is XML, as UTF-8.
+     * Settings outside every group come before it in the brace notation, which does not read back.
+     */
+    void buildConfigXmlFile(const QString &name) const;
+
+    /// Writes one group and everything below it as XML: start and end tag on lines of their own,
+    /// each setting on one.
+    void buildConfigXmlFile(const QDomNode &node, QTextStream &out) const;
+
+    /// Shows the whole tree on standard output, for diagnosis: a line for each group and setting,
+    /// without indentation, as Latin-1.
+    void printConfigTree() const;
+
+    /// Shows one node and everything below it.
+    void printConfigTree(const QDomNode &node) const;
+
 protected:
-    /// Names of a group's settings in the order in which they were first set.
+    /// Names of a group's settings in the order in which they were first set; those of a group
+    /// from elsewhere by name.
     [[nodiscard]] QStringList settingNames(const QDomElement &group) const;
 
     QString fileName;                       // path of the settings file, name of the top element
@@ -105,6 +144,9 @@ private:
     void set(QDomElement &group, const QString &name, const QString &value);
     void noteSetting(const QDomElement &group, const QString &name);
     void noteSettingOrder(const QByteArray &xml);
+    static void attach(const QDomElement &group, QDomNode &parent);
+    void writeFile(const QString &name, QStringConverter::Encoding encoding,
+                   const std::function<void(const QDomNode &, QTextStream &)> &writeNode) const;
 
     // The toolkit keeps attributes in a hash, whose order changes from run to run.
     QHash<const void *, QStringList> settingOrder; // by the identity of the group's element

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
 #include <iostream>
 #include <sstream>
@@ -26,3 +27,18 @@ private:
     std::ostringstream taken;
     std::streambuf *before;
 };
+
+/// What an action writes to standard output.
+template<typename Action>
+QByteArray outputOf(const Action &action)
+{
+    const CapturedOutput output;
+    action();
+    return output.bytes();
+}
+
+/// What is said of a settings file that is not there.
+inline QByteArray notFound(const QString &path)
+{
+    return "Error in the method FileReader::open( " + path.toUtf8() + " ): File Not Found\n";
+}

@@ -1,5 +1,6 @@
 // The settings store: both notations in, look-up of dotted keys, order of settings.
 #include "config/config.h"
+#include "support/capturedoutput.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -7,8 +8,6 @@
 #include <QTest>
 
 #include <algorithm>
-#include <iostream>
-#include <sstream>
 
 namespace {
 
@@ -94,22 +93,6 @@ private:
         }
     }
 };
-
-/// What an action writes to standard output.
-template<typename Action>
-QByteArray outputOf(const Action &action)
-{
-    const std::ostringstream output;
-    std::streambuf *const before = std::cout.rdbuf(output.rdbuf());
-    action();
-    std::cout.rdbuf(before);
-    return QByteArray::fromStdString(output.str());
-}
-
-QByteArray notFound(const QString &path)
-{
-    return "Error in the method FileReader::open( " + path.toUtf8() + " ): File Not Found\n";
-}
 
 QStringList treeOf(const QByteArray &bytes, const QString &notation)
 {

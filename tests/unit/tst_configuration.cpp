@@ -1,5 +1,6 @@
 // The user's settings file and the singleton that the program reads it through.
 #include "config/configuration.h"
+#include "support/capturedoutput.h"
 #include "support/temporaryhome.h"
 
 #include <QTest>
@@ -8,8 +9,6 @@
 #include <atomic>
 #include <chrono>
 #include <cstdlib>
-#include <iostream>
-#include <sstream>
 #include <stdexcept>
 #include <thread>
 #include <vector>
@@ -23,22 +22,6 @@ using Settings = SyncSingleton<KVConfiguration>;
 
 constexpr auto width24 = R"(korvel: { receiptdoc: { descriptionWidth = "24"; }; };)";
 const QString width = "korvel.receiptdoc.descriptionWidth";
-
-/// What an action writes to standard output.
-template<typename Action>
-QByteArray outputOf(const Action &action)
-{
-    const std::ostringstream output;
-    std::streambuf *const before = std::cout.rdbuf(output.rdbuf());
-    action();
-    std::cout.rdbuf(before);
-    return QByteArray::fromStdString(output.str());
-}
-
-QByteArray notFound(const QString &path)
-{
-    return "Error in the method FileReader::open( " + path.toUtf8() + " ): File Not Found\n";
-}
 
 void write(const QString &path, const QByteArray &bytes)
 {
