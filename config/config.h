@@ -12,6 +12,8 @@
 #include <memory>
 
 class QTextStream;
+class QTreeWidget;
+class QTreeWidgetItem;
 
 namespace libconfig {
 
@@ -23,7 +25,8 @@ namespace libconfig {
  * only asked; it does no locking.
  *
  * The bodies: config.cpp life cycle and look-up; cfgreader.cpp and xmlreader.cpp the two notations,
- * in; writers.cpp out.
+ * in; writers.cpp out; listview.cpp the view, in a target of its own (korvel::listview), so that
+ * nothing else needs widgets.
  */
 class Config
 {
@@ -128,6 +131,42 @@ public:
     /// Shows one node and everything below it.
     void printConfigTree(const QDomNode &node) const;
 
+    // The list view: the tree in rows that can be edited, and back. Link to korvel::listview.
+
+    /// The same as buildConfigListView().
+    [[nodiscard]] QTreeWidget *newConfigListView() const;
+
+    /**
+     * Shows the tree in a new view of one column, "ConfigurationFile".
+     *
+     * A group is a row with a row for each of its settings, then for each of its groups; below a
+     * setting's row stands its value, the only kind of row that can be edited.
+     *
+     * @return the view; it belongs to the caller and does not follow later changes of the tree
+     */
+    [[nodiscard]] QTreeWidget *buildConfigListView() const;
+
+    /// Adds the rows of a node as a top-level row of the view.
+    void buildConfigListView(const QDomNode &node, QTreeWidget *view) const;
+
+    /// Adds the rows of a node below a row. A node that is no group has no row.
+    void buildConfigListView(const QDomNode &node, QTreeWidgetItem *parent) const;
+
+    /**
+     * Replaces the tree by what the view shows and writes it to the store's file, in its notation.
+     *
+     * A row whose child has no child itself is a setting; a row without a child is an empty group.
+     * A group deeper than the second level goes below the first group of the level above, not
+     * below its own: the settings of this system have no such group. Null: nothing happens.
+     */
+    void loadListView(const QTreeWidget *view);
+
+    /// Reads one top-level row into an empty tree.
+    void loadListView(const QTreeWidgetItem *item, QDomDocument *tree);
+
+    /// Reads one row below the top into a group of its own, appended to the parent.
+    void loadListView(const QTreeWidgetItem *item, QDomNode parent);
+
 protected:
     /// Names of a group's settings in the order in which they were first set; those of a group
     /// from elsewhere by name.
@@ -147,6 +186,8 @@ private:
     static void attach(const QDomElement &group, QDomNode &parent);
     void writeFile(const QString &name, QStringConverter::Encoding encoding,
                    const std::function<void(const QDomNode &, QTextStream &)> &writeNode) const;
+    void buildRows(const QDomNode &node, QTreeWidgetItem *groupRow) const;
+    void loadRows(const QTreeWidgetItem *item, QDomElement &group, const QDomNode &parent);
 
     // The toolkit keeps attributes in a hash, whose order changes from run to run.
     QHash<const void *, QStringList> settingOrder; // by the identity of the group's element

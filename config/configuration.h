@@ -22,4 +22,7 @@ public:
      * @param key dotted, beginning with "korvel."; a character beyond Latin-1 counts as '?'
      */
     [[nodiscard]] QString getStrValue(const QString &key) const;
+
+    /// The settings in a list view; see libconfig::Config. Link to korvel::listview.
+    [[nodiscard]] QTreeWidget *newConfigListView() const;
 };
