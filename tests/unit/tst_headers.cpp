@@ -2,11 +2,10 @@
 #include "support/jobs.h"
 #include "support/recordingdriver.h"
 #include "support/temporaryhome.h"
+#include "support/translators.h"
 
 #include <QCoreApplication>
-#include <QScopeGuard>
 #include <QTest>
-#include <QTranslator>
 
 namespace {
 
@@ -39,18 +38,6 @@ QString everyFlagBut(const QString &flag)
     flags.removeOne(flag);
     return flags.join(' ');
 }
-
-/// Translates every label of the driver to itself in angle brackets.
-class BracketTranslator : public QTranslator
-{
-public:
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char *context, const char *text,
-                                    const char * /*disambiguation*/, int /*n*/) const override
-    {
-        return qstrcmp(context, "PrinterDriver") == 0 ? QString("<") + text + ">" : QString();
-    }
-};
 
 } // namespace
 
@@ -355,9 +342,7 @@ private slots:
 
     void labelsAreTranslated()
     {
-        BracketTranslator translator;
-        QCoreApplication::installTranslator(&translator);
-        const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
+        const BracketTranslator translator;
 
         QCOMPARE(callsOf(everyFlag,
                          R"(<receipt serialnumber="Date:"/><invoice serialnumber="2"/>
