@@ -2,6 +2,7 @@
 #
 #   korvel_add_test(name libraries...)     builds unit/tst_<name>.cpp
 #   korvel_add_program_test(name source)   builds a test that runs the renderer itself
+#   korvel_repeat_with_hash_seeds(name)    runs a test again with twenty seeds of the toolkit's hash
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 find_program(LOCALEDEF localedef REQUIRED)
@@ -17,6 +18,12 @@ add_custom_command(
     VERBATIM)
 add_custom_target(korvel-test-locale ALL
     DEPENDS ${KORVEL_TEST_LOCALES}/${KORVEL_TEST_LOCALE}/LC_NUMERIC)
+
+set(KORVEL_TEST_ENVIRONMENT
+    LC_ALL=${KORVEL_TEST_LOCALE}
+    LOCPATH=${KORVEL_TEST_LOCALES}
+    HOME=${PROJECT_BINARY_DIR}/no-home
+    QT_QPA_PLATFORM=offscreen)
 
 function(korvel_add_test name)
     korvel_add_test_from(${name} unit/tst_${name}.cpp ${ARGN})
@@ -38,6 +45,14 @@ function(korvel_add_test_from name source)
     target_link_libraries(tst_${name} PRIVATE Qt6::Test korvel-warnings ${ARGN})
     add_dependencies(tst_${name} korvel-test-locale)
     add_test(NAME ${name} COMMAND tst_${name})
-    set_tests_properties(${name} PROPERTIES ENVIRONMENT
-        "LC_ALL=${KORVEL_TEST_LOCALE};LOCPATH=${KORVEL_TEST_LOCALES};HOME=${PROJECT_BINARY_DIR}/no-home;QT_QPA_PLATFORM=offscreen")
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${KORVEL_TEST_ENVIRONMENT}")
+endfunction()
+
+# The toolkit takes 0 for a fixed seed and any other number for a random one.
+function(korvel_repeat_with_hash_seeds name)
+    foreach(seed RANGE 19)
+        add_test(NAME ${name}-hash-seed-${seed} COMMAND tst_${name})
+        set_tests_properties(${name}-hash-seed-${seed} PROPERTIES ENVIRONMENT
+            "${KORVEL_TEST_ENVIRONMENT};QT_HASH_SEED=${seed}")
+    endforeach()
 endfunction()
