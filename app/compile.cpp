@@ -1,6 +1,7 @@
 // The whole run: arguments, translation, driver, parse.
 #include "app/compile.h"
 
+#include "app/jobguard.h"
 #include "config/configuration.h"
 #include "printer/company/companyprinterdriver.h"
 
@@ -8,10 +9,9 @@
 #include <QFile>
 #include <QLocale>
 #include <QTranslator>
-#include <QXmlInputSource>
-#include <QXmlSimpleReader>
 
 #include <iostream>
+#include <new>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -57,9 +57,11 @@ void compile(int argc, char *argv[])
     QCoreApplication::installTranslator(&translator);
 
     CompanyPrinterDriver driver(outputPath, false);
-    QXmlSimpleReader reader;
-    reader.setContentHandler(&driver);
+    JobGuard guard(driver);
     QFile input(inputPath);
-    const QXmlInputSource source(&input);
-    reader.parse(source);
+    try {
+        guard.parse(input);
+    } catch (const std::bad_alloc &) {
+        // The job ends here; what it printed so far stands.
+    }
 }

@@ -2,6 +2,8 @@
 #include "config/config.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QScopedValueRollback>
 
 #include <iostream>
 
@@ -19,7 +21,9 @@ bool Config::openFile(const QString &name)
     const QByteArray path = QFile::encodeName(name);
     stream.close();
     stream.clear();
-    stream.open(path.toStdString(), std::ios::in | std::ios::binary);
+    // A FIFO would wait for a writer, a folder opens and fails on the first read.
+    if (QFileInfo(name).isFile())
+        stream.open(path.toStdString(), std::ios::in | std::ios::binary);
     if (stream.is_open())
         return true;
 
@@ -53,8 +57,28 @@ void Config::loadFile()
 
 void Config::loadFile(const QString &groupName, const QDomNode &parent)
 {
-    // The toolkit has no nameless elements: such a group is null and, with all below it, dropped.
-    loadStatements(parent.isNull() ? QDomElement() : document->createElement(groupName), parent);
+    const QScopedValueRollback level(depth, depth + 1);
+    if (groupName.isEmpty() || parent.isNull() || depth > deepestGroup)
+        skipGroup();
+    else
+        loadStatements(document->createElement(groupName), parent);
+}
+
+/// Reads over a group, with all that it holds.
+void Config::skipGroup()
+{
+    int open = 1;
+    for (char c = 0; open > 0 && stream.get(c);) {
+        if (c == ':') {
+            jump('{');
+            ++open;
+        } else if (c == '=') {
+            jump(';');
+        } else if (c == '}') {
+            jump(';');
+            --open;
+        }
+    }
 }
 
 /// Reads statements up to the '}' of their level (true) or the end of the file (false).

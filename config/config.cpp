@@ -80,8 +80,6 @@ QStringList Config::settingNames(const QDomElement &group) const
 
 void Config::set(QDomElement &group, const QString &name, const QString &value)
 {
-    if (group.isNull())
-        return;
     if (!group.hasAttribute(name))
         noteSetting(group, name);
     group.setAttribute(name, value);

@@ -49,7 +49,9 @@ public:
      * @param name     path of the file, and the name of the tree's top element
      * @param notation "cfg" for the brace notation or "xml"; with any other nothing is read
      *
-     * A missing file leaves the tree empty; the brace notation says so on standard output.
+     * A missing file leaves the tree empty; the brace notation says so on standard output. What is
+     * no regular file, such as a folder or a FIFO, counts as missing. Groups nested deeper than
+     * 1,000 levels are read over.
      */
     void constructor(const QString &name, const QString &notation);
 
@@ -179,6 +181,7 @@ protected:
 
 private:
     bool loadStatements(QDomElement group, QDomNode parent);
+    void skipGroup();
     QString readValue();
     void set(QDomElement &group, const QString &name, const QString &value);
     void noteSetting(const QDomElement &group, const QString &name);
@@ -188,6 +191,9 @@ private:
                    const std::function<void(const QDomNode &, QTextStream &)> &writeNode) const;
     void buildRows(const QDomNode &node, QTreeWidgetItem *groupRow) const;
     void loadRows(const QTreeWidgetItem *item, QDomElement &group, const QDomNode &parent);
+
+    static constexpr int deepestGroup = 1000; // groups nested deeper are read over
+    int depth = 0;                            // of the group that is being read
 
     // The toolkit keeps attributes in a hash, whose order changes from run to run.
     QHash<const void *, QStringList> settingOrder; // by the identity of the group's element

@@ -2,16 +2,44 @@
 #include "config/config.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QXmlStreamReader>
+#include <QXmlStreamWriter>
 
 namespace libconfig {
+
+namespace {
+
+/// A document without the elements nested deeper than a number of levels; as it stands when there
+/// are none, or when it is malformed.
+QByteArray withoutDeepElements(const QByteArray &xml, int deepest)
+{
+    QByteArray rest;
+    bool anyLeftOut = false;
+    QXmlStreamReader in(xml);
+    in.setNamespaceProcessing(false);
+    QXmlStreamWriter out(&rest);
+    for (int depth = 0; in.readNext() != QXmlStreamReader::Invalid && !in.isEndDocument();) {
+        if (in.isStartElement() && depth == deepest) {
+            in.skipCurrentElement();
+            anyLeftOut = true;
+            continue;
+        }
+        depth += in.isStartElement() - in.isEndElement();
+        out.writeCurrentToken(in);
+    }
+    return anyLeftOut && !in.hasError() ? rest : xml;
+}
+
+} // namespace
 
 void Config::loadXmlFile()
 {
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
         return;
-    const QByteArray xml = file.readAll();
+    // The toolkit's tree takes itself apart level by level on the stack.
+    const QByteArray xml = withoutDeepElements(file.readAll(), deepestGroup);
     if (!document->setContent(xml)) {
         document = std::make_unique<QDomDocument>();
         return;

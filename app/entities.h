@@ -1,0 +1,42 @@
+// What the entities of a job's DTD may expand to.
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+/**
+ * Keeps count of a job's entities, whose references can make gigabytes, or an endless run, of a
+ * few hundred bytes.
+ *
+ * Names are those of general entities as they stand; "%" begins that of a parameter entity.
+ */
+class Entities
+{
+public:
+    static constexpr qint64 mostDeclared = 64;
+    static constexpr qint64 longestText = 4096;          // of all together, fully expanded
+    static constexpr qint64 longestReferred = 1'048'576; // of all references in a job
+
+    /// Takes note of an entity and its text; false when the job's entities are too many or too
+    /// long, or refer to themselves.
+    bool declare(const QString &name, const QString &text);
+
+    /// Takes note of a reference in the job; false when they come to too much. A name that was
+    /// not declared, such as "amp", stands for nothing.
+    bool refer(const QString &name);
+
+private:
+    /// What one reference comes to. Both are counted up to just beyond longestText.
+    struct Expansion
+    {
+        qint64 text = 0;       // characters
+        qint64 references = 0; // further references on the way
+    };
+
+    [[nodiscard]] Expansion expand(const QString &name, QHash<QString, Expansion> &known) const;
+
+    QHash<QString, QString> texts;
+    QHash<QString, Expansion> expansions;
+    qint64 declaredText = 0;
+    qint64 referred = 0;
+};

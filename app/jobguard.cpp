@@ -1,0 +1,116 @@
+// Limits on a job's XML: nesting, entities, and the stack that the reader uses.
+#include "app/jobguard.h"
+
+#include <QXmlInputSource>
+#include <QXmlSimpleReader>
+
+#include <algorithm>
+#include <cstdint>
+
+#include <sys/resource.h>
+
+namespace {
+
+/// Where on the stack the caller is.
+std::uintptr_t stackPosition()
+{
+    return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
+}
+
+/// A third of the stack that the process may use.
+std::uintptr_t stackLimit()
+{
+    constexpr rlim_t usual = 8'388'608;
+    rlimit stack{};
+    return getrlimit(RLIMIT_STACK, &stack) == 0 ? std::min(stack.rlim_cur, usual) / 3 : usual / 3;
+}
+
+/// The job's characters, as long as the reader may have them. It takes each through next(), from
+/// the depth of its own calls, and replaces references on its own.
+class Source : public QXmlInputSource
+{
+public:
+    Source(QIODevice *job, Entities &counted)
+        : QXmlInputSource(job)
+        , entities(counted)
+    {
+    }
+
+    QChar next() override
+    {
+        if (ended || base - stackPosition() > limit) // the stack grows downwards
+            return end();
+        const QChar c = QXmlInputSource::next();
+        if (c == u'&' || c == u'%') {
+            reference = c == u'%' ? QString(c) : QString();
+            inReference = true;
+        } else if (inReference && c == u';') {
+            inReference = false;
+            if (!entities.refer(reference))
+                return end();
+        } else if (inReference && c != QChar(EndOfData)) {
+            reference += c;
+            inReference = reference.size() <= Entities::longestText;
+        }
+        return c;
+    }
+
+private:
+    QChar end()
+    {
+        ended = true;
+        return QChar(EndOfDocument);
+    }
+
+    Entities &entities;
+    const std::uintptr_t base = stackPosition();
+    const std::uintptr_t limit = stackLimit();
+    QString reference; // name of the reference that is being read
+    bool inReference = false;
+    bool ended = false;
+};
+
+} // namespace
+
+JobGuard::JobGuard(QXmlContentHandler &handler)
+    : content(handler)
+{
+}
+
+void JobGuard::parse(QIODevice &job)
+{
+    Source source(&job, entities);
+    QXmlSimpleReader reader;
+    reader.setContentHandler(this);
+    reader.setDeclHandler(this);
+    reader.parse(source);
+}
+
+bool JobGuard::startDocument() { return content.startDocument(); }
+
+bool JobGuard::endDocument() { return content.endDocument(); }
+
+bool JobGuard::startElement(const QString &namespaceUri, const QString &localName,
+                            const QString &qName, const QXmlAttributes &attributes)
+{
+    return ++depth <= deepestElement
+           && content.startElement(namespaceUri, localName, qName, attributes);
+}
+
+bool JobGuard::endElement(const QString &namespaceUri, const QString &localName,
+                          const QString &qName)
+{
+    --depth;
+    return content.endElement(namespaceUri, localName, qName);
+}
+
+bool JobGuard::internalEntityDecl(const QString &name, const QString &value)
+{
+    return entities.declare(name, value);
+}
+
+bool JobGuard::externalEntityDecl(const QString &name, const QString & /*publicId*/,
+                                  const QString & /*systemId*/)
+{
+    return entities.declare(name, QString());
+}

@@ -1,0 +1,13 @@
+// The process around a run, made proof against its surroundings.
+#pragma once
+
+/**
+ * Prepares the process, before the toolkit wakes up:
+ *
+ * - a printer that goes away or a full quota is a failed write, not the end of the process;
+ * - standard streams that came closed are opened on /dev/null, so that the job's output file does
+ *   not take the place of one and receive the diagnostics;
+ * - the toolkit's own environment variables are taken out: some make it write to standard error,
+ *   abort on a warning or read files.
+ */
+void prepareProcess();
