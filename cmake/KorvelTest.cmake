@@ -3,6 +3,9 @@
 #   korvel_add_test(name libraries...)     builds unit/tst_<name>.cpp
 #   korvel_add_program_test(name source)   builds a test that runs the renderer itself
 #   korvel_repeat_with_hash_seeds(name)    runs a test again with twenty seeds of the toolkit's hash
+#   korvel_add_fuzz_target(name libraries...)
+#                                          builds fuzz/fuzz_<name>.cpp and runs it on its corpus; with
+#                                          KORVEL_FUZZERS builds the fuzzer too
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 find_program(LOCALEDEF localedef REQUIRED)
@@ -55,4 +58,24 @@ function(korvel_repeat_with_hash_seeds name)
         set_tests_properties(${name}-hash-seed-${seed} PROPERTIES ENVIRONMENT
             "${KORVEL_TEST_ENVIRONMENT};QT_HASH_SEED=${seed}")
     endforeach()
+endfunction()
+
+option(KORVEL_FUZZERS "Build the fuzzers, which takes clang's -fsanitize=fuzzer" OFF)
+
+function(korvel_add_fuzz_target name)
+    set(executables replay_${name})
+    add_executable(replay_${name} fuzz/fuzz_${name}.cpp fuzz/replay.cpp)
+    if(KORVEL_FUZZERS)
+        list(APPEND executables fuzz_${name})
+        add_executable(fuzz_${name} fuzz/fuzz_${name}.cpp)
+        target_link_options(fuzz_${name} PRIVATE -fsanitize=fuzzer)
+    endif()
+    foreach(executable IN LISTS executables)
+        target_include_directories(${executable} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+        target_link_libraries(${executable} PRIVATE korvel-warnings ${ARGN})
+        add_dependencies(${executable} korvel-test-locale)
+    endforeach()
+    add_test(NAME fuzz-${name}
+        COMMAND replay_${name} ${PROJECT_SOURCE_DIR}/tests/fuzz/corpus/${name})
+    set_tests_properties(fuzz-${name} PROPERTIES ENVIRONMENT "${KORVEL_TEST_ENVIRONMENT}")
 endfunction()
