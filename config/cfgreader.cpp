@@ -6,13 +6,26 @@
 #include <QScopedValueRollback>
 
 #include <iostream>
+#include <string>
+#include <string_view>
+#include <utility>
 
 namespace libconfig {
 
 namespace {
 
-/// What stands before a ':' or '=': Latin-1, outer white space stripped, inner kept.
-QString nameOf(const QByteArray &bytes) { return QString::fromLatin1(bytes).trimmed(); }
+/// Adds a byte to a name or a value. Indentation is left out from the start.
+void add(std::string &bytes, char c)
+{
+    if (!bytes.empty() || (c != ' ' && c != '\n'))
+        bytes += c;
+}
+
+/// A name or a raw value: Latin-1, outer white space stripped, inner kept.
+QString textOf(std::string_view bytes)
+{
+    return QString::fromLatin1(bytes.data(), qsizetype(bytes.size())).trimmed();
+}
 
 } // namespace
 
@@ -36,9 +49,23 @@ bool Config::openFile() { return openFile(fileName); }
 
 void Config::closeFile() { stream.close(); }
 
+/// Takes the next byte, if there is one, straight from the buffer: a stream checks itself over for
+/// every byte it is asked for.
+bool Config::next(char &c)
+{
+    using Traits = std::ifstream::traits_type;
+    try {
+        const Traits::int_type byte = stream.rdbuf()->sbumpc();
+        c = Traits::to_char_type(byte);
+        return !Traits::eq_int_type(byte, Traits::eof());
+    } catch (const std::ios_base::failure &) {
+        return false; // the file cannot be read any further
+    }
+}
+
 bool Config::jump(char c)
 {
-    for (char read = 0; stream.get(read);)
+    for (char read = 0; next(read);)
         if (read == c)
             return true;
     return false;
@@ -46,6 +73,8 @@ bool Config::jump(char c)
 
 void Config::loadFile()
 {
+    if (!document)
+        document = std::make_unique<QDomDocument>();
     openFile();
     QDomElement file = document->createElement(fileName);
     const bool closedByBrace = loadStatements(file, QDomNode());
@@ -61,14 +90,14 @@ void Config::loadFile(const QString &groupName, const QDomNode &parent)
     if (groupName.isEmpty() || parent.isNull() || depth > deepestGroup)
         skipGroup();
     else
-        loadStatements(document->createElement(groupName), parent);
+        loadStatements(parent.ownerDocument().createElement(groupName), parent);
 }
 
 /// Reads over a group, with all that it holds.
 void Config::skipGroup()
 {
     int open = 1;
-    for (char c = 0; open > 0 && stream.get(c);) {
+    for (char c = 0; open > 0 && next(c);) {
         if (c == ':') {
             jump('{');
             ++open;
@@ -84,25 +113,31 @@ void Config::skipGroup()
 /// Reads statements up to the '}' of their level (true) or the end of the file (false).
 bool Config::loadStatements(QDomElement group, QDomNode parent)
 {
-    QByteArray name;
-    for (char c = 0; stream.get(c);) {
+    bool attached = false;
+    const auto attachOnce = [&] {
+        if (!std::exchange(attached, true))
+            attach(group, parent);
+    };
+
+    std::string name;
+    for (char c = 0; next(c);) {
         switch (c) {
         case ':':
             jump('{');
-            attach(group, parent);
-            loadFile(nameOf(name), group);
+            attachOnce();
+            loadFile(textOf(name), group);
             name.clear();
             break;
         case '=':
-            set(group, nameOf(name), readValue());
-            attach(group, parent);
+            set(group, textOf(name), readValue());
+            attachOnce();
             name.clear();
             break;
         case '}':
             jump(';');
             return true;
         default:
-            name += c;
+            add(name, c);
         }
     }
     return false;
@@ -112,10 +147,10 @@ bool Config::loadStatements(QDomElement group, QDomNode parent)
 /// every quote removed, so that blanks inside quotes survive.
 QString Config::readValue()
 {
-    QByteArray bytes;
-    for (char c = 0; stream.get(c) && c != ';';)
-        bytes += c;
-    return nameOf(bytes).remove(u'"');
+    std::string bytes;
+    for (char c = 0; next(c) && c != ';';)
+        add(bytes, c);
+    return textOf(bytes).remove(u'"');
 }
 
 } // namespace libconfig

@@ -33,9 +33,13 @@ QString match(const QDomNode &node, QStringView key)
     if (thirdFieldIsEmpty)
         return element.attribute((secondDot < 0 ? rest : rest.first(secondDot)).toString());
 
-    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling())
+    const QStringView name = rest.first(secondDot);
+    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.nodeName() != name)
+            continue;
         if (QString value = match(child, rest); !value.isEmpty())
             return value;
+    }
     return {};
 }
 
@@ -67,7 +71,7 @@ QString Config::lookup(const QDomNode &node, const QString &key) const { return 
 QStringList Config::settingNames(const QDomElement &group) const
 {
     const QDomNamedNodeMap attributes = group.attributes();
-    QStringList names = settingOrder.value(Identity(group).get());
+    QStringList names = settingOrder.value(Identity(group).get()).names;
     if (names.size() == attributes.count())
         return names;
 
@@ -94,7 +98,9 @@ void Config::attach(const QDomElement &group, QDomNode &parent)
 
 void Config::noteSetting(const QDomElement &group, const QString &name)
 {
-    settingOrder[Identity(group).get()].append(name);
+    Settings &settings = settingOrder[Identity(group).get()];
+    settings.group = group;
+    settings.names.append(name);
 }
 
 } // namespace libconfig

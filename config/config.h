@@ -180,6 +180,7 @@ protected:
     std::unique_ptr<QDomDocument> document; // the tree; null until a file is read
 
 private:
+    bool next(char &c);
     bool loadStatements(QDomElement group, QDomNode parent);
     void skipGroup();
     QString readValue();
@@ -195,8 +196,14 @@ private:
     static constexpr int deepestGroup = 1000; // groups nested deeper are read over
     int depth = 0;                            // of the group that is being read
 
-    // The toolkit keeps attributes in a hash, whose order changes from run to run.
-    QHash<const void *, QStringList> settingOrder; // by the identity of the group's element
+    // The toolkit keeps attributes in a hash, whose order changes from run to run. The groups are
+    // held, so that none that is gone shares its identity with a new one.
+    struct Settings
+    {
+        QDomElement group;
+        QStringList names; // in the order in which they were first set
+    };
+    QHash<const void *, Settings> settingOrder; // by the identity of the group's element
 };
 
 } // namespace libconfig

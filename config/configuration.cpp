@@ -3,7 +3,22 @@
 
 #include <QDir>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A text with '?' for every character beyond Latin-1.
+QString latin1(QString text)
+{
+    const auto isBeyond = [](QChar c) { return c.unicode() > 0xff; };
+    if (std::any_of(text.cbegin(), text.cend(), isBeyond)) // changes few texts, and copies no other
+        std::replace_if(text.begin(), text.end(), isBeyond, u'?');
+    return text;
+}
+
+} // namespace
 
 KVConfiguration::KVConfiguration()
 {
@@ -12,6 +27,5 @@ KVConfiguration::KVConfiguration()
 
 QString KVConfiguration::getStrValue(const QString &key) const
 {
-    const QString latin1Key = QString::fromLatin1(key.toLatin1());
-    return QString::fromLatin1(lookup(latin1Key).toLatin1());
+    return latin1(lookup(latin1(key)));
 }

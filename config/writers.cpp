@@ -39,7 +39,7 @@ void Config::writeFile(const QString &name, QStringConverter::Encoding encoding,
                        const std::function<void(const QDomNode &, QTextStream &)> &writeNode) const
 {
     QFile file(name.isEmpty() ? fileName : name);
-    if (!file.open(QIODevice::WriteOnly))
+    if (file.fileName().isEmpty() || !file.open(QIODevice::WriteOnly))
         return;
     QTextStream out(&file);
     out.setEncoding(encoding);

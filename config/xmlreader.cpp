@@ -10,8 +10,14 @@ namespace libconfig {
 
 namespace {
 
+void writeAttributes(QXmlStreamWriter &out, const QXmlStreamAttributes &attributes)
+{
+    for (const QXmlStreamAttribute &attribute : attributes)
+        out.writeAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
+}
+
 /// A document without the elements nested deeper than a number of levels; as it stands when there
-/// are none, or when it is malformed.
+/// are none. Empty when it is malformed.
 QByteArray withoutDeepElements(const QByteArray &xml, int deepest)
 {
     QByteArray rest;
@@ -19,16 +25,33 @@ QByteArray withoutDeepElements(const QByteArray &xml, int deepest)
     QXmlStreamReader in(xml);
     in.setNamespaceProcessing(false);
     QXmlStreamWriter out(&rest);
-    for (int depth = 0; in.readNext() != QXmlStreamReader::Invalid && !in.isEndDocument();) {
-        if (in.isStartElement() && depth == deepest) {
-            in.skipCurrentElement();
-            anyLeftOut = true;
-            continue;
+    for (int depth = 0; !in.atEnd();) {
+        switch (in.readNext()) {
+        case QXmlStreamReader::StartElement:
+            if (depth == deepest) {
+                in.skipCurrentElement();
+                anyLeftOut = true;
+                continue;
+            }
+            ++depth;
+            out.writeStartElement(in.qualifiedName().toString());
+            writeAttributes(out, in.attributes());
+            break;
+        case QXmlStreamReader::EndElement:
+            --depth;
+            out.writeEndElement();
+            break;
+        case QXmlStreamReader::StartDocument:
+            if (!in.documentVersion().isEmpty())
+                out.writeStartDocument();
+            break;
+        case QXmlStreamReader::Invalid:
+            return {};
+        default:
+            out.writeCurrentToken(in);
         }
-        depth += in.isStartElement() - in.isEndElement();
-        out.writeCurrentToken(in);
     }
-    return anyLeftOut && !in.hasError() ? rest : xml;
+    return anyLeftOut ? rest : xml;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "config/config.h"
 #include "support/capturedoutput.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -123,6 +124,51 @@ class TestConfig : public QObject
     Q_OBJECT
 
 private slots:
+    /// Groups below the deepest level are read over; what stands beside them is read as ever.
+    void deepElements_data()
+    {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("value");
+        const auto nested = [](int levels) {
+            return QByteArray("<g>").repeated(levels) + QByteArray("</g>").repeated(levels);
+        };
+
+        QTest::newRow("as deep as can be") << "<a x='1'>" + nested(999) + "<b y='2'/></a>"
+                                           << "a.b.y"
+                                           << "2";
+        QTest::newRow("one deeper") << "<a x='1'>" + nested(1000) + "<b y='2'/></a>"
+                                    << "a.b.y"
+                                    << "2";
+        QTest::newRow("much deeper") << "<a x='1'>" + nested(200000) + "<b y='2'/></a>"
+                                     << "a.x"
+                                     << "1";
+        QTest::newRow("behind a declaration look-ups start a level lower, as ever")
+            << "<?xml version='1.0'?><r><a x='1'/>" + nested(1000) + "</r>"
+            << "a.x"
+            << "1";
+        QTest::newRow("prefixes stay")
+            << "<?xml version='1.0'?><r><n:a n:x='1'/>" + nested(1000) + "</r>"
+            << "n:a.n:x"
+            << "1";
+        QTest::newRow("malformed and deep") << QByteArray("<a x='1'>").repeated(40000) << "a.x"
+                                            << "";
+        QTest::newRow("malformed behind its deepest") << "<a x='1'>" + nested(20000) + "<"
+                                                      << "a.x"
+                                                      << "";
+    }
+
+    void deepElements()
+    {
+        QFETCH(QByteArray, xml);
+        QFETCH(QString, key);
+        QFETCH(QString, value);
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(lookupIn(xml, "xml", key), value);
+        QVERIFY2(timer.elapsed() < 20000, "the toolkit's tree of it takes minutes");
+    }
+
     void emptyStore()
     {
         const Store store;

@@ -346,6 +346,26 @@ private slots:
         QCOMPARE(store.lookup("a.x"), "");
     }
 
+    /// What is read below a nameless row is gone; what comes after it keeps its own order.
+    void rowsAfterANamelessOneKeepTheirOrder()
+    {
+        Store store("a:{x=1;};", "cfg");
+        for (int i = 0; i < 50; ++i) {
+            QTreeWidget view;
+            auto *top = new QTreeWidgetItem(&view, {"file"});
+            auto *nameless = new QTreeWidgetItem(top, {""});
+            auto *lost = new QTreeWidgetItem(nameless, {"g"});
+            new QTreeWidgetItem(new QTreeWidgetItem(lost, {"a"}), {"1"});
+            new QTreeWidgetItem(new QTreeWidgetItem(lost, {"b"}), {"2"});
+            auto *group = new QTreeWidgetItem(top, {"korvel"});
+            for (const char *name : {"m", "b", "z", "a"})
+                new QTreeWidgetItem(new QTreeWidgetItem(group, {name}), {"1"});
+            store.loadListView(&view);
+            QCOMPARE(bytesOf(store.path()), "korvel: \n{\n    m = \"1\";\n    b = \"1\";\n"
+                                            "    z = \"1\";\n    a = \"1\";\n};\n\n");
+        }
+    }
+
     void theUsersSettings()
     {
         const TemporaryHome home("korvel:{doc:{paperWidth=32;};};");

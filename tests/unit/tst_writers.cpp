@@ -275,6 +275,18 @@ private slots:
         QVERIFY(QFile::exists(folder.path() + "/xml"));
     }
 
+    void anEmptyStoreReadsNothing()
+    {
+        const CapturedOutput said;
+        libconfig::Config empty;
+        empty.loadFile();
+        empty.loadXmlFile();
+        empty.buildConfigFile("");
+        QCOMPARE(empty.lookup("a.x"), "");
+        QCOMPARE(said.bytes(),
+                 QByteArray("Error in the method FileReader::open(  ): File Not Found\n"));
+    }
+
     void aGroupFromElsewhereIsWrittenByName()
     {
         QDomDocument elsewhere;
