@@ -21,6 +21,9 @@ public:
     /// long, or refer to themselves.
     bool declare(const QString &name, const QString &text);
 
+    /// Whether no entity was declared.
+    [[nodiscard]] bool isEmpty() const { return texts.isEmpty(); }
+
     /// Takes note of a reference in the job; false when they come to too much. A name that was
     /// not declared, such as "amp", stands for nothing.
     bool refer(const QString &name);

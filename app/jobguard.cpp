@@ -25,8 +25,9 @@ std::uintptr_t stackLimit()
     return getrlimit(RLIMIT_STACK, &stack) == 0 ? std::min(stack.rlim_cur, usual) / 3 : usual / 3;
 }
 
-/// The job's characters, as long as the reader may have them. It takes each through next(), from
-/// the depth of its own calls, and replaces references on its own.
+/// The job's characters, as long as the reader may have them. It takes each through next(), and has
+/// a kilobyte fetched at a time, from the depth of its own calls; references it replaces on its
+/// own.
 class Source : public QXmlInputSource
 {
 public:
@@ -36,30 +37,36 @@ public:
     {
     }
 
+    void fetchData() override
+    {
+        if (base - stackPosition() > limit) // the stack grows downwards
+            ended = true;
+        if (ended)
+            setData(QString());
+        else
+            QXmlInputSource::fetchData();
+    }
+
     QChar next() override
     {
-        if (ended || base - stackPosition() > limit) // the stack grows downwards
-            return end();
-        const QChar c = QXmlInputSource::next();
+        return entities.isEmpty() ? QXmlInputSource::next() : nextBehindEntities();
+    }
+
+private:
+    QChar nextBehindEntities()
+    {
+        const QChar c = ended ? QChar(EndOfDocument) : QXmlInputSource::next();
         if (c == u'&' || c == u'%') {
             reference = c == u'%' ? QString(c) : QString();
             inReference = true;
         } else if (inReference && c == u';') {
             inReference = false;
-            if (!entities.refer(reference))
-                return end();
+            ended = !entities.refer(reference);
         } else if (inReference && c != QChar(EndOfData)) {
             reference += c;
             inReference = reference.size() <= Entities::longestText;
         }
-        return c;
-    }
-
-private:
-    QChar end()
-    {
-        ended = true;
-        return QChar(EndOfDocument);
+        return ended ? QChar(EndOfDocument) : c;
     }
 
     Entities &entities;

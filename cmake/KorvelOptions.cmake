@@ -10,7 +10,7 @@ target_compile_options(korvel-warnings INTERFACE
 add_library(korvel-options INTERFACE)
 target_link_libraries(korvel-options INTERFACE korvel-warnings)
 target_compile_definitions(korvel-options INTERFACE
-    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_USE_QSTRINGBUILDER)
 
 if(KORVEL_SANITIZERS)
     # Every object is instrumented, or a library built without would hide its own faults.

@@ -39,7 +39,7 @@ void PrinterDriver::printFullOrder(const QString &qName, const QXmlAttributes &a
     if (qName == "customer"_L1) {
         printCustomerHeader(attributes);
     } else if (qName == "receipe"_L1 && !value("name"_L1).startsWith(u'=')) {
-        printColumnsHeader(tr("Num"), tr("Description"), tr("Price"), tr("Amount"));
+        printColumnsHeader(titles().number, titles().description, titles().price, titles().amount);
         println(descriptionRow(value("number"_L1), value("name"_L1), value("price"_L1),
                                value("totalPrice"_L1), u'.', u"qdpt"_s));
     } else if (qName == "variant"_L1) {

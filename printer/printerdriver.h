@@ -10,6 +10,7 @@
 #include <QXmlDefaultHandler>
 
 #include <memory>
+#include <optional>
 
 class KVConfiguration;
 class QFile;
@@ -305,6 +306,14 @@ protected:
     Layout layout;  // settings of the current document type
 
 private:
+    /// The titles of the columns of items, in the language of the run.
+    struct Titles
+    {
+        QString number, description, price, amount;
+    };
+    const Titles &titles();
+    std::optional<Titles> translatedTitles; // looked up with the first item
+
     // What several documents, or several elements of one, print alike.
     void printAddress(const QString &address);
     void printLabelled(const QString &label, const QString &value);

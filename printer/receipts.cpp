@@ -13,7 +13,7 @@ void PrinterDriver::printFullOrderReceipt(const QString &qName, const QXmlAttrib
     if (qName == "customer"_L1) {
         printCustomerHeader(attributes);
     } else if (qName == "receipe"_L1) {
-        printColumnsHeader(tr("Num"), tr("Description"), tr("Price"), tr("Amount"));
+        printColumnsHeader(titles().number, titles().description, titles().price, titles().amount);
         println(descriptionRow(value("number"_L1), value("name"_L1), value("price"_L1),
                                value("totalPrice"_L1), u'.', u"qxdpt"_s));
     } else if (qName == "total"_L1) {
@@ -34,7 +34,7 @@ void PrinterDriver::printAbstractOrderReceipt(const QString &qName,
     const auto value = [&](QLatin1StringView name) { return attributes.value(name); };
 
     if (qName == "receipe_type"_L1) {
-        printColumnsHeader(tr("Num"), tr("Description"), {}, tr("Price"));
+        printColumnsHeader(titles().number, titles().description, {}, titles().price);
         println(descriptionRow(value("number"_L1), value("name"_L1), {}, value("price"_L1), u'.',
                                u"qxdpt"_s));
     } else if (qName == "total"_L1) {

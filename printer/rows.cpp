@@ -75,6 +75,14 @@ QString PrinterDriver::descriptionRow(const QString &quantity, const QString &de
                        layout.priceFieldWidth, layout.totalPriceFieldWidth, layout.paperWidth});
 }
 
+/// Asked for with every item, printed with the first.
+const PrinterDriver::Titles &PrinterDriver::titles()
+{
+    if (!translatedTitles)
+        translatedTitles = {tr("Num"), tr("Description"), tr("Price"), tr("Amount")};
+    return *translatedTitles;
+}
+
 void PrinterDriver::printColumnsHeader(const QString &quantity, const QString &description,
                                        const QString &price, const QString &total)
 {

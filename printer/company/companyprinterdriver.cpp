@@ -79,7 +79,8 @@ void CompanyPrinterDriver::endSection() { write(sectionOf(currentMethod).closing
 void CompanyPrinterDriver::print(unsigned indent, const QString &text)
 {
     pendingLine +=
-        QString(indent, u' ') + QString(text).replace("TOTALE"_L1, "T0TALE"_L1, Qt::CaseSensitive);
+        QString(indent, u' ')
+        + (text.contains("TOTALE"_L1) ? QString(text).replace("TOTALE"_L1, "T0TALE"_L1) : text);
 }
 
 void CompanyPrinterDriver::println(unsigned indent, const QString &text)
