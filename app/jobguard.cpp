@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 #include <sys/resource.h>
 
@@ -55,7 +56,12 @@ public:
 private:
     QChar nextBehindEntities()
     {
-        const QChar c = ended ? QChar(EndOfDocument) : QXmlInputSource::next();
+        if (ended)
+            return EndOfDocument;
+        if (std::exchange(reading, true))
+            return QXmlInputSource::next(); // asked by itself, after it has fetched
+        const QChar c = QXmlInputSource::next();
+        reading = false;
         if (c == u'&' || c == u'%') {
             reference = c == u'%' ? QString(c) : QString();
             inReference = true;
@@ -74,6 +80,7 @@ private:
     const std::uintptr_t limit = stackLimit();
     QString reference; // name of the reference that is being read
     bool inReference = false;
+    bool reading = false;
     bool ended = false;
 };
 
@@ -109,6 +116,17 @@ bool JobGuard::endElement(const QString &namespaceUri, const QString &localName,
 {
     --depth;
     return content.endElement(namespaceUri, localName, qName);
+}
+
+bool JobGuard::startPrefixMapping(const QString & /*prefix*/, const QString & /*uri*/)
+{
+    return ++prefixes <= mostPrefixes;
+}
+
+bool JobGuard::endPrefixMapping(const QString & /*prefix*/)
+{
+    --prefixes;
+    return true;
 }
 
 bool JobGuard::internalEntityDecl(const QString &name, const QString &value)

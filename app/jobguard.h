@@ -12,13 +12,15 @@ class QIODevice;
  * near. A job that goes beyond one ends there, as one with malformed XML would: what was printed
  * before stands, and nothing is said.
  *
- * The limits: 1,024 elements nested in each other; entities as Entities counts them; and a third
+ * The limits: 1,024 elements nested in each other; 64 namespace declarations in force, which the
+ * reader compares with each other for every element; entities as Entities counts them; and a third
  * of the stack for what the reader nests on its own, such as the groups of a content model.
  */
 class JobGuard : public QXmlDefaultHandler
 {
 public:
     static constexpr int deepestElement = 1024;
+    static constexpr int mostPrefixes = 64;
 
     /// @param handler receives the job's start, end and elements; belongs to the caller
     explicit JobGuard(QXmlContentHandler &handler);
@@ -33,6 +35,8 @@ public:
                       const QXmlAttributes &attributes) override;
     bool endElement(const QString &namespaceUri, const QString &localName,
                     const QString &qName) override;
+    bool startPrefixMapping(const QString &prefix, const QString &uri) override;
+    bool endPrefixMapping(const QString &prefix) override;
     bool internalEntityDecl(const QString &name, const QString &value) override;
     bool externalEntityDecl(const QString &name, const QString &publicId,
                             const QString &systemId) override;
@@ -41,4 +45,5 @@ private:
     QXmlContentHandler &content;
     Entities entities;
     int depth = 0;
+    int prefixes = 0; // of namespaces, declared where the job is
 };

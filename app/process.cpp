@@ -2,15 +2,25 @@
 #include "app/process.h"
 
 #include <csignal>
-#include <cstdlib>
-#include <cstring>
-#include <string>
-#include <vector>
+#include <initializer_list>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace {
+
+void limitMemory()
+{
+#ifndef __SANITIZE_ADDRESS__ // whose own memory is far beyond
+    constexpr rlim_t most = 268'435'456;
+    rlimit data{};
+    if (getrlimit(RLIMIT_DATA, &data) == 0 && data.rlim_cur > most) {
+        data.rlim_cur = most;
+        setrlimit(RLIMIT_DATA, &data);
+    }
+#endif
+}
 
 void openStandardStreams()
 {
@@ -19,16 +29,22 @@ void openStandardStreams()
             static_cast<void>(open("/dev/null", O_RDWR)); // takes the lowest number that is free
 }
 
-void forgetToolkitVariables()
+/// Takes the toolkit's variables out of the environment. The toolkit reads some before main, so
+/// this comes before main and before any library, sanitizers included, is set up.
+[[gnu::no_sanitize("address", "undefined")]] void
+forgetToolkitVariables(int /*argc*/, char ** /*argv*/, char **variables)
 {
-    constexpr auto prefix = "QT_";
-    std::vector<std::string> names;
-    for (char **variable = environ; variable && *variable; ++variable)
-        if (std::strncmp(*variable, prefix, std::strlen(prefix)) == 0)
-            names.emplace_back(*variable, std::strcspn(*variable, "="));
-    for (const std::string &name : names)
-        unsetenv(name.c_str());
+    char **kept = variables;
+    for (; *variables; ++variables) {
+        const char *name = *variables;
+        if (name[0] != 'Q' || name[1] != 'T' || name[2] != '_')
+            *kept++ = *variables;
+    }
+    *kept = nullptr;
 }
+
+[[gnu::section(".preinit_array"),
+  gnu::used]] void (*const beforeTheLibraries)(int, char **, char **) = forgetToolkitVariables;
 
 } // namespace
 
@@ -37,5 +53,5 @@ void prepareProcess()
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
     openStandardStreams();
-    forgetToolkitVariables();
+    limitMemory();
 }

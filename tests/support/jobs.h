@@ -2,8 +2,8 @@
 #pragma once
 
 #include "printer/printerdriver.h"
+#include "support/settingstext.h"
 
-#include <QByteArray>
 #include <QString>
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
@@ -16,16 +16,4 @@ inline bool readJob(PrinterDriver &driver, const QString &job)
     QXmlSimpleReader reader;
     reader.setContentHandler(&driver);
     return reader.parse(source);
-}
-
-/// One document's group of a settings file: "receiptdoc" and the like, and its settings as written.
-inline QByteArray documentGroup(const QByteArray &name, const QByteArray &settings)
-{
-    return "    " + name + ":\n    {\n        " + settings + "\n    };\n";
-}
-
-/// A settings file of these groups.
-inline QByteArray settingsFile(const QByteArray &groups)
-{
-    return "korvel:\n{\n" + groups + "};\n";
 }
