@@ -8,6 +8,8 @@
 #include <QSet>
 #include <QTest>
 
+#include <array>
+
 namespace {
 
 const QString casesFolder = KORVEL_SOURCE_DIR "/tests/golden/cases/";
@@ -87,6 +89,31 @@ private slots:
         QCOMPARE(linesOf(stream), linesOf(bytesOf(expectedStream)));
         QCOMPARE(stream, bytesOf(expectedStream));
         QCOMPARE(linesOf(run.standardOutput), linesOf(bytesOf(expectedStandardOutput)));
+    }
+
+    /// A run keeps no state: jobs may be rendered side by side.
+    void examplesEightAtATime()
+    {
+        const TemporaryHome home(bytesOf(examplesFolder + "korvel.conf"));
+        const QStringList jobs = filesBelow(examplesFolder + "jobs", "*.xml");
+        QVERIFY(jobs.size() >= 13);
+
+        constexpr int sideBySide = 8;
+        std::array<QProcess, sideBySide> processes;
+        for (int i = 0; i < 4 * jobs.size(); ++i) {
+            QProcess &process = processes[size_t(i % sideBySide)];
+            QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished());
+            process.start(KORVEL_PRINT,
+                          {jobs[i % jobs.size()], home.path() + QString("/%1.out").arg(i)});
+        }
+        for (QProcess &process : processes)
+            QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished());
+
+        for (int i = 0; i < 4 * jobs.size(); ++i) {
+            const QString name = QFileInfo(jobs[i % jobs.size()]).completeBaseName();
+            QCOMPARE(linesOf(bytesOf(home.path() + QString("/%1.out").arg(i))),
+                     linesOf(bytesOf(examplesFolder + "expected/" + name + ".out")));
+        }
     }
 
     void everyMethodHasACase()
