@@ -31,7 +31,7 @@ void openStandardStreams()
 
 /// Takes the toolkit's variables out of the environment. The toolkit reads some before main, so
 /// this comes before main and before any library, sanitizers included, is set up.
-[[gnu::no_sanitize("address", "undefined")]] void
+__attribute__((no_sanitize("address", "undefined"))) void
 forgetToolkitVariables(int /*argc*/, char ** /*argv*/, char **variables)
 {
     char **kept = variables;
