@@ -7,6 +7,9 @@ namespace commands {
 
 using namespace Qt::Literals::StringLiterals;
 
+// Characters in a line of the paper.
+inline constexpr int lineWidth = 32;
+
 // A printed line: opener, text, closer. The printer centres nothing itself: the spaces of a
 // centred line stand between the opener and the text.
 inline constexpr auto lineOpener = "=\"/("_L1;

@@ -58,7 +58,7 @@ CompanyPrinterDriver::CompanyPrinterDriver(const QString &outputPath, bool appen
 {
 }
 
-int CompanyPrinterDriver::getPaperWidth() { return 32; }
+int CompanyPrinterDriver::getPaperWidth() { return commands::lineWidth; }
 
 void CompanyPrinterDriver::setBold() { }
 
