@@ -1,7 +1,9 @@
 # Tests run in a locale with a decimal comma and with a HOME that does not exist.
 #
 #   korvel_add_test(name libraries...)     builds unit/tst_<name>.cpp
-#   korvel_add_program_test(name source)   builds a test that runs the renderer itself
+#   korvel_add_program_test(name source more...)
+#                                          builds a test that runs the renderer itself, as
+#                                          KORVEL_PRINT, and more targets, named the same way
 #   korvel_repeat_with_hash_seeds(name)    runs a test again with twenty seeds of the toolkit's hash
 #   korvel_add_fuzz_target(name libraries...)
 #                                          builds fuzz/fuzz_<name>.cpp and runs it on its corpus; with
@@ -37,7 +39,14 @@ function(korvel_add_program_test name source)
     add_dependencies(tst_${name} korvel-print korvel-translations)
     target_compile_definitions(tst_${name} PRIVATE
         KORVEL_BINARY_DIR="${PROJECT_BINARY_DIR}"
+        KORVEL_VERSION="${PROJECT_VERSION}"
         KORVEL_PRINT="$<TARGET_FILE:korvel-print>")
+    foreach(target IN LISTS ARGN)
+        string(TOUPPER ${target} definition)
+        string(REPLACE - _ definition ${definition})
+        add_dependencies(tst_${name} ${target})
+        target_compile_definitions(tst_${name} PRIVATE ${definition}="$<TARGET_FILE:${target}>")
+    endforeach()
 endfunction()
 
 function(korvel_add_test_from name source)

@@ -1,0 +1,305 @@
+// The commands of the printer's language as tables, matched and written.
+#include "companions/preview/decoder.h"
+
+#include "companions/preview/text.h"
+#include "printer/company/commands.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace preview {
+
+namespace {
+
+using Kind = Command::Kind;
+
+/// A piece of a command: fixed bytes, and the text that stands behind them, if any.
+struct Part
+{
+    QLatin1StringView bytes;
+    QByteArray Command::*text = nullptr;
+};
+
+/// A command with its pieces.
+struct Form
+{
+    Kind kind;
+    const Part *parts;
+    qsizetype count;
+};
+
+constexpr Part lineParts[] = {
+    {commands::lineOpener, &Command::content},
+    {commands::lineCloser                   },
+};
+constexpr Part saleRowParts[] = {
+    {commands::saleDepartment, &Command::department},
+    {commands::saleAmount,                        &Command::amount},
+    {commands::saleQuantity,&Command::quantity},
+    {commands::saleDescription,   &Command::description},
+    {commands::saleEnd                       },
+};
+constexpr Part deductionParts[] = {
+    {commands::announceDeduction},
+    {commands::deductionAmount,   &Command::amount},
+    {commands::deductionEnd                          },
+};
+
+constexpr Form forms[] = {
+    {Kind::Line,      lineParts,      std::size(lineParts)     },
+    {Kind::SaleRow,   saleRowParts,   std::size(saleRowParts)  },
+    {Kind::Deduction, deductionParts, std::size(deductionParts)},
+};
+
+/// A command without a text. The bytes that open a document close it too: sortSections() tells
+/// them apart.
+struct Mark
+{
+    Kind kind;
+    Section section;
+    QLatin1StringView bytes;
+};
+
+constexpr Mark marks[] = {
+    {Kind::SectionOpened, Section::Fiscal,   commands::openFiscal   },
+    {Kind::SectionClosed, Section::Fiscal,   commands::closeFiscal  },
+    {Kind::SectionOpened, Section::Receipt,  commands::openReceipt  },
+    {Kind::SectionOpened, Section::Document, commands::openDocument },
+    {Kind::SectionClosed, Section::Receipt,  commands::closeDocument},
+    {Kind::SectionClosed, Section::Document, commands::closeDocument},
+};
+
+QByteArrayView bytesOf(QLatin1StringView text) { return {text.data(), text.size()}; }
+
+QByteArrayView slice(QByteArrayView stream, qsizetype offset, qsizetype length)
+{
+    const qsizetype start = std::min(offset, stream.size());
+    return stream.sliced(start, std::min(length, stream.size() - start));
+}
+
+/// How many bytes of `expected` stand at an offset of the stream.
+qsizetype commonBytes(QByteArrayView stream, qsizetype offset, QByteArrayView expected)
+{
+    const QByteArrayView found = slice(stream, offset, expected.size());
+    return std::mismatch(found.begin(), found.end(), expected.begin(), expected.end()).first
+           - found.begin();
+}
+
+/// A try to read a command.
+struct Match
+{
+    Command command;
+    qsizetype end = 0; // behind the last byte that fits
+    bool whole = false;
+    bool begun = false; // the first piece at least is there
+};
+
+/// Where a text that may hold anything ends, or what is wrong with it. It reaches to the bytes that
+/// close it, unless a command begins on a new line before.
+struct TextEnd
+{
+    qsizetype end = 0;
+    bool closed = false;
+};
+
+TextEnd endOfText(QByteArrayView stream, qsizetype start, QByteArrayView closer)
+{
+    const qsizetype nextCommand = stream.indexOf("\n=", start);
+    const QByteArrayView text =
+        slice(stream, start, nextCommand < 0 ? stream.size() : nextCommand + 1 - start);
+    if (const qsizetype end = text.indexOf(closer); end >= 0)
+        return {start + end, true};
+
+    const QByteArrayView almost = closer.chopped(1); // without its line feed
+    if (const qsizetype end = text.indexOf(almost); end >= 0)
+        return {start + end + almost.size(), false};
+    const auto *const bad = std::find_if(text.begin(), text.end(),
+                                         [](char byte) { return byte == ')' || byte == '\n'; });
+    return {start + (bad - text.begin()), false};
+}
+
+/// Where a field of a row ends: before the mark of the next one, or where that should have stood.
+qsizetype endOfField(QByteArrayView stream, qsizetype start, QByteArrayView closer)
+{
+    const qsizetype feed = stream.indexOf('\n', start);
+    const QByteArrayView row = slice(stream, start, feed < 0 ? stream.size() : feed + 1 - start);
+    if (const qsizetype end = row.indexOf(closer); end >= 0)
+        return start + end;
+    const auto *const bad = std::find_if(row.begin(), row.end(), [&](char byte) {
+        return byte == closer.front() || byte == '/' || byte == '\n';
+    });
+    return start + (bad - row.begin());
+}
+
+Match match(const Form &form, QByteArrayView stream, qsizetype offset)
+{
+    Match result;
+    result.command.kind = form.kind;
+    result.end = offset;
+    for (qsizetype i = 0; i < form.count; ++i) {
+        const Part &part = form.parts[i];
+        const QByteArrayView bytes = bytesOf(part.bytes);
+        const qsizetype fitting = commonBytes(stream, result.end, bytes);
+        result.end += fitting;
+        if (fitting < bytes.size())
+            return result;
+        result.begun = true;
+        if (!part.text)
+            continue;
+
+        const qsizetype start = result.end;
+        const QByteArrayView closer = bytesOf(form.parts[i + 1].bytes);
+        if (part.text == &Command::content || part.text == &Command::description) {
+            const TextEnd text = endOfText(stream, start, closer);
+            result.end = text.end;
+            if (!text.closed)
+                return result;
+        } else {
+            result.end = endOfField(stream, start, closer);
+        }
+        result.command.*part.text = stream.sliced(start, result.end - start).toByteArray();
+    }
+    result.whole = true;
+    return result;
+}
+
+/// What stands at an offset: the mark or the command that fits, or how far the best one does.
+Match bestMatch(QByteArrayView stream, qsizetype offset)
+{
+    Match best;
+    best.end = offset;
+    for (const Mark &mark : marks) {
+        const QByteArrayView bytes = bytesOf(mark.bytes);
+        const qsizetype end = offset + commonBytes(stream, offset, bytes);
+        if (end < offset + bytes.size()) {
+            best.end = std::max(best.end, end);
+            continue;
+        }
+        best.end = end;
+        best.command.kind = mark.kind;
+        best.command.section = mark.section;
+        best.whole = true;
+        return best;
+    }
+    for (const Form &form : forms) {
+        Match result = match(form, stream, offset);
+        if (result.whole)
+            return result;
+        if (result.end > best.end || (result.begun && result.end == best.end))
+            best = std::move(result);
+    }
+    return best;
+}
+
+/// Behind the line feed that ends the line of an offset.
+qsizetype endOfLine(const QByteArray &stream, qsizetype offset)
+{
+    const qsizetype feed = stream.indexOf('\n', offset);
+    return feed < 0 ? stream.size() : feed + 1;
+}
+
+/// Takes the blanks that centre a line off its content.
+void splitCentring(Command &command)
+{
+    const auto *const text = std::find_if(command.content.cbegin(), command.content.cend(),
+                                          [](char byte) { return byte != ' '; });
+    const auto blanks = text - command.content.cbegin();
+    const qsizetype width = decoded(command.content).size();
+
+    // With s blanks before n characters: s = (W - n) / 2 rounded down, and s + n is the width.
+    for (const qsizetype spaces : {commands::lineWidth - width, commands::lineWidth - 1 - width}) {
+        if (spaces < 1 || spaces > blanks)
+            continue;
+        command.spaces = static_cast<int>(spaces);
+        command.content.remove(0, spaces);
+        return;
+    }
+}
+
+/// Tells closing commands from opening ones where their bytes are the same.
+void sortSections(QList<Command> &commands)
+{
+    std::optional<Section> open;
+    for (qsizetype i = 0; i < commands.size(); ++i) {
+        Command &command = commands[i];
+        if (command.kind == Kind::SectionClosed) { // a fiscal one: its bytes are its own
+            if (open == Section::Fiscal)
+                open.reset();
+        } else if (command.kind == Kind::SectionOpened && command.section != Section::Document) {
+            open = command.section;
+        } else if (command.kind == Kind::SectionOpened) {
+            const bool last = i + 1 == commands.size();
+            const bool opensNext = !last && commands[i + 1].kind == Kind::SectionOpened
+                                   && commands[i + 1].section != Section::Document;
+            if (open == Section::Receipt || open == Section::Document
+                || (!open && (last || opensNext))) {
+                command.kind = Kind::SectionClosed;
+                command.section = open.value_or(Section::Document);
+                open.reset();
+            } else {
+                open = Section::Document;
+            }
+        }
+    }
+}
+
+} // namespace
+
+QList<Command> decode(const QByteArray &stream)
+{
+    QList<Command> commands;
+    qsizetype line = 1;
+    for (qsizetype offset = 0; offset < stream.size();) {
+        Match result = bestMatch(stream, offset);
+        Command &command = result.command;
+        qsizetype end = result.end;
+        if (!result.whole) {
+            end = endOfLine(stream, offset);
+            // Of a pair of commands with a bad second one, that one is bad too.
+            if (result.end > end && !bestMatch(stream, end).whole)
+                end = endOfLine(stream, result.end);
+            Command unknown;
+            unknown.content = stream.sliced(offset, end - offset);
+            unknown.badByte = result.end;
+            if (result.begun)
+                unknown.begunAs = command.kind;
+            command = std::move(unknown);
+        } else if (command.kind == Kind::Line) {
+            splitCentring(command);
+        }
+        command.offset = offset;
+        command.line = line;
+        line += std::count(stream.cbegin() + offset, stream.cbegin() + end, '\n');
+        commands.append(std::move(command));
+        offset = end;
+    }
+    sortSections(commands);
+    return commands;
+}
+
+QByteArray encode(const Command &command)
+{
+    if (command.kind == Kind::Unknown)
+        return command.content;
+
+    for (const Mark &mark : marks) {
+        if (mark.kind == command.kind && mark.section == command.section)
+            return bytesOf(mark.bytes).toByteArray();
+    }
+    QByteArray bytes;
+    for (const Form &form : forms) {
+        if (form.kind != command.kind)
+            continue;
+        for (qsizetype i = 0; i < form.count; ++i) {
+            const Part &part = form.parts[i];
+            bytes += bytesOf(part.bytes);
+            if (part.text == &Command::content)
+                bytes += QByteArray(command.spaces, ' ');
+            if (part.text)
+                bytes += command.*part.text;
+        }
+    }
+    return bytes;
+}
+
+} // namespace preview

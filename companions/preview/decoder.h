@@ -1,0 +1,62 @@
+// The printer's command stream taken apart: bytes to commands, and back.
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+
+#include <optional>
+
+namespace preview {
+
+/// What a section of the stream is to the printer.
+enum class Section { Fiscal, Receipt, Document };
+
+/**
+ * One command of the stream. Texts are bytes as they stand in it: UTF-8, unless something went
+ * wrong on the way.
+ */
+struct Command
+{
+    /// Unknown is what fits no command, kept with its bytes.
+    enum class Kind { Line, SectionOpened, SectionClosed, SaleRow, Deduction, Unknown };
+
+    Kind kind = Kind::Unknown;
+    qsizetype offset = 0;                // of the first byte, in the stream
+    qsizetype line = 1;                  // of the stream, counted in line feeds from 1
+    Section section = Section::Document; // opened or closed
+    int spaces = 0;                      // Line: the blanks that centre it
+    QByteArray content;                  // Line: the text behind those blanks; Unknown: all bytes
+    QByteArray department;               // SaleRow
+    QByteArray amount;                   // SaleRow, Deduction: hundredths, in decimal
+    QByteArray quantity;                 // SaleRow
+    QByteArray description;              // SaleRow
+
+    /// Unknown: offset of the first byte that does not fit; the stream's size when it ends too
+    /// early.
+    qsizetype badByte = 0;
+
+    /// Unknown: what it would have been, where its beginning tells.
+    std::optional<Kind> begunAs;
+};
+
+/**
+ * Takes a stream apart. Every byte of it belongs to one command, in order; any bytes at all can be
+ * given.
+ *
+ * A line counts as centred when so many blanks stand before its text as the back end puts there
+ * for a text of that length. A line that is indented by just as many may be either, and counts as
+ * centred.
+ *
+ * The command that opens a document also closes one, and closes receipts. It closes when a receipt
+ * or document is open; when none is open, it still counts as closing where nothing follows or
+ * another section is opened next. Otherwise it opens.
+ *
+ * What fits no command is unknown up to and including its next line feed; a pair of commands with
+ * a broken second one is unknown as a whole.
+ */
+QList<Command> decode(const QByteArray &stream);
+
+/// The bytes of a command, put together from what it holds.
+QByteArray encode(const Command &command);
+
+} // namespace preview

@@ -1,0 +1,36 @@
+// What is wrong with a command stream.
+#pragma once
+
+#include "companions/preview/decoder.h"
+
+#include <QString>
+
+namespace preview {
+
+/// Something that a printer would refuse, misread or cut.
+struct Finding
+{
+    qsizetype offset = 0; // of the byte it is about, in the stream
+    qsizetype line = 1;   // of the stream, counted in line feeds from 1
+    QString text;         // one line, the offset included
+};
+
+/// No more findings than these are listed; one that says so is the last.
+inline constexpr qsizetype mostFindings = 1000;
+
+/**
+ * What is wrong with a stream, in the order of its bytes.
+ *
+ * An empty stream, lines and rows wider than the paper, unknown and broken commands, sections left
+ * open or closed twice, sale rows and deductions outside a fiscal section, amounts that are no
+ * whole hundredths, quantities that are no number, and bytes in a text that a printer would
+ * misread: a closing parenthesis, which ends the text, a slash in a field of a sale row, control
+ * characters, and what is not UTF-8. Rows too large to be added up are said too.
+ *
+ * @param stream   the bytes
+ * @param commands the same, decoded
+ * @param columns  characters in a line of the paper
+ */
+QList<Finding> findings(const QByteArray &stream, const QList<Command> &commands, int columns);
+
+} // namespace preview

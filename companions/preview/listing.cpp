@@ -1,0 +1,135 @@
+// What each command is called, to people and to programs.
+#include "companions/preview/listing.h"
+
+#include "companions/preview/text.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace preview {
+
+namespace {
+
+using Kind = Command::Kind;
+
+struct KindNames
+{
+    Kind kind;
+    QLatin1StringView name;
+    QLatin1StringView key; // in JSON
+};
+
+constexpr KindNames kinds[] = {
+    {Kind::Line,          "text line"_L1,       "line"_L1          },
+    {Kind::SectionOpened, "section opening"_L1, "section-opened"_L1},
+    {Kind::SectionClosed, "section closing"_L1, "section-closed"_L1},
+    {Kind::SaleRow,       "sale row"_L1,        "sale-row"_L1      },
+    {Kind::Deduction,     "deduction"_L1,       "deduction"_L1     },
+    {Kind::Unknown,       "unknown command"_L1, "unknown"_L1       },
+};
+
+struct SectionNames
+{
+    Section section;
+    QLatin1StringView name;
+    QLatin1StringView key; // in JSON
+};
+
+constexpr SectionNames sections[] = {
+    {Section::Fiscal,   "fiscal section"_L1,   "fiscal"_L1  },
+    {Section::Receipt,  "receipt section"_L1,  "receipt"_L1 },
+    {Section::Document, "document section"_L1, "document"_L1},
+};
+
+const KindNames &namesOf(Kind kind)
+{
+    const KindNames *row = kinds;
+    while (row->kind != kind)
+        ++row;
+    return *row;
+}
+
+const SectionNames &namesOf(Section section)
+{
+    const SectionNames *row = sections;
+    while (row->section != section)
+        ++row;
+    return *row;
+}
+
+QString quoted(const QByteArray &text) { return u'"' + escaped(text) + u'"'; }
+
+QString meaning(const Command &command)
+{
+    switch (command.kind) {
+    case Kind::Line:
+        return u"text line, "_s
+               + (command.spaces > 0 ? QString::number(command.spaces) + u" centring blanks, "_s
+                                     : QString())
+               + quoted(command.content);
+    case Kind::SectionOpened:
+        return sectionName(command.section) + u" opened"_s;
+    case Kind::SectionClosed:
+        return sectionName(command.section) + u" closed"_s;
+    case Kind::SaleRow:
+        return u"sale row, department "_s + quoted(command.department) + u", amount "_s
+               + quoted(command.amount) + u", quantity "_s + quoted(command.quantity)
+               + u", description "_s + quoted(command.description);
+    case Kind::Deduction:
+        return u"deduction, amount "_s + quoted(command.amount);
+    case Kind::Unknown:
+        break;
+    }
+    return u"unknown command, "_s + quoted(command.content);
+}
+
+} // namespace
+
+QString sectionName(Section section) { return namesOf(section).name; }
+
+QString kindName(Kind kind) { return namesOf(kind).name; }
+
+QString listed(const Command &command)
+{
+    return QString::number(command.offset).rightJustified(8) + u' '
+           + QString::number(command.line).rightJustified(6) + u"  "_s + meaning(command);
+}
+
+QJsonObject toJson(const Command &command)
+{
+    QJsonObject object{
+        {u"command"_s, namesOf(command.kind).key},
+        {u"offset"_s,  command.offset           },
+        {u"line"_s,    command.line             },
+    };
+    const auto text = [&](const QString &key, const QByteArray &bytes) {
+        object.insert(key, decoded(bytes));
+    };
+    switch (command.kind) {
+    case Kind::Line:
+        object.insert(u"spaces"_s, command.spaces);
+        text(u"text"_s, command.content);
+        break;
+    case Kind::SectionOpened:
+    case Kind::SectionClosed:
+        object.insert(u"section"_s, namesOf(command.section).key);
+        break;
+    case Kind::SaleRow:
+        text(u"department"_s, command.department);
+        text(u"amount"_s, command.amount);
+        text(u"quantity"_s, command.quantity);
+        text(u"description"_s, command.description);
+        break;
+    case Kind::Deduction:
+        text(u"amount"_s, command.amount);
+        break;
+    case Kind::Unknown:
+        object.insert(u"badByte"_s, command.badByte);
+        break;
+    }
+    const QByteArray bytes = encode(command);
+    if (command.kind == Kind::Unknown || !bytes.isValidUtf8())
+        text(u"bytes"_s, bytes.toHex());
+    return object;
+}
+
+} // namespace preview

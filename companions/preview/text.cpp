@@ -1,0 +1,84 @@
+// UTF-8 taken apart, and what is shown for characters that do not print.
+#include "companions/preview/text.h"
+
+#include <QList>
+#include <QStringDecoder>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace preview {
+
+QString decoded(QByteArrayView text)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless
+                                                     | QStringDecoder::Flag::ConvertInitialBom);
+    return decoder(text);
+}
+
+bool isPrintable(char32_t character)
+{
+    const QChar::Category category = QChar::category(character);
+    return QChar::isPrint(character) && category != QChar::Separator_Line
+           && category != QChar::Separator_Paragraph;
+}
+
+qsizetype characterLength(QByteArrayView text)
+{
+    if (text.isEmpty())
+        return 0;
+    const auto lead = static_cast<unsigned char>(text.front());
+    qsizetype length = 1;
+    if (lead >= 0xF0)
+        length = 4;
+    else if (lead >= 0xE0)
+        length = 3;
+    else if (lead >= 0xC0)
+        length = 2;
+    return length <= text.size() && text.first(length).isValidUtf8() ? length : 0;
+}
+
+bool isControl(QByteArrayView character)
+{
+    const QList<uint> points = decoded(character).toUcs4();
+    return points.size() == 1 && QChar::category(points.front()) == QChar::Other_Control;
+}
+
+QString escaped(QByteArrayView bytes)
+{
+    QString text;
+    while (!bytes.isEmpty()) {
+        const qsizetype length = characterLength(bytes);
+        const QByteArrayView character = bytes.first(length > 0 ? length : 1);
+        const QString shown = decoded(character);
+        const char first = character.front();
+        if (first == '\n')
+            text += "\\n"_L1;
+        else if (first == '\r')
+            text += "\\r"_L1;
+        else if (first == '\t')
+            text += "\\t"_L1;
+        else if (first == '\\')
+            text += "\\\\"_L1;
+        else if (length > 0 && isPrintable(shown.toUcs4().front()))
+            text += shown;
+        else
+            for (const char byte : character)
+                text += "\\x"_L1 + QString::fromLatin1(QByteArray(1, byte).toHex());
+        bytes = bytes.sliced(character.size());
+    }
+    return text;
+}
+
+QString printable(const QString &text)
+{
+    QString shown;
+    for (const uint point : text.toUcs4()) {
+        if (isPrintable(point))
+            shown += QChar::fromUcs4(point);
+        else
+            shown += QString(QChar::requiresSurrogates(point) ? 2 : 1, QChar::ReplacementCharacter);
+    }
+    return shown;
+}
+
+} // namespace preview

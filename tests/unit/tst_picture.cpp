@@ -1,0 +1,405 @@
+// The paper as a picture: sizes, paper, ink and colours dot by dot, the pages of a PDF.
+#include "companions/preview/picture.h"
+#include "support/program.h"
+
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+
+using preview::PaperRow;
+using preview::Picture;
+using Kind = preview::PaperRow::Kind;
+
+namespace {
+
+constexpr int columns = 32;
+constexpr int paperWidth = 40 + columns * 12 + 40;
+
+QList<PaperRow> printed(const QStringList &texts)
+{
+    QList<PaperRow> rows;
+    for (const QString &text : texts)
+        rows.append({Kind::Printed, text});
+    return rows;
+}
+
+QImage imageOf(const QList<PaperRow> &rows) { return Picture(rows, columns).toImage(); }
+
+/// The cell of a character of the paper, both counted from 0.
+QRect cellOf(int column, int row) { return {40 + column * 12, 24 + row * 24, 12, 24}; }
+
+/// All dots of a part of an image.
+QList<QColor> dotsOf(const QImage &image, const QRect &part)
+{
+    QList<QColor> dots;
+    for (int y = part.top(); y <= part.bottom(); ++y)
+        for (int x = part.left(); x <= part.right(); ++x)
+            dots.append(image.pixelColor(x, y));
+    return dots;
+}
+
+bool isPaper(const QColor &dot) { return dot == QColor(Qt::white); }
+bool isBlack(const QColor &dot) { return dot.alpha() == 255 && dot.lightness() < 64; }
+bool isTransparent(const QColor &dot) { return dot.alpha() == 0; }
+bool isGrey(const QColor &dot)
+{
+    return dot.alpha() == 255 && dot.saturation() == 0 && dot.lightness() > 64
+           && dot.lightness() < 192;
+}
+bool isRed(const QColor &dot)
+{
+    return dot.alpha() == 255 && dot.red() > 128 && dot.green() < 64 && dot.blue() < 64;
+}
+
+bool all(const QList<QColor> &dots, bool (*is)(const QColor &))
+{
+    return std::all_of(dots.begin(), dots.end(), is);
+}
+bool any(const QList<QColor> &dots, bool (*is)(const QColor &))
+{
+    return std::any_of(dots.begin(), dots.end(), is);
+}
+
+bool writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+}
+
+/// A roll of numbered rows.
+QList<PaperRow> roll(int length)
+{
+    QStringList texts;
+    for (int i = 1; i <= length; ++i)
+        texts.append("row " + QString::number(i));
+    return printed(texts);
+}
+
+} // namespace
+
+class TestPicture : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(Picture::hasFont()); }
+
+    void size_data()
+    {
+        QTest::addColumn<QStringList>("texts");
+        QTest::addColumn<int>("width"); // of the paper, in characters
+        QTest::addColumn<QSize>("size");
+        const auto row = [](const char *name, const QStringList &texts, int width, QSize size) {
+            QTest::newRow(name) << texts << width << size;
+        };
+
+        row("no rows: both torn edges", {}, 32, {464, 24 + 24});
+        row("one row", {"x"}, 32, {464, 24 + 24 + 24});
+        row("an empty row is a row", {""}, 32, {464, 24 + 24 + 24});
+        row("30 rows", QStringList(30, "x"), 32, {464, 24 + 720 + 24});
+        row("a row as wide as the paper", {QString(32, 'x')}, 32, {464, 24 + 24 + 24});
+        row("one column", {"x"}, 1, {40 + 12 + 40, 24 + 24 + 24});
+        row("42 columns", {"x"}, 42, {40 + 504 + 40, 24 + 24 + 24});
+        row("255 columns", {QString(255, 'x')}, 255, {40 + 3060 + 40, 24 + 24 + 24});
+        row("an emoji takes two columns", {QString::fromUtf8("\xF0\x9F\x8D\x95").repeated(16)}, 32,
+            {464, 24 + 24 + 24});
+    }
+
+    void size()
+    {
+        QFETCH(QStringList, texts);
+        QFETCH(int, width);
+        QFETCH(QSize, size);
+        const Picture picture(printed(texts), width);
+        QCOMPARE(picture.rowCount(), texts.size());
+        QCOMPARE(picture.size(), size);
+        const QImage image = picture.toImage();
+        QCOMPARE(image.size(), size);
+        // 203 dots an inch of 25.4 mm
+        QCOMPARE(image.dotsPerMeterX(), 7992);
+        QCOMPARE(image.dotsPerMeterY(), 7992);
+    }
+
+    void aWiderRowMakesThePictureWider()
+    {
+        const auto widthOf = [](int characters) {
+            return Picture(printed({QString(characters, 'x')}), columns).size().width();
+        };
+        QCOMPARE(widthOf(columns), paperWidth);
+        QVERIFY(widthOf(columns + 1) >= paperWidth + 12);
+        for (const int more : {2, 10, 2600 - columns})
+            QCOMPARE(widthOf(columns + more), widthOf(columns + 1) + (more - 1) * 12);
+        // Whatever is wider ends in a mark.
+        QCOMPARE(widthOf(2601), widthOf(2600));
+        QCOMPARE(widthOf(100000), widthOf(2600));
+    }
+
+    void paperAndInk()
+    {
+        const QImage image = imageOf(printed({"X  X", "", QString(31, ' ') + "X"}));
+        const auto cell = [&](int column, int row) { return dotsOf(image, cellOf(column, row)); };
+
+        QVERIFY(any(cell(0, 0), isBlack));
+        QVERIFY(all(cell(1, 0), isPaper));
+        QVERIFY(all(cell(2, 0), isPaper));
+        QVERIFY(any(cell(3, 0), isBlack));
+        for (int column = 4; column < columns; ++column)
+            QVERIFY(all(cell(column, 0), isPaper));
+        for (int column = 0; column < columns; ++column)
+            QVERIFY(all(cell(column, 1), isPaper));
+        QVERIFY(all(cell(30, 2), isPaper));
+        QVERIFY(any(cell(31, 2), isBlack));
+
+        // The margins beside the rows.
+        QVERIFY(all(dotsOf(image, {2, 24, 37, 3 * 24}), isPaper));
+        QVERIFY(all(dotsOf(image, {40 + columns * 12, 24, 37, 3 * 24}), isPaper));
+    }
+
+    void everyLetterStaysInItsCell()
+    {
+        for (const QChar letter : QString("AMWgjQ#@_|/0")) {
+            const QImage image = imageOf(printed({QString(3, ' ') + letter}));
+            QVERIFY2(any(dotsOf(image, cellOf(3, 0)), isBlack)
+                         || any(dotsOf(image, cellOf(3, 0)), isGrey),
+                     qPrintable(letter));
+            QVERIFY2(!any(dotsOf(image, cellOf(2, 0)), isBlack), qPrintable(letter));
+            QVERIFY2(!any(dotsOf(image, cellOf(4, 0)), isBlack), qPrintable(letter));
+        }
+    }
+
+    /// Columns are UTF-16 units, so that what follows an accent or an emoji stands in its column.
+    void whatFollowsStandsInItsColumn_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("column"); // of the X at its end
+
+        QTest::newRow("a letter") << "eX" << 1;
+        QTest::newRow("an accented letter") << QString::fromUtf8("\xC3\xA8X") << 1;
+        QTest::newRow("an accent of its own") << QString::fromUtf8("e\xCC\x80X") << 2;
+        QTest::newRow("an emoji") << QString::fromUtf8("\xF0\x9F\x8D\x95X") << 2;
+        QTest::newRow("half an emoji") << QString(QChar(0xD83C)) + "X" << 1;
+    }
+
+    void whatFollowsStandsInItsColumn()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, column);
+        const QImage image = imageOf(printed({text}));
+        const QImage alone = imageOf(printed({QString(column, ' ') + "X"}));
+        QCOMPARE(dotsOf(image, cellOf(column, 0)), dotsOf(alone, cellOf(column, 0)));
+        QVERIFY(any(dotsOf(image, cellOf(column, 0)), isBlack));
+        QVERIFY(all(dotsOf(image, cellOf(column + 1, 0)), isPaper));
+    }
+
+    void edgesAreTorn()
+    {
+        const QImage image = imageOf(printed({"x", "x"}));
+        const int bottom = image.height() - 1;
+        for (const int y : {0, bottom}) {
+            const QList<QColor> edge = dotsOf(image, {0, y, image.width(), 1});
+            QVERIFY(any(edge, isTransparent));
+            QVERIFY(!all(edge, isTransparent));
+        }
+        for (const QPoint corner :
+             {QPoint(0, 0), QPoint(paperWidth - 1, 0), QPoint(0, bottom), QPoint(463, bottom)})
+            QVERIFY(isTransparent(image.pixelColor(corner)));
+        // A tooth is no longer than a third of what stands above the first row.
+        QVERIFY(all(dotsOf(image, {2, 10, paperWidth - 4, 14}), isPaper));
+        QVERIFY(all(dotsOf(image, {2, bottom - 23, paperWidth - 4, 14}), isPaper));
+    }
+
+    void whatIsWiderThanThePaperIsRed()
+    {
+        const QString text = "X" + QString(30, ' ') + "XYX";
+        const Picture picture(printed({text, "X"}), columns);
+        const QImage image = picture.toImage();
+        QVERIFY(image.width() > paperWidth);
+
+        // The paper is as it is without what is beyond it.
+        const QImage paper = imageOf(printed({text.left(columns), "X"}));
+        QVERIFY(image.copy(0, 0, paperWidth - 1, image.height())
+                == paper.copy(0, 0, paperWidth - 1, image.height()));
+        QVERIFY(!any(dotsOf(paper, paper.rect()), isRed));
+
+        // Behind its edge: red in the first row, and nothing but red.
+        const QRect beyond(paperWidth + 1, 0, image.width() - paperWidth - 1, image.height());
+        for (const QColor &dot : dotsOf(image, beyond))
+            QVERIFY2(isTransparent(dot) || (dot.red() > dot.green() && dot.green() == dot.blue()),
+                     qPrintable(dot.name(QColor::HexArgb)));
+        const auto isRedInRow = [&](int row) {
+            return any(dotsOf(image, {beyond.x(), 24 + row * 24, beyond.width(), 24}), isRed);
+        };
+        QVERIFY(isRedInRow(0));
+        QVERIFY(!isRedInRow(1));
+    }
+
+    void aRowThatIsMuchTooWideEndsInAMark()
+    {
+        const auto imageOfRow = [](const QString &text) { return imageOf(printed({text})); };
+        const QImage marked = imageOfRow(QString(2599, 'x') + u'…');
+        QVERIFY(imageOfRow(QString(2601, 'x')) == marked);
+        QVERIFY(imageOfRow(QString(5000, 'x')) == marked);
+        QVERIFY(imageOfRow(QString(2600, 'x')) != marked);
+    }
+
+    void whatAnImageHolds_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<int>("characters"); // of each
+        QTest::addColumn<bool>("fits");
+
+        QTest::newRow("nothing") << 0 << 0 << true;
+        QTest::newRow("1300 rows") << 1300 << columns << true;
+        QTest::newRow("1301 rows") << 1301 << columns << false;
+        // 128,000,000 dots are 4096 in each row of dots of 1300 rows: room for 341 characters, less
+        // what margins take. 2600 characters are 31,200 dots and margins, of which 4102 rows of
+        // dots would be too many: those of 169 rows.
+        QTest::newRow("1300 rows of 330 characters") << 1300 << 330 << true;
+        QTest::newRow("1300 rows of 342 characters") << 1300 << 342 << false;
+        QTest::newRow("165 rows of 2600 characters") << 165 << 2600 << true;
+        QTest::newRow("169 rows of 2600 characters") << 169 << 2600 << false;
+    }
+
+    void whatAnImageHolds()
+    {
+        QFETCH(int, rows);
+        QFETCH(int, characters);
+        QFETCH(bool, fits);
+        const Picture picture(printed(QStringList(rows, QString(characters, 'x'))), columns);
+        QCOMPARE(picture.fitsImage(), fits);
+    }
+
+    void kindsHaveColours_data()
+    {
+        QTest::addColumn<Kind>("kind");
+        QTest::addColumn<QColor>("colour");
+
+        QTest::newRow("printed") << Kind::Printed << QColor(Qt::black);
+        QTest::newRow("registered") << Kind::Registered << QColor(Qt::black);
+        QTest::newRow("a deduction") << Kind::Deducted << QColor(Qt::black);
+        QTest::newRow("computed by the preview") << Kind::Computed << QColor(0x80, 0x80, 0x80);
+        QTest::newRow("unknown") << Kind::Unknown << QColor(0xC0, 0x20, 0x20);
+    }
+
+    void kindsHaveColours()
+    {
+        QFETCH(Kind, kind);
+        QFETCH(QColor, colour);
+        const QImage image = imageOf({
+            {kind, QString(2, QChar(0x2588))}
+        }); // full blocks
+        QCOMPARE(image.pixelColor(cellOf(0, 0).center()), colour);
+        QCOMPARE(image.pixelColor(cellOf(1, 0).center()), colour);
+    }
+
+    void whereAnotherDocumentFollowsThePaperIsCut()
+    {
+        const QImage image = imageOf({
+            {Kind::Printed, "X"},
+            {Kind::Cut,     {} },
+            {Kind::Printed, "X"}
+        });
+        const QRect between(2, 24 + 24, paperWidth - 4, 24);
+        QVERIFY(any(dotsOf(image, between), isGrey));
+        QVERIFY(any(dotsOf(image, between), isPaper));
+        QVERIFY(!any(dotsOf(image, between), isBlack));
+        // From edge to edge, and not at the rows beside it.
+        QVERIFY(any(dotsOf(image, {2, between.y(), 38, 24}), isGrey));
+        QVERIFY(any(dotsOf(image, {paperWidth - 40, between.y(), 38, 24}), isGrey));
+        QVERIFY(all(dotsOf(image, cellOf(1, 0)), isPaper));
+        QVERIFY(all(dotsOf(image, cellOf(1, 2)), isPaper));
+    }
+
+    void paintingLeavesTheRestAlone()
+    {
+        const Picture picture(printed({"X"}), columns);
+        QImage image(picture.size() + QSize(50, 50), QImage::Format_ARGB32_Premultiplied);
+        const QColor blue(0, 0, 255);
+        image.fill(blue);
+        QPainter painter(&image);
+        picture.paint(painter);
+        painter.end();
+        QCOMPARE(image.pixelColor(0, 0), blue);
+        for (const QColor &dot :
+             dotsOf(image, {paperWidth + 1, 0, 49, image.height()})
+                 + dotsOf(image, {0, picture.size().height() + 1, image.width(), 49}))
+            QCOMPARE(dot, blue);
+        QVERIFY(isPaper(image.pixelColor(20, 36)));
+        QVERIFY(any(dotsOf(image, cellOf(0, 0)), isBlack));
+    }
+
+    void pagesOfAPdf_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<QList<int>>("rowsOfPages");
+
+        QTest::newRow("no rows") << 0 << QList<int>{0};
+        QTest::newRow("one row") << 1 << QList<int>{1};
+        QTest::newRow("a receipt") << 30 << QList<int>{30};
+        QTest::newRow("as much as a page holds") << 1300 << QList<int>{1300};
+        QTest::newRow("one row more") << 1301 << QList<int>{1300, 1};
+        QTest::newRow("two pages") << 2600 << QList<int>{1300, 1300};
+        QTest::newRow("three pages") << 2601 << QList<int>{1300, 1300, 1};
+    }
+
+    void pagesOfAPdf()
+    {
+        QFETCH(int, rows);
+        QFETCH(QList<int>, rowsOfPages);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("roll.pdf");
+        QVERIFY(writeFile(path, Picture(roll(rows), columns).toPdf()));
+
+        const Run info = runProgram("pdfinfo", {"-l", "-1", path}, {});
+        QCOMPARE(info.status, 0);
+        QCOMPARE(info.standardError, "");
+        const QString text = QString::fromUtf8(info.standardOutput);
+        QVERIFY2(text.contains(QRegularExpression("(?m)^Creator: +korvel-preview$")),
+                 qPrintable(text));
+        QVERIFY2(
+            text.contains(QRegularExpression(QString("(?m)^Pages: +%1$").arg(rowsOfPages.size()))),
+            qPrintable(text));
+        // Dots of 1/203 inch in points of 1/72; a page is a whole number of points.
+        QList<int> found;
+        for (const auto &page :
+             QRegularExpression("(?m)^Page +(\\d+ )?size: +([\\d.]+) x ([\\d.]+) pts")
+                 .globalMatch(text)) {
+            const double height = 24 + 24 * rowsOfPages.value(found.size()) + 24;
+            QVERIFY2(std::abs(page.captured(2).toDouble() - 464 * 72 / 203.0) <= 1,
+                     qPrintable(text));
+            QVERIFY2(std::abs(page.captured(3).toDouble() - height * 72 / 203.0) <= 1,
+                     qPrintable(text));
+            found.append(rowsOfPages.value(found.size()));
+        }
+        QCOMPARE(found, rowsOfPages);
+    }
+
+    /// Every row is on a page once, in order.
+    void rowsOfAPdf()
+    {
+        constexpr int rows = 1305;
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("roll.pdf");
+        QVERIFY(writeFile(path, Picture(roll(rows), columns).toPdf()));
+
+        const Run run = runProgram("pdftotext", {path, "-"}, {});
+        QCOMPARE(run.status, 0);
+        QStringList found;
+        for (const auto &match :
+             QRegularExpression("row\\s*(\\d+)").globalMatch(QString::fromUtf8(run.standardOutput)))
+            found.append("row " + match.captured(1));
+        QStringList expected;
+        for (const PaperRow &row : roll(rows))
+            expected.append(row.text);
+        QCOMPARE(found, expected);
+    }
+};
+
+QTEST_MAIN(TestPicture)
+#include "tst_picture.moc"
