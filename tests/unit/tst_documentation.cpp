@@ -1,4 +1,6 @@
-// The reference pages: they name what the code reads and nothing else, and their examples are real.
+// The reference pages: they name what the code reads and nothing else, they say what the vocabulary
+// says, and their examples are real.
+#include "companions/check/vocabulary.h"
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
 
@@ -8,6 +10,8 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
+
+#include <algorithm>
 
 namespace {
 
@@ -260,6 +264,122 @@ QStringList pages()
     return paths;
 }
 
+// What the vocabulary says, in the form of the pages.
+
+/// The documents that a page speaks of in a word, beside those that go by their title.
+struct Phrase
+{
+    const char *words;
+    vocabulary::Documents documents;
+};
+
+constexpr vocabulary::Documents fiscalReceipts =
+    vocabulary::FiscalReceipt | vocabulary::SummaryFiscalReceipt;
+constexpr vocabulary::Documents receipts = vocabulary::Receipt | vocabulary::SummaryReceipt;
+constexpr vocabulary::Documents invoices = vocabulary::Invoice | vocabulary::SummaryInvoice;
+constexpr vocabulary::Documents withCustomer = vocabulary::FullOrder | vocabulary::Receipt
+                                               | invoices | vocabulary::KitchenOrder
+                                               | vocabulary::DeliveryNote;
+constexpr vocabulary::Documents shared = withCustomer | receipts | vocabulary::PeriodReport
+                                         | vocabulary::SoldItems | vocabulary::Statement;
+
+// All documents read some settings that none prints by.
+const Phrase phrases[] = {
+    {"all",                            0                        },
+    {"shared",                         shared                   },
+    {"every document with text lines", shared                   },
+    {"with a customer",                withCustomer             },
+    {"receipts",                       receipts                 },
+    {"invoices",                       invoices                 },
+    {"fiscal receipts",                fiscalReceipts           },
+    {"fiscal receipt alone",           vocabulary::FiscalReceipt},
+    {"statement",                      vocabulary::Statement    },
+};
+
+/// The documents that a cell lists, parted by commas; what stands in parentheses is left out. No
+/// setting has all the bits that a cell gives with a word that is not understood.
+vocabulary::Documents documentsIn(const QString &cell)
+{
+    static const QRegularExpression inParentheses(" \\([^)]*\\)");
+    vocabulary::Documents documents = 0;
+    for (const QString &words : QString(cell).remove(inParentheses).split(", ")) {
+        bool found = false;
+        for (const Phrase &phrase : phrases) {
+            if (words == phrase.words) {
+                documents |= phrase.documents;
+                found = true;
+            }
+        }
+        for (const vocabulary::Method &method : vocabulary::methods()) {
+            if (words == method.title) {
+                documents |= method.document;
+                found = true;
+            }
+        }
+        if (!found)
+            return ~0U;
+    }
+    return documents;
+}
+
+QString inBackticks(const QString &name) { return '`' + name + '`'; }
+
+/// The attributes of an element that a document reads.
+QList<vocabulary::Attribute> readAttributes(const vocabulary::Element &element,
+                                            vocabulary::Document document)
+{
+    auto rows = vocabulary::attributesOf(element.name, document);
+    rows.removeIf([](const auto &row) { return row.value == vocabulary::Value::Unread; });
+    return rows;
+}
+
+/// Two elements have a table of their own for their attributes.
+QString attributesCell(const vocabulary::Element &element, vocabulary::Document document)
+{
+    if (element.name == "orderinfo")
+        return "the table below";
+    if (element.name == "customer")
+        return "as above";
+    QStringList names;
+    for (const vocabulary::Attribute &row : readAttributes(element, document))
+        names.append(inBackticks(row.name));
+    if (names.isEmpty())
+        return element.anyAttribute ? "every attribute, whatever its name" : "none";
+    if (element.anyAttribute)
+        names.append("then three attributes of any name for each document");
+    return names.join(", ");
+}
+
+/// What switches an element on, or its lines one by one.
+QString switchCell(const vocabulary::Element &element)
+{
+    if (!element.setting.isEmpty())
+        return inBackticks(element.setting);
+    const auto rows = readAttributes(element, vocabulary::Receipt);
+    const bool eachByItsOwn =
+        !rows.isEmpty() && std::all_of(rows.begin(), rows.end(), [](const auto &row) {
+            return !row.setting.isEmpty();
+        });
+    return eachByItsOwn ? "each line by its own" : "always";
+}
+
+/// The kind of a setting by its unit.
+vocabulary::Kind kindOf(const QString &unit)
+{
+    if (unit == "switch")
+        return vocabulary::Kind::Switch;
+    return unit == "text" ? vocabulary::Kind::Text : vocabulary::Kind::Number;
+}
+
+/// Rows of cells as lines: what a failing test shows.
+QStringList asLines(const QList<QStringList> &rows)
+{
+    QStringList lines;
+    for (const QStringList &cells : rows)
+        lines.append(cells.join(" | "));
+    return lines;
+}
+
 // Examples: a job and what the renderer makes of it.
 
 /// A job as a page shows it: whole, or the elements after the method that its section is about.
@@ -473,6 +593,156 @@ private slots:
                 }
     }
 
+    // The vocabulary has the rows of the pages, in their order and in their words.
+
+    void methodsOfTheVocabulary()
+    {
+        const QString text = textOf(jobFormat);
+        QList<QStringList> expected;
+        for (const vocabulary::Method &row : vocabulary::methods()) {
+            expected.append({inBackticks(row.name), row.title, inBackticks(row.group)});
+            const QString title = QString(row.title.front()).toUpper() + QString(row.title).mid(1);
+            const QString heading = "\n## " + title + ": " + inBackticks(row.name) + '\n';
+            QVERIFY2(text.count(heading) == 1, qPrintable(heading));
+        }
+        QList<QStringList> rows;
+        for (const QStringList &cells : rowsOf(jobFormat, "method"))
+            rows.append(cells.first(3));
+        QCOMPARE(asLines(rows), asLines(expected));
+    }
+
+    void groupsOfTheVocabulary()
+    {
+        QStringList groups;
+        for (const QStringList &cells : rowsOf(settingsPage, "group")) {
+            groups.append(unquoted(cells[0]));
+            QCOMPARE(cells[1], inBackticks("korvel." + groups.last() + '.'));
+            QCOMPARE(documentsIn(cells[2]), vocabulary::documentsOf(groups.last()));
+            Names methods;
+            for (const vocabulary::Method &row : vocabulary::methods())
+                if (row.group == groups.last())
+                    methods.insert(row.name);
+            QCOMPARE(sorted(quotedIn(cells[2])), sorted(methods));
+        }
+        for (const vocabulary::Method &row : vocabulary::methods())
+            QVERIFY2(groups.count(row.group) == 1, row.group.data());
+    }
+
+    /// The printer's name, which comes with the headers, has a row on the page alone.
+    void sharedElementsOfTheVocabulary()
+    {
+        QList<QStringList> expected;
+        for (const vocabulary::Element &row : vocabulary::elements())
+            if (vocabulary::isShared(row))
+                expected.append({inBackticks(row.name), attributesCell(row, vocabulary::Receipt),
+                                 switchCell(row), row.meaning});
+        QList<QStringList> rows = rowsOf(jobFormat, "element", "## Shared elements");
+        QCOMPARE(rows.removeIf(
+                     [](const QStringList &cells) { return cells.first() == "`headers`, then"; }),
+                 1);
+        QCOMPARE(asLines(rows), asLines(expected));
+    }
+
+    void elementsOfTheVocabulary_data() { addMethods(); }
+
+    void elementsOfTheVocabulary()
+    {
+        const vocabulary::Method *method = vocabulary::findMethod(QString(QTest::currentDataTag()));
+        QVERIFY(method);
+        QList<QStringList> expected;
+        for (const vocabulary::Element &row : vocabulary::elements())
+            if ((row.documents & method->document) != 0 && !vocabulary::isShared(row))
+                expected.append(
+                    {inBackticks(row.name), attributesCell(row, method->document), row.meaning});
+        QList<QStringList> rows;
+        for (const Table &table : tablesAbout(method->name))
+            rows += table.rows;
+        QCOMPARE(asLines(rows), asLines(expected));
+    }
+
+    void attributesOfTheVocabulary_data()
+    {
+        QTest::addColumn<QString>("heading");
+        QTest::addColumn<QString>("element");
+        QTest::newRow("orderinfo") << "## Shared elements"
+                                   << "orderinfo";
+        QTest::newRow("customer") << "### Customer"
+                                  << "customer";
+    }
+
+    void attributesOfTheVocabulary()
+    {
+        QFETCH(QString, heading);
+        QFETCH(QString, element);
+        const vocabulary::Element *row = vocabulary::findElement(element, vocabulary::Receipt);
+        QVERIFY(row);
+        QList<QStringList> expected;
+        for (const vocabulary::Attribute &attribute : readAttributes(*row, vocabulary::Receipt))
+            expected.append(
+                {inBackticks(attribute.name),
+                 inBackticks(attribute.setting.isEmpty() ? row->setting : attribute.setting)});
+        QList<QStringList> rows;
+        for (const QStringList &cells : rowsOf(jobFormat, "attribute", heading))
+            rows.append(cells.first(2));
+        QCOMPARE(asLines(rows), asLines(expected));
+    }
+
+    /// The tables of the documents have no column for switches, nor is one needed there.
+    void switchesOfTheVocabulary()
+    {
+        for (const vocabulary::Element &row : vocabulary::elements())
+            QVERIFY2(vocabulary::isShared(row) || row.setting.isEmpty() || row.name == "customer",
+                     row.name.data());
+        for (const vocabulary::Attribute &row : vocabulary::attributes())
+            QVERIFY2(row.setting.isEmpty() || row.element == "orderinfo"
+                         || row.element == "customer",
+                     row.name.data());
+    }
+
+    void settingsOfTheVocabulary()
+    {
+        const QList<QStringList> rows = rowsOf(settingsPage, "key", "## Keys of a document");
+        const QList<vocabulary::Setting> &settings = vocabulary::settings();
+        QCOMPARE(rows.size(), settings.size());
+        for (qsizetype i = 0; i < rows.size(); ++i) {
+            const QString key = settings[i].key;
+            QCOMPARE(rows[i][0], inBackticks(key));
+            QCOMPARE(key + ": " + rows[i][1], key + ": " + settings[i].unit);
+            QVERIFY2(kindOf(rows[i][1]) == settings[i].kind, qPrintable(key));
+            QVERIFY2((rows[i][2] == "off") == (settings[i].kind == vocabulary::Kind::Switch),
+                     qPrintable(key));
+            QVERIFY2(documentsIn(rows[i][3]) == settings[i].documents, qPrintable(key));
+            QCOMPARE(key + ": " + rows[i][4], key + ": " + settings[i].meaning);
+        }
+    }
+
+    void languageSettingsOfTheVocabulary()
+    {
+        QList<QStringList> expected;
+        for (const vocabulary::LanguageSetting &row : vocabulary::languageSettings())
+            expected.append({inBackticks(QString("korvel.language.") + row.key), row.meaning});
+        QList<QStringList> rows;
+        for (const QStringList &cells : rowsOf(settingsPage, "key", "## Language"))
+            rows.append({cells.first(), cells.last()});
+        QCOMPARE(asLines(rows), asLines(expected));
+    }
+
+    /// A table of a kind that is compared above, under a heading that is not looked at there.
+    void noOtherTableHasRowsOfTheVocabulary()
+    {
+        const auto count = [](const QString &path, const QString &firstColumn) {
+            qsizetype tables = 0;
+            for (const Table &table : read(path).tables)
+                tables += table.columns.first() == firstColumn ? 1 : 0;
+            return tables;
+        };
+        QCOMPARE(count(jobFormat, "method"), 1);
+        QCOMPARE(count(jobFormat, "element"), 13); // the shared ones, all documents but one
+        QCOMPARE(count(jobFormat, "attribute"), 2);
+        QCOMPARE(count(settingsPage, "group"), 1);
+        QCOMPARE(count(settingsPage, "key"), 2);
+    }
+
     void everyMethodHasAnExample_data() { addMethods(); }
 
     void everyMethodHasAnExample()
@@ -636,6 +906,18 @@ private:
             if (table.heading == heading)
                 tables.append(table);
         return tables;
+    }
+
+    /// The rows of the tables whose first column is called so, of those under a heading if given.
+    static QList<QStringList> rowsOf(const QString &path, const QString &firstColumn,
+                                     const QString &heading = {})
+    {
+        QList<QStringList> rows;
+        for (const Table &table : read(path).tables)
+            if (table.columns.first() == firstColumn
+                && (heading.isEmpty() || table.heading == heading))
+                rows += table.rows;
+        return rows;
     }
 
     static Names sharedElements(const QList<Table> &tables)
