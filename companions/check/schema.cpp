@@ -1,0 +1,118 @@
+// RELAX NG, written from the tables.
+#include "companions/check/schema.h"
+
+#include "companions/check/vocabulary.h"
+
+#include <QXmlStreamWriter>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace check {
+
+namespace {
+
+using vocabulary::Attribute;
+using vocabulary::Element;
+using vocabulary::Method;
+
+class SchemaWriter
+{
+public:
+    QByteArray write()
+    {
+        xml.setAutoFormatting(true);
+        xml.setAutoFormattingIndent(2);
+        xml.writeStartDocument();
+        xml.writeStartElement(u"grammar"_s);
+        xml.writeDefaultNamespace(u"http://relaxng.org/ns/structure/1.0"_s);
+        xml.writeStartElement(u"start"_s);
+        xml.writeStartElement(u"element"_s); // the root, whatever its name
+        xml.writeEmptyElement(u"anyName"_s);
+        writeOtherAttributes({});
+        xml.writeStartElement(u"choice"_s);
+        for (const Method &method : vocabulary::methods())
+            writeDocument(method);
+        xml.writeEndDocument();
+        return bytes;
+    }
+
+private:
+    void writeDocument(const Method &method)
+    {
+        xml.writeStartElement(u"group"_s);
+        xml.writeStartElement(u"element"_s);
+        xml.writeAttribute(u"name"_s, u"method"_s);
+        xml.writeStartElement(u"attribute"_s);
+        xml.writeAttribute(u"name"_s, u"name"_s);
+        xml.writeStartElement(u"value"_s);
+        xml.writeAttribute(u"type"_s, u"string"_s);
+        xml.writeCharacters(method.name);
+        xml.writeEndElement();
+        xml.writeEndElement();
+        xml.writeEndElement();
+        if (method.document != vocabulary::SummaryOrder) { // it knows no element
+            xml.writeStartElement(u"zeroOrMore"_s);
+            xml.writeStartElement(u"choice"_s);
+            for (const Element &element : vocabulary::elements()) {
+                if ((element.documents & method.document) != 0)
+                    writeElement(element, method);
+            }
+            xml.writeEndElement();
+            xml.writeEndElement();
+        }
+        xml.writeEndElement();
+    }
+
+    void writeElement(const Element &element, const Method &method)
+    {
+        xml.writeStartElement(u"element"_s);
+        xml.writeAttribute(u"name"_s, element.name);
+        const QList<Attribute> known = vocabulary::attributesOf(element.name, method.document);
+        for (const Attribute &attribute : known)
+            writeAttribute(attribute);
+        if (element.anyAttribute)
+            writeOtherAttributes(known);
+        else if (known.isEmpty())
+            xml.writeEmptyElement(u"empty"_s);
+        xml.writeEndElement();
+    }
+
+    /// What is printed in any case has to be there; what has a switch, or is not printed, may be.
+    void writeAttribute(const Attribute &attribute)
+    {
+        const bool optional = vocabulary::isOptional(attribute);
+        if (optional)
+            xml.writeStartElement(u"optional"_s);
+        xml.writeEmptyElement(u"attribute"_s);
+        xml.writeAttribute(u"name"_s, attribute.name);
+        if (optional)
+            xml.writeEndElement();
+    }
+
+    void writeOtherAttributes(const QList<Attribute> &known)
+    {
+        xml.writeStartElement(u"zeroOrMore"_s);
+        xml.writeStartElement(u"attribute"_s);
+        if (known.isEmpty()) {
+            xml.writeEmptyElement(u"anyName"_s);
+        } else {
+            xml.writeStartElement(u"anyName"_s);
+            xml.writeStartElement(u"except"_s);
+            for (const Attribute &attribute : known)
+                xml.writeTextElement(u"name"_s, attribute.name);
+            xml.writeEndElement();
+            xml.writeEndElement();
+        }
+        xml.writeEndElement();
+        xml.writeEndElement();
+    }
+
+    QByteArray bytes;
+    QXmlStreamWriter xml{&bytes};
+};
+
+} // namespace
+
+QByteArray relaxNgSchema() { return SchemaWriter().write(); }
+
+} // namespace check
