@@ -103,6 +103,19 @@ QString orLonger(const QString &name, const QStringList &names)
     return {};
 }
 
+/// What a misspelt element may be in a document: the name that it is most like of all, if the
+/// document knows it, or a longer or shorter form of that.
+QString orSimilar(const QString &name, const QStringList &own, const QStringList &shared)
+{
+    QStringList all = own;
+    for (const Element &row : vocabulary::elements())
+        all.append(row.name);
+    const QString nearest = vocabulary::nearest(name, all);
+    if (nearest.isEmpty() || own.contains(nearest) || shared.contains(nearest))
+        return nearest.isEmpty() ? QString() : u"; did you mean \""_s + nearest + u"\"?"_s;
+    return orLonger(nearest, own);
+}
+
 /// An amount of a text document, taken apart.
 struct AmountText
 {
@@ -170,7 +183,7 @@ public:
 private:
     void note(QLatin1StringView code, Place place, const QString &text)
     {
-        findings.append({place, findCode(code), text, {}});
+        findings.append({place, findCode(code), text, {}, 0});
     }
 
     QLatin1StringView group() const { return method->group; }
@@ -248,7 +261,7 @@ private:
                      + orLonger(tag.name, here));
             return;
         }
-        const QString nearest = orNearest(tag.name, here + shared);
+        const QString nearest = orSimilar(tag.name, here, shared);
         const bool holder = isRoot || (tag.holdsOthers && tag.attributes.isEmpty());
         if (!holder)
             note("unknown-element"_L1, tag.place,
@@ -342,6 +355,7 @@ private:
     {
         const bool switchedOn = settings && !row.setting.isEmpty() && isOn(row.setting);
         return (switchedOn || !vocabulary::isOptional(row)) && !isRegistered(row)
+               && row.value != Value::Address // which prints no line then
                && !tag.find(row.name);
     }
 
@@ -566,8 +580,11 @@ QString whyUnread(const SettingsFile::Entry &entry)
     QStringList groups = {u"language"_s};
     for (const Method &method : vocabulary::methods())
         groups.append(method.group);
-    if (entry.groups.size() != 2)
-        return u"settings stand in a document's group or in language, in korvel"_s;
+    const QString places = u"settings stand in a document's group or in language, in korvel"_s;
+    if (entry.groups.size() > 2)
+        return places + u"; does a } lack its ;?"_s;
+    if (entry.groups.size() < 2)
+        return places;
     const QString group = entry.groups.constLast();
     if (!groups.contains(group))
         return u"no document reads the group "_s + group + orNearest(group, groups);
@@ -596,10 +613,11 @@ void checkValue(const SettingsFile::Entry &entry, QList<Finding> &findings)
     entry.value.toInt(&isNumber);
     if (setting->kind == Kind::Switch && entry.value != "true"_L1 && entry.value != "false"_L1)
         findings.append({entry.place, findCode(u"not-true"),
-                         what + u" and counts as off; only true switches it on"_s, path});
+                         what + u" and counts as off; only true switches it on"_s, path,
+                         entry.occurrence});
     if (setting->kind == Kind::Number && !isNumber)
         findings.append({entry.place, findCode(u"not-a-number"),
-                         what + u", no whole number, and counts as 0"_s, path});
+                         what + u", no whole number, and counts as 0"_s, path, entry.occurrence});
 }
 
 /// Whether the columns of a document leave room for its description.
@@ -636,7 +654,7 @@ QList<Finding> checkSettings(const SettingsFile &settings)
         if (const QString why = whyUnread(entry); !why.isEmpty()) {
             findings.append({entry.place, findCode(u"unread-key"),
                              u"nothing reads "_s + path.join(u'.').simplified() + u": "_s + why,
-                             path});
+                             path, entry.occurrence});
             continue;
         }
         checkValue(entry, findings);
@@ -650,7 +668,7 @@ QList<Finding> checkSettings(const SettingsFile &settings)
                              u"paperWidth is "_s + entry.value
                                  + u": lines are wider than the printer's "_s
                                  + QString::number(printerWidth) + u" characters"_s,
-                             path});
+                             path, entry.occurrence});
     }
     for (const Method &method : vocabulary::methods()) {
         for (const RowWidths &row : rowWidths) {

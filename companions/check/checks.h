@@ -14,6 +14,7 @@ struct Finding
     const Code *code;
     QString text;        // one line: what is wrong here, and what that does
     QStringList setting; // of settings: groups and key, or the group alone that it is about
+    int occurrence = 0;  // of settings: which of several of that name, counted from 0
 };
 
 /**

@@ -2,6 +2,7 @@
 #include "companions/check/settingsfile.h"
 
 #include <QFile>
+#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -24,13 +25,16 @@ QList<SettingsFile::Entry> SettingsFile::entries() const
         return found;
     const QDomElement top = document->documentElement();
     for (const QString &key : settingNames(top))
-        found.append({{}, key, top.attribute(key), false, placeOf({key})});
+        found.append({{}, key, top.attribute(key), 0, false, placeOf({key})});
     bool first = true;
     for (QDomElement group = top.firstChildElement(); !group.isNull();
          group = group.nextSiblingElement()) {
         addEntries(group, {group.tagName()}, first, found);
         first = false;
     }
+    QHash<QStringList, int> counts;
+    for (Entry &entry : found)
+        entry.occurrence = counts[entry.groups + QStringList(entry.key)]++;
     return found;
 }
 
@@ -54,7 +58,7 @@ void SettingsFile::addEntries(const QDomElement &group, const QStringList &names
 {
     for (const QString &key : settingNames(group))
         entries.append(
-            {names, key, group.attribute(key), searched, placeOf(names + QStringList(key))});
+            {names, key, group.attribute(key), 0, searched, placeOf(names + QStringList(key))});
     for (QDomElement inner = group.firstChildElement(); !inner.isNull();
          inner = inner.nextSiblingElement())
         addEntries(inner, names + QStringList(inner.tagName()), searched, entries);

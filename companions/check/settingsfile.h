@@ -16,6 +16,7 @@ public:
         QStringList groups; // from the top-level one on; none for a setting outside all
         QString key;
         QString value;
+        int occurrence = 0;   // which of several of that name in such groups, counted from 0
         bool searched = true; // false in a top-level group that no look-up finds
         Place place;
     };

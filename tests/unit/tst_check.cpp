@@ -812,7 +812,7 @@ QList<Case> casesOfSettings()
         {"unread-key",
          "a group too deep",                                           {{}, settingsFile(documentGroup("doc", "columns: { ^paperWidth = 32; };"))},
          {"warning: nothing reads korvel.doc.columns.paperWidth: settings stand in a document's "
-          "group or in language, in korvel [unread-key]"}                                                                                                         },
+          "group or in language, in korvel; does a } lack its ;? [unread-key]"}                                                                                   },
         {"unread-key",
          "outside all groups",                                         {{}, "^paperWidth = 32;\n" + setting("paperWidth = 32;")},
          {"warning: nothing reads paperWidth: it stands outside the group korvel [unread-key]"}                                                                   },

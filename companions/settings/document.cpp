@@ -1,0 +1,252 @@
+// Reading, comparing and saving a settings file through the store.
+#include "companions/settings/document.h"
+
+#include "config/config.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <QTemporaryDir>
+#include <QTreeWidget>
+
+#include <optional>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+using libconfig::Config;
+
+namespace {
+
+/// A row of a view: a group, or a setting with its value.
+struct Row
+{
+    QStringList path; // names from the top-level group on
+    bool isSetting = false;
+    bool isEmpty = false; // a group with nothing in it
+    QString value;
+};
+
+void addRows(const QTreeWidgetItem &parent, const QStringList &path, QList<Row> &rows)
+{
+    for (int i = 0; i < parent.childCount(); ++i) {
+        const QTreeWidgetItem &item = *parent.child(i);
+        Row row;
+        row.path = path + QStringList(item.text(0));
+        row.isEmpty = item.childCount() == 0;
+        row.isSetting = !row.isEmpty && item.child(0)->childCount() == 0;
+        if (row.isSetting)
+            row.value = item.child(0)->text(0);
+        rows.append(row);
+        if (!row.isSetting)
+            addRows(item, row.path, rows);
+    }
+}
+
+/// All rows below the one that stands for the file.
+QList<Row> rowsOf(const QTreeWidget &view)
+{
+    QList<Row> rows;
+    for (int i = 0; i < view.topLevelItemCount(); ++i)
+        addRows(*view.topLevelItem(i), {}, rows);
+    return rows;
+}
+
+/// Takes the row that another one was read back as out of a list; nothing when there is none.
+std::optional<Row> take(QList<Row> &rows, const Row &sought)
+{
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        if (rows[i].path == sought.path && rows[i].isSetting == sought.isSetting)
+            return rows.takeAt(i);
+    }
+    return {};
+}
+
+/// What stands in a file and is read over: groups without settings, by name.
+QStringList emptyGroups(const QByteArray &file)
+{
+    static const QRegularExpression empty(u"([^\\s:;{}=]+)\\s*:\\s*\\{\\s*\\}\\s*;"_s);
+    QStringList names;
+    for (const auto &match : empty.globalMatch(QString::fromLatin1(file)))
+        names.append(match.captured(1));
+    return names;
+}
+
+/// Whether there is text behind the last group or setting of a file.
+bool hasTail(const QByteArray &file)
+{
+    const QByteArray text = file.trimmed();
+    return !text.isEmpty() && !text.endsWith(';');
+}
+
+/// Whether the store wrote a view to its end: the last line closes the group that it writes.
+bool isWhole(const QByteArray &written, const QTreeWidget &view, bool isXml)
+{
+    const QTreeWidgetItem *top = view.topLevelItem(0);
+    for (int i = 0; top && i < top->childCount(); ++i) {
+        const QTreeWidgetItem &row = *top->child(i);
+        const bool isSetting = row.childCount() > 0 && row.child(0)->childCount() == 0;
+        if (!isSetting)
+            return written.endsWith(isXml ? "</" + row.text(0).toUtf8() + ">\n"
+                                          : QByteArray("\n};\n\n"));
+    }
+    return rowsOf(view).isEmpty() || written.endsWith("\";\n");
+}
+
+/// Whether one path begins with another.
+bool isBelow(const QStringList &path, const QStringList &group)
+{
+    return path.size() > group.size() && path.first(group.size()) == group;
+}
+
+} // namespace
+
+SettingsDocument::SettingsDocument(QString file)
+    : filePath(std::move(file))
+    , notation(u"cfg"_s)
+{
+}
+
+bool SettingsDocument::exists() const { return QFileInfo::exists(filePath); }
+
+std::unique_ptr<QTreeWidget> SettingsDocument::read()
+{
+    lastSeen = bytesOnDisk();
+    existed = exists();
+    notation = lastSeen.trimmed().startsWith('<') ? u"xml"_s : u"cfg"_s;
+    if (!existed)
+        return std::unique_ptr<QTreeWidget>(Config().newConfigListView());
+    return std::unique_ptr<QTreeWidget>(Config(filePath, notation).newConfigListView());
+}
+
+QString SettingsDocument::readError() const
+{
+    if (!exists())
+        return {};
+    if (!QFileInfo(filePath).isFile())
+        return tr("%1 is no file.").arg(filePath);
+    QFile file(filePath);
+    return file.open(QIODevice::ReadOnly)
+               ? QString()
+               : tr("%1 cannot be read: %2").arg(filePath, file.errorString());
+}
+
+bool SettingsDocument::hasChanged() const
+{
+    return exists() != existed || bytesOnDisk() != lastSeen;
+}
+
+QStringList SettingsDocument::losses(const QTreeWidget &view) const
+{
+    QStringList lines;
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"settings"_s);
+    QFile file(path);
+    if (!folder.isValid() || !file.open(QIODevice::WriteOnly))
+        return {tr("Whether the settings can be read back could not be tried out.")};
+    file.write(writtenBy(view, notation));
+    file.close();
+    const std::unique_ptr<QTreeWidget> readBack(Config(path, notation).newConfigListView());
+
+    const QList<Row> before = rowsOf(view);
+    QList<Row> after = rowsOf(*readBack);
+    if (before.isEmpty() && !lastSeen.trimmed().isEmpty())
+        lines.append(tr("Everything: nothing in the file could be read, and it would be emptied."));
+
+    if (notation == "cfg"_L1) {
+        for (const QString &name : emptyGroups(lastSeen))
+            lines.append(tr("The group %1 has no settings.").arg(name));
+        if (!before.isEmpty() && hasTail(lastSeen))
+            lines.append(tr("The text at the end of the file is no setting."));
+    }
+
+    QStringList lost; // the group that was lost last, whose rows need no mention
+    QString firstGroup;
+    for (const Row &row : before) {
+        const QString name = row.path.join(u'.');
+        const bool isTop = row.path.size() == 1 && !row.isSetting;
+        if (isTop && firstGroup.isEmpty() && !row.isEmpty)
+            firstGroup = name;
+        if (!lost.isEmpty() && isBelow(row.path, lost))
+            continue;
+        if (const auto kept = take(after, row)) {
+            if (kept->value != row.value)
+                lines.append(
+                    tr("%1 would be \"%2\" instead of \"%3\".").arg(name, kept->value, row.value));
+            continue;
+        }
+        lost = row.path;
+        if (row.isEmpty)
+            lines.append(tr("The group %1 has no settings.").arg(name));
+        else if (isTop && name != firstGroup)
+            lines.append(
+                tr("The group %1 stands beside %2; only the first group of a file is kept.")
+                    .arg(name, firstGroup));
+        else if (!row.isSetting)
+            lines.append(tr("The group %1 would be moved to another place.").arg(name));
+        else
+            lines.append(tr("The setting %1 would be lost.").arg(name));
+    }
+    return lines;
+}
+
+QString SettingsDocument::save(const QTreeWidget &view)
+{
+    const QFileInfo info(filePath);
+    if (!QDir().mkpath(info.absolutePath()))
+        return tr("The folder %1 cannot be made.").arg(info.absolutePath());
+    const QByteArray expected = writtenBy(view, notation);
+    if (!isWhole(expected, view, notation == "xml"_L1))
+        return tr("The temporary folder cannot be written; nothing was saved.");
+    const QByteArray before = bytesOnDisk();
+    if (exists()) {
+        QSaveFile backup(filePath + u'~');
+        if (!backup.open(QIODevice::WriteOnly) || backup.write(before) != before.size()
+            || !backup.flush() || !backup.commit())
+            return tr("The previous file could not be kept as %1; nothing was saved.")
+                .arg(filePath + u'~');
+    }
+    QFile file(filePath);
+    if (!file.open(QIODevice::ReadWrite))
+        return tr("%1 cannot be written: %2").arg(filePath, file.errorString());
+    file.close();
+
+    // The store says nothing of what it could not write.
+    Config(filePath, notation).loadListView(&view);
+    const QByteArray written = bytesOnDisk();
+    if (written != expected) {
+        if (!existed)
+            file.remove();
+        else if (file.open(QIODevice::WriteOnly))
+            file.write(before);
+        return tr("%1 could not be written whole; the previous file was put back.").arg(filePath);
+    }
+    lastSeen = written;
+    existed = true;
+    return {};
+}
+
+QByteArray SettingsDocument::writtenBy(const QTreeWidget &view)
+{
+    return writtenBy(view, u"cfg"_s);
+}
+
+QByteArray SettingsDocument::writtenBy(const QTreeWidget &view, const QString &notation)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"settings"_s);
+    QFile file(path);
+    // The store complains on standard output of a file that is not there.
+    if (!folder.isValid() || !file.open(QIODevice::ReadWrite))
+        return {};
+    Config(path, notation).loadListView(&view);
+    return file.readAll();
+}
+
+QByteArray SettingsDocument::bytesOnDisk() const
+{
+    QFile file(filePath);
+    return QFileInfo(filePath).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll()
+                                                                          : QByteArray();
+}

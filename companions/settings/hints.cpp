@@ -1,0 +1,163 @@
+// The checker's findings and the vocabulary, brought to the rows of the tree.
+#include "companions/settings/hints.h"
+
+#include "companions/check/checks.h"
+#include "companions/check/settingsfile.h"
+#include "companions/check/vocabulary.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QStyle>
+#include <QTemporaryDir>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace hints {
+
+namespace {
+
+/// What a finding means for the paper, in the user's language.
+struct Warning
+{
+    QLatin1StringView code;
+    const char *text;
+};
+
+// clang-format off
+constexpr Warning warnings[] = {
+    {"unread-key"_L1,
+     QT_TRANSLATE_NOOP("hints", "No document reads this: the renderer passes it over.")},
+    {"not-true"_L1,
+     QT_TRANSLATE_NOOP("hints", "Counts as off: only exactly \"true\" switches it on.")},
+    {"not-a-number"_L1,
+     QT_TRANSLATE_NOOP("hints", "Not a whole number: counts as 0.")},
+    {"columns"_L1,
+     QT_TRANSLATE_NOOP("hints", "Too wide for the paper: lines of more than 32 characters, or no room for the description.")},
+};
+// clang-format on
+
+QString localised(const char *text) { return QCoreApplication::translate("hints", text); }
+
+QString warningOf(const check::Finding &finding)
+{
+    for (const Warning &row : warnings) {
+        if (finding.code->code == row.code)
+            return localised(row.text);
+    }
+    return finding.text;
+}
+
+/// The row of a path of names below the one that stands for the file; of several, the one of that
+/// count.
+QTreeWidgetItem *rowOf(QTreeWidget &view, const QStringList &path, int occurrence)
+{
+    for (QTreeWidgetItemIterator row(&view); *row; ++row) {
+        QTreeWidgetItem *item = *row;
+        qsizetype i = path.size();
+        while (item->parent() && i > 0 && item->text(0) == path[i - 1]) {
+            item = item->parent();
+            --i;
+        }
+        // A setting has a value below it, and a value may be called like a group.
+        if (i == 0 && !item->parent() && (*row)->childCount() > 0 && occurrence-- == 0)
+            return *row;
+    }
+    return nullptr;
+}
+
+QList<check::Finding> findingsOf(const QByteArray &settings)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"settings"_s));
+    if (!folder.isValid() || !file.open(QIODevice::WriteOnly))
+        return {};
+    file.write(settings);
+    file.close();
+    return check::checkSettings(check::SettingsFile(file.fileName()));
+}
+
+/// Names of the groups that a row stands in and its own, without the file's; a value's row counts
+/// as its setting's.
+QStringList pathOf(const QTreeWidgetItem *row)
+{
+    QStringList path;
+    if (row->childCount() == 0 && row->parent() && (row->flags() & Qt::ItemIsEditable))
+        row = row->parent();
+    for (; row->parent(); row = row->parent())
+        path.prepend(row->text(0));
+    return path;
+}
+
+/// Which documents of a group print by a setting, or read the group.
+QString readBy(vocabulary::Documents documents)
+{
+    QStringList titles;
+    for (const vocabulary::Method &method : vocabulary::methods()) {
+        if ((documents & method.document) != 0)
+            titles.append(QCoreApplication::translate("documents", method.title.data()));
+    }
+    return titles.isEmpty()
+               ? QCoreApplication::translate("hints", "Nothing on the paper depends on it.")
+               : QCoreApplication::translate("hints", "Read by: %1.").arg(titles.join(u", "_s));
+}
+
+} // namespace
+
+void mark(QTreeWidget &view, const QByteArray &settings)
+{
+    const QSignalBlocker quiet(view); // a mark is no edit
+    for (QTreeWidgetItemIterator it(&view); *it; ++it) {
+        (*it)->setIcon(0, QIcon());
+        (*it)->setToolTip(0, QString());
+        (*it)->setData(0, Qt::AccessibleDescriptionRole, QVariant());
+    }
+    const QIcon icon = QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    for (const check::Finding &finding : findingsOf(settings)) {
+        QTreeWidgetItem *row = rowOf(view, finding.setting, finding.occurrence);
+        if (!row)
+            continue;
+        const bool isSetting = row->childCount() > 0 && row->child(0)->childCount() == 0;
+        for (QTreeWidgetItem *item : {row, isSetting ? row->child(0) : row}) {
+            item->setIcon(0, icon);
+            item->setToolTip(0, warningOf(finding));
+            item->setData(0, Qt::AccessibleDescriptionRole, warningOf(finding));
+        }
+    }
+}
+
+QString meaningOf(const QTreeWidgetItem *row)
+{
+    if (!row)
+        return {};
+    const QStringList path = pathOf(row);
+    if (path.size() < 2)
+        return {};
+    const QString &group = path[1];
+    const vocabulary::Documents documents = vocabulary::documentsOf(group);
+    QString text;
+    if (path.size() == 2 && documents != 0) {
+        text = u"<b>"_s + group + u"</b><br>"_s + readBy(documents);
+    } else if (path.size() == 3 && group == "language"_L1) {
+        for (const vocabulary::LanguageSetting &setting : vocabulary::languageSettings()) {
+            if (path[2] == setting.key)
+                text = u"<b>"_s + path[2] + u"</b><br>"_s + translated(setting.meaning);
+        }
+    } else if (path.size() == 3 && documents != 0) {
+        if (const vocabulary::Setting *setting = vocabulary::findSetting(path[2]))
+            text = u"<b>"_s + path[2] + u"</b><br>"_s + translated(setting->meaning) + u"<br>"_s
+                   + readBy(setting->documents & documents);
+    }
+    if (!row->toolTip(0).isEmpty())
+        text += (text.isEmpty() ? u""_s : u"<br>"_s) + u"<i>"_s + row->toolTip(0).toHtmlEscaped()
+                + u"</i>"_s;
+    return text;
+}
+
+QString translated(const char *meaning)
+{
+    return QCoreApplication::translate("vocabulary", meaning).toHtmlEscaped().remove(u'`');
+}
+
+} // namespace hints

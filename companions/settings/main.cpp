@@ -1,0 +1,67 @@
+// korvel-settings: the settings file in a tree, the receipt beside it.
+#include "companions/commandline/commandline.h"
+#include "companions/settings/window.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Reads the command line without a display; the status to end with, or the file to edit.
+std::optional<int> readArguments(int argc, char *argv[], QString &file)
+{
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        u"Edits the settings of korvel-print and shows what they make of a receipt."_s);
+    parser.addPositionalArgument(
+        u"FILE"_s, u"The settings file; without it, the user's, ~/.korvel/conf/korvel.conf."_s,
+        u"[FILE]"_s);
+    if (const auto status = readCommandLine(parser, QCoreApplication::arguments()))
+        return status;
+    const QStringList files = parser.positionalArguments();
+    if (files.size() > 1)
+        return trouble(u"one settings file at most; see --help"_s);
+    file = files.value(0, QDir::homePath() + u"/.korvel/conf/korvel.conf"_s);
+    // The toolkit would end the program with a crash.
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+        && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        return trouble(u"there is no display: neither DISPLAY nor WAYLAND_DISPLAY is set"_s);
+    return {};
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    prepareCompanion();
+    QString file;
+    if (const auto status = readArguments(argc, argv, file))
+        return *status;
+
+    const QApplication application(argc, argv);
+    QApplication::setOrganizationName(u"korvel"_s);
+    QApplication::setApplicationName(u"korvel-settings"_s);
+    QApplication::setDesktopFileName(u"korvel-settings"_s);
+    QApplication::setWindowIcon(QIcon(u":/korvel-settings.svg"_s));
+
+    // The texts are English as they are: a second language must not come before it.
+    QTranslator buttons; // of the toolkit's own dialogs
+    QTranslator texts;
+    if (!QLocale().uiLanguages().value(0).startsWith("en"_L1)) {
+        if (buttons.load(QLocale(), u"qtbase"_s, u"_"_s,
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+            QApplication::installTranslator(&buttons);
+        if (texts.load(QLocale(), u"korvel-settings"_s, u"_"_s, u":/translations"_s))
+            QApplication::installTranslator(&texts);
+    }
+
+    SettingsWindow window(file, Rendering::findRenderer());
+    window.show();
+    window.begin();
+    return QApplication::exec();
+}

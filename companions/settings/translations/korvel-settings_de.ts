@@ -1,0 +1,360 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Rendering</name>
+    <message>
+        <source>The renderer %1 cannot be started.</source>
+        <translation>Das Druckprogramm %1 lässt sich nicht starten.</translation>
+    </message>
+    <message>
+        <source>The temporary folder cannot be written.</source>
+        <translation>In den temporären Ordner lässt sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>The renderer %1 ended with an error.</source>
+        <translation>Das Druckprogramm %1 endete mit einem Fehler.</translation>
+    </message>
+    <message>
+        <source>The renderer %1 wrote nothing.</source>
+        <translation>Das Druckprogramm %1 hat nichts geschrieben.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDocument</name>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 lässt sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>Whether the settings can be read back could not be tried out.</source>
+        <translation>Ob sich die Einstellungen wieder einlesen lassen, konnte nicht ausprobiert werden.</translation>
+    </message>
+    <message>
+        <source>Everything: nothing in the file could be read, and it would be emptied.</source>
+        <translation>Alles: In der Datei war nichts lesbar, und sie würde geleert.</translation>
+    </message>
+    <message>
+        <source>%1 would be &quot;%2&quot; instead of &quot;%3&quot;.</source>
+        <translation>%1 wäre &quot;%2&quot; statt &quot;%3&quot;.</translation>
+    </message>
+    <message>
+        <source>The group %1 has no settings.</source>
+        <translation>Die Gruppe %1 hat keine Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The group %1 stands beside %2; only the first group of a file is kept.</source>
+        <translation>Die Gruppe %1 steht neben %2; nur die erste Gruppe einer Datei bleibt erhalten.</translation>
+    </message>
+    <message>
+        <source>The group %1 would be moved to another place.</source>
+        <translation>Die Gruppe %1 würde an eine andere Stelle verschoben.</translation>
+    </message>
+    <message>
+        <source>The setting %1 would be lost.</source>
+        <translation>Die Einstellung %1 ginge verloren.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Der Ordner %1 lässt sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>The previous file could not be kept as %1; nothing was saved.</source>
+        <translation>Die bisherige Datei konnte nicht als %1 aufbewahrt werden; es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be written whole; the previous file was put back.</source>
+        <translation>%1 konnte nicht vollständig geschrieben werden; die bisherige Datei wurde wiederhergestellt.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>&amp;Document:</source>
+        <translation>Do&amp;kument:</translation>
+    </message>
+    <message>
+        <source>Job file …</source>
+        <translation>Druckauftrag aus Datei …</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open …</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Open settings</source>
+        <translation>Einstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>Settings (*.conf *.cfg);;All files (*)</source>
+        <translation>Einstellungen (*.conf *.cfg);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>The file was changed by another program since it was opened.</source>
+        <translation>Die Datei wurde seit dem Öffnen von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>Save all the same</source>
+        <translation>Trotzdem speichern</translation>
+    </message>
+    <message>
+        <source>Not everything can be saved.</source>
+        <translation>Nicht alles lässt sich speichern.</translation>
+    </message>
+    <message>
+        <source>Save the rest</source>
+        <translation>Den Rest speichern</translation>
+    </message>
+    <message>
+        <source>There are edits that are not saved.</source>
+        <translation>Es gibt nicht gespeicherte Änderungen.</translation>
+    </message>
+    <message>
+        <source>There are no settings yet in %1.
+Begin with the sample settings?</source>
+        <translation>In %1 gibt es noch keine Einstellungen.
+Mit den Beispieleinstellungen beginnen?</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>Choose a job</source>
+        <translation>Druckauftrag wählen</translation>
+    </message>
+    <message>
+        <source>Jobs (*.xml);;All files (*)</source>
+        <translation>Druckaufträge (*.xml);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 lässt sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>%1[*] – Korvel settings</source>
+        <translation>%1[*] – Korvel-Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>documents</name>
+    <message>
+        <source>kitchen order</source>
+        <translation>Küchenbon</translation>
+    </message>
+    <message>
+        <source>full order</source>
+        <translation>Zwischenrechnung</translation>
+    </message>
+    <message>
+        <source>receipt</source>
+        <translation>Beleg</translation>
+    </message>
+    <message>
+        <source>invoice</source>
+        <translation>Rechnung</translation>
+    </message>
+    <message>
+        <source>delivery note</source>
+        <translation>Lieferschein</translation>
+    </message>
+    <message>
+        <source>fiscal receipt</source>
+        <translation>Fiskalbeleg</translation>
+    </message>
+    <message>
+        <source>summary order</source>
+        <translation>Bestellung in Kurzform</translation>
+    </message>
+    <message>
+        <source>summary receipt</source>
+        <translation>Beleg in Kurzform</translation>
+    </message>
+    <message>
+        <source>summary invoice</source>
+        <translation>Rechnung in Kurzform</translation>
+    </message>
+    <message>
+        <source>summary fiscal receipt</source>
+        <translation>Fiskalbeleg in Kurzform</translation>
+    </message>
+    <message>
+        <source>period report</source>
+        <translation>Periodenübersicht</translation>
+    </message>
+    <message>
+        <source>sold items</source>
+        <translation>verkaufte Artikel</translation>
+    </message>
+    <message>
+        <source>statement of account</source>
+        <translation>Kontoauszug</translation>
+    </message>
+</context>
+<context>
+    <name>hints</name>
+    <message>
+        <source>No document reads this: the renderer passes it over.</source>
+        <translation>Kein Dokument liest das: Das Druckprogramm übergeht es.</translation>
+    </message>
+    <message>
+        <source>Counts as off: only exactly &quot;true&quot; switches it on.</source>
+        <translation>Zählt als aus: Nur genau &quot;true&quot; schaltet es ein.</translation>
+    </message>
+    <message>
+        <source>Not a whole number: counts as 0.</source>
+        <translation>Keine ganze Zahl: zählt als 0.</translation>
+    </message>
+    <message>
+        <source>Too wide for the paper: lines of more than 32 characters, or no room for the description.</source>
+        <translation>Zu breit für das Papier: Zeilen mit mehr als 32 Zeichen oder kein Platz für die Bezeichnung.</translation>
+    </message>
+    <message>
+        <source>Nothing on the paper depends on it.</source>
+        <translation>Auf dem Papier hängt nichts davon ab.</translation>
+    </message>
+    <message>
+        <source>Read by: %1.</source>
+        <translation>Gelesen von: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>vocabulary</name>
+    <message>
+        <source>width of the quantity column</source>
+        <translation>Breite der Spalte für die Anzahl</translation>
+    </message>
+    <message>
+        <source>width of the unit price column; in a statement, of the amount</source>
+        <translation>Breite der Spalte für den Einzelpreis; im Kontoauszug der für den Betrag</translation>
+    </message>
+    <message>
+        <source>width of the last column, the amount</source>
+        <translation>Breite der letzten Spalte, der für den Betrag</translation>
+    </message>
+    <message>
+        <source>width of a line and of a separator. 0 is the printer&apos;s width. Centring always goes by the printer&apos;s 32</source>
+        <translation>Breite einer Zeile und einer Trennlinie. 0 ist die Breite des Druckers. Zentriert wird immer nach den 32 Zeichen des Druckers</translation>
+    </message>
+    <message>
+        <source>nothing depends on it</source>
+        <translation>davon hängt nichts ab</translation>
+    </message>
+    <message>
+        <source>read and discarded</source>
+        <translation>wird gelesen und verworfen</translation>
+    </message>
+    <message>
+        <source>empty lines that `geometry` prints; none when negative, 65536 at most</source>
+        <translation>Leerzeilen, die `geometry` druckt; keine bei einer negativen Zahl, höchstens 65536</translation>
+    </message>
+    <message>
+        <source>characters of an item&apos;s name that are sent. 0 is the printer&apos;s width; a negative number leaves the name whole. The summary fiscal receipt never cuts</source>
+        <translation>Zeichen eines Artikelnamens, die gesendet werden. 0 ist die Breite des Druckers; bei einer negativen Zahl bleibt der Name ganz. Der Fiskalbeleg in Kurzform kürzt nie</translation>
+    </message>
+    <message>
+        <source>the top margin</source>
+        <translation>der obere Rand</translation>
+    </message>
+    <message>
+        <source>the lines of `headers`. The printer&apos;s name after them has no switch</source>
+        <translation>die Zeilen von `headers`. Der Name des Druckers danach hat keinen Schalter</translation>
+    </message>
+    <message>
+        <source>nothing: kept for printers with a logo</source>
+        <translation>nichts: für Drucker mit Logo vorgesehen</translation>
+    </message>
+    <message>
+        <source>the company</source>
+        <translation>die Firma</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s delivery address</source>
+        <translation>die Lieferadresse des Kunden</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s billing address</source>
+        <translation>die Rechnungsadresse des Kunden</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s telephone</source>
+        <translation>die Telefonnummer des Kunden</translation>
+    </message>
+    <message>
+        <source>the date of `orderinfo`</source>
+        <translation>das Datum von `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the time of `orderinfo`</source>
+        <translation>die Uhrzeit von `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the table of `orderinfo`</source>
+        <translation>der Tisch von `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the whole customer block; the customer&apos;s other switches count only when it is on</source>
+        <translation>der ganze Kundenblock; die anderen Schalter des Kunden zählen nur, wenn er eingeschaltet ist</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s license number</source>
+        <translation>die USt-IdNr. des Kunden</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s fiscal code</source>
+        <translation>die Steuernummer des Kunden</translation>
+    </message>
+    <message>
+        <source>the credit of `orderinfo`</source>
+        <translation>das Guthaben von `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the waiter of `orderinfo`</source>
+        <translation>die Bedienung von `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the note of `orderinfo`</source>
+        <translation>der Hinweis von `orderinfo`</translation>
+    </message>
+    <message>
+        <source>nothing: kept for printers with a drawer</source>
+        <translation>nichts: für Drucker mit Kassenlade vorgesehen</translation>
+    </message>
+    <message>
+        <source>the folder of the catalogues</source>
+        <translation>der Ordner der Sprachkataloge</translation>
+    </message>
+    <message>
+        <source>which catalogue; begins with `/`</source>
+        <translation>welcher Katalog; beginnt mit `/`</translation>
+    </message>
+</context>
+</TS>

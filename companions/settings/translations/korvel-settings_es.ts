@@ -1,0 +1,360 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>Rendering</name>
+    <message>
+        <source>The renderer %1 cannot be started.</source>
+        <translation>No se puede iniciar el programa de impresión %1.</translation>
+    </message>
+    <message>
+        <source>The temporary folder cannot be written.</source>
+        <translation>No se puede escribir en la carpeta temporal.</translation>
+    </message>
+    <message>
+        <source>The renderer %1 ended with an error.</source>
+        <translation>El programa de impresión %1 terminó con un error.</translation>
+    </message>
+    <message>
+        <source>The renderer %1 wrote nothing.</source>
+        <translation>El programa de impresión %1 no escribió nada.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDocument</name>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 no es un archivo.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>No se puede leer %1: %2</translation>
+    </message>
+    <message>
+        <source>Whether the settings can be read back could not be tried out.</source>
+        <translation>No se pudo comprobar si los ajustes se pueden volver a leer.</translation>
+    </message>
+    <message>
+        <source>Everything: nothing in the file could be read, and it would be emptied.</source>
+        <translation>Todo: no se pudo leer nada del archivo, y quedaría vacío.</translation>
+    </message>
+    <message>
+        <source>%1 would be &quot;%2&quot; instead of &quot;%3&quot;.</source>
+        <translation>%1 sería &quot;%2&quot; en lugar de &quot;%3&quot;.</translation>
+    </message>
+    <message>
+        <source>The group %1 has no settings.</source>
+        <translation>El grupo %1 no tiene ajustes.</translation>
+    </message>
+    <message>
+        <source>The group %1 stands beside %2; only the first group of a file is kept.</source>
+        <translation>El grupo %1 está al lado de %2; de un archivo solo se conserva el primer grupo.</translation>
+    </message>
+    <message>
+        <source>The group %1 would be moved to another place.</source>
+        <translation>El grupo %1 cambiaría de lugar.</translation>
+    </message>
+    <message>
+        <source>The setting %1 would be lost.</source>
+        <translation>El ajuste %1 se perdería.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>No se puede crear la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>The previous file could not be kept as %1; nothing was saved.</source>
+        <translation>No se pudo conservar el archivo anterior como %1; no se guardó nada.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be written whole; the previous file was put back.</source>
+        <translation>No se pudo escribir %1 por completo; se restableció el archivo anterior.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>&amp;Document:</source>
+        <translation>&amp;Documento:</translation>
+    </message>
+    <message>
+        <source>Job file …</source>
+        <translation>Trabajo de impresión de un archivo …</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Open …</source>
+        <translation>&amp;Abrir …</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>&amp;Volver a cargar</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>Open settings</source>
+        <translation>Abrir ajustes</translation>
+    </message>
+    <message>
+        <source>Settings (*.conf *.cfg);;All files (*)</source>
+        <translation>Ajustes (*.conf *.cfg);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>The file was changed by another program since it was opened.</source>
+        <translation>Otro programa ha modificado el archivo desde que se abrió.</translation>
+    </message>
+    <message>
+        <source>Save all the same</source>
+        <translation>Guardar de todos modos</translation>
+    </message>
+    <message>
+        <source>Not everything can be saved.</source>
+        <translation>No se puede guardar todo.</translation>
+    </message>
+    <message>
+        <source>Save the rest</source>
+        <translation>Guardar el resto</translation>
+    </message>
+    <message>
+        <source>There are edits that are not saved.</source>
+        <translation>Hay cambios sin guardar.</translation>
+    </message>
+    <message>
+        <source>There are no settings yet in %1.
+Begin with the sample settings?</source>
+        <translation>Todavía no hay ajustes en %1.
+¿Empezar con los ajustes de ejemplo?</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>Choose a job</source>
+        <translation>Elegir un trabajo de impresión</translation>
+    </message>
+    <message>
+        <source>Jobs (*.xml);;All files (*)</source>
+        <translation>Trabajos de impresión (*.xml);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>No se puede leer %1: %2</translation>
+    </message>
+    <message>
+        <source>%1[*] – Korvel settings</source>
+        <translation>%1[*] – Ajustes de Korvel</translation>
+    </message>
+</context>
+<context>
+    <name>documents</name>
+    <message>
+        <source>kitchen order</source>
+        <translation>comanda de cocina</translation>
+    </message>
+    <message>
+        <source>full order</source>
+        <translation>cuenta</translation>
+    </message>
+    <message>
+        <source>receipt</source>
+        <translation>ticket</translation>
+    </message>
+    <message>
+        <source>invoice</source>
+        <translation>factura</translation>
+    </message>
+    <message>
+        <source>delivery note</source>
+        <translation>albarán</translation>
+    </message>
+    <message>
+        <source>fiscal receipt</source>
+        <translation>ticket fiscal</translation>
+    </message>
+    <message>
+        <source>summary order</source>
+        <translation>comanda resumida</translation>
+    </message>
+    <message>
+        <source>summary receipt</source>
+        <translation>ticket resumido</translation>
+    </message>
+    <message>
+        <source>summary invoice</source>
+        <translation>factura resumida</translation>
+    </message>
+    <message>
+        <source>summary fiscal receipt</source>
+        <translation>ticket fiscal resumido</translation>
+    </message>
+    <message>
+        <source>period report</source>
+        <translation>resumen del periodo</translation>
+    </message>
+    <message>
+        <source>sold items</source>
+        <translation>artículos vendidos</translation>
+    </message>
+    <message>
+        <source>statement of account</source>
+        <translation>extracto de cuenta</translation>
+    </message>
+</context>
+<context>
+    <name>hints</name>
+    <message>
+        <source>No document reads this: the renderer passes it over.</source>
+        <translation>Ningún documento lo lee: el programa de impresión lo pasa por alto.</translation>
+    </message>
+    <message>
+        <source>Counts as off: only exactly &quot;true&quot; switches it on.</source>
+        <translation>Cuenta como desactivado: solo &quot;true&quot;, exactamente así, lo activa.</translation>
+    </message>
+    <message>
+        <source>Not a whole number: counts as 0.</source>
+        <translation>No es un número entero: cuenta como 0.</translation>
+    </message>
+    <message>
+        <source>Too wide for the paper: lines of more than 32 characters, or no room for the description.</source>
+        <translation>Demasiado ancho para el papel: líneas de más de 32 caracteres o sin sitio para la descripción.</translation>
+    </message>
+    <message>
+        <source>Nothing on the paper depends on it.</source>
+        <translation>Nada en el papel depende de ello.</translation>
+    </message>
+    <message>
+        <source>Read by: %1.</source>
+        <translation>Leído por: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>vocabulary</name>
+    <message>
+        <source>width of the quantity column</source>
+        <translation>ancho de la columna de unidades</translation>
+    </message>
+    <message>
+        <source>width of the unit price column; in a statement, of the amount</source>
+        <translation>ancho de la columna del precio unitario; en un extracto, de la del importe</translation>
+    </message>
+    <message>
+        <source>width of the last column, the amount</source>
+        <translation>ancho de la última columna, la del importe</translation>
+    </message>
+    <message>
+        <source>width of a line and of a separator. 0 is the printer&apos;s width. Centring always goes by the printer&apos;s 32</source>
+        <translation>ancho de una línea y de un separador. 0 es el ancho de la impresora. El centrado se rige siempre por los 32 caracteres de la impresora</translation>
+    </message>
+    <message>
+        <source>nothing depends on it</source>
+        <translation>nada depende de ello</translation>
+    </message>
+    <message>
+        <source>read and discarded</source>
+        <translation>se lee y se descarta</translation>
+    </message>
+    <message>
+        <source>empty lines that `geometry` prints; none when negative, 65536 at most</source>
+        <translation>líneas vacías que imprime `geometry`; ninguna si el número es negativo, 65536 como máximo</translation>
+    </message>
+    <message>
+        <source>characters of an item&apos;s name that are sent. 0 is the printer&apos;s width; a negative number leaves the name whole. The summary fiscal receipt never cuts</source>
+        <translation>caracteres del nombre de un artículo que se envían. 0 es el ancho de la impresora; un número negativo deja el nombre entero. El ticket fiscal resumido nunca recorta</translation>
+    </message>
+    <message>
+        <source>the top margin</source>
+        <translation>el margen superior</translation>
+    </message>
+    <message>
+        <source>the lines of `headers`. The printer&apos;s name after them has no switch</source>
+        <translation>las líneas de `headers`. El nombre de la impresora que las sigue no tiene interruptor</translation>
+    </message>
+    <message>
+        <source>nothing: kept for printers with a logo</source>
+        <translation>nada: se reserva para impresoras con logotipo</translation>
+    </message>
+    <message>
+        <source>the company</source>
+        <translation>la empresa</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s delivery address</source>
+        <translation>la dirección de entrega del cliente</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s billing address</source>
+        <translation>la dirección de facturación del cliente</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s telephone</source>
+        <translation>el teléfono del cliente</translation>
+    </message>
+    <message>
+        <source>the date of `orderinfo`</source>
+        <translation>la fecha de `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the time of `orderinfo`</source>
+        <translation>la hora de `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the table of `orderinfo`</source>
+        <translation>la mesa de `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the whole customer block; the customer&apos;s other switches count only when it is on</source>
+        <translation>todo el bloque del cliente; los demás interruptores del cliente solo cuentan si está activado</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s license number</source>
+        <translation>el número de IVA del cliente</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s fiscal code</source>
+        <translation>el NIF del cliente</translation>
+    </message>
+    <message>
+        <source>the credit of `orderinfo`</source>
+        <translation>el crédito de `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the waiter of `orderinfo`</source>
+        <translation>el camarero de `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the note of `orderinfo`</source>
+        <translation>la nota de `orderinfo`</translation>
+    </message>
+    <message>
+        <source>nothing: kept for printers with a drawer</source>
+        <translation>nada: se reserva para impresoras con cajón</translation>
+    </message>
+    <message>
+        <source>the folder of the catalogues</source>
+        <translation>la carpeta de los catálogos de idioma</translation>
+    </message>
+    <message>
+        <source>which catalogue; begins with `/`</source>
+        <translation>qué catálogo; empieza por `/`</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,360 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Rendering</name>
+    <message>
+        <source>The renderer %1 cannot be started.</source>
+        <translation>Le programme d&apos;impression %1 ne peut pas être lancé.</translation>
+    </message>
+    <message>
+        <source>The temporary folder cannot be written.</source>
+        <translation>Impossible d&apos;écrire dans le dossier temporaire.</translation>
+    </message>
+    <message>
+        <source>The renderer %1 ended with an error.</source>
+        <translation>Le programme d&apos;impression %1 s&apos;est terminé par une erreur.</translation>
+    </message>
+    <message>
+        <source>The renderer %1 wrote nothing.</source>
+        <translation>Le programme d&apos;impression %1 n&apos;a rien écrit.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDocument</name>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 n&apos;est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Impossible de lire %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Whether the settings can be read back could not be tried out.</source>
+        <translation>Impossible de vérifier si les paramètres pourront être relus.</translation>
+    </message>
+    <message>
+        <source>Everything: nothing in the file could be read, and it would be emptied.</source>
+        <translation>Tout&#xa0;: rien n&apos;a pu être lu dans le fichier, et il serait vidé.</translation>
+    </message>
+    <message>
+        <source>%1 would be &quot;%2&quot; instead of &quot;%3&quot;.</source>
+        <translation>%1 serait &quot;%2&quot; au lieu de &quot;%3&quot;.</translation>
+    </message>
+    <message>
+        <source>The group %1 has no settings.</source>
+        <translation>Le groupe %1 n&apos;a pas de paramètres.</translation>
+    </message>
+    <message>
+        <source>The group %1 stands beside %2; only the first group of a file is kept.</source>
+        <translation>Le groupe %1 se trouve à côté de %2&#xa0;; seul le premier groupe d&apos;un fichier est conservé.</translation>
+    </message>
+    <message>
+        <source>The group %1 would be moved to another place.</source>
+        <translation>Le groupe %1 changerait de place.</translation>
+    </message>
+    <message>
+        <source>The setting %1 would be lost.</source>
+        <translation>Le paramètre %1 serait perdu.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Impossible de créer le dossier %1.</translation>
+    </message>
+    <message>
+        <source>The previous file could not be kept as %1; nothing was saved.</source>
+        <translation>Le fichier précédent n&apos;a pas pu être conservé sous %1&#xa0;; rien n&apos;a été enregistré.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>Impossible d&apos;écrire %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be written whole; the previous file was put back.</source>
+        <translation>%1 n&apos;a pas pu être écrit en entier&#xa0;; le fichier précédent a été rétabli.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>&amp;Document:</source>
+        <translation>&amp;Document&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Job file …</source>
+        <translation>Tâche d&apos;impression depuis un fichier …</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Open …</source>
+        <translation>&amp;Ouvrir …</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>&amp;Recharger</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Open settings</source>
+        <translation>Ouvrir des paramètres</translation>
+    </message>
+    <message>
+        <source>Settings (*.conf *.cfg);;All files (*)</source>
+        <translation>Paramètres (*.conf *.cfg);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>The file was changed by another program since it was opened.</source>
+        <translation>Le fichier a été modifié par un autre programme depuis son ouverture.</translation>
+    </message>
+    <message>
+        <source>Save all the same</source>
+        <translation>Enregistrer quand même</translation>
+    </message>
+    <message>
+        <source>Not everything can be saved.</source>
+        <translation>Tout ne peut pas être enregistré.</translation>
+    </message>
+    <message>
+        <source>Save the rest</source>
+        <translation>Enregistrer le reste</translation>
+    </message>
+    <message>
+        <source>There are edits that are not saved.</source>
+        <translation>Des modifications ne sont pas enregistrées.</translation>
+    </message>
+    <message>
+        <source>There are no settings yet in %1.
+Begin with the sample settings?</source>
+        <translation>Il n&apos;y a pas encore de paramètres dans %1.
+Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>Impossible d&apos;écrire %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Choose a job</source>
+        <translation>Choisir une tâche d&apos;impression</translation>
+    </message>
+    <message>
+        <source>Jobs (*.xml);;All files (*)</source>
+        <translation>Tâches d&apos;impression (*.xml);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Impossible de lire %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1[*] – Korvel settings</source>
+        <translation>%1[*] – Paramètres de Korvel</translation>
+    </message>
+</context>
+<context>
+    <name>documents</name>
+    <message>
+        <source>kitchen order</source>
+        <translation>bon de cuisine</translation>
+    </message>
+    <message>
+        <source>full order</source>
+        <translation>addition</translation>
+    </message>
+    <message>
+        <source>receipt</source>
+        <translation>ticket</translation>
+    </message>
+    <message>
+        <source>invoice</source>
+        <translation>facture</translation>
+    </message>
+    <message>
+        <source>delivery note</source>
+        <translation>bon de livraison</translation>
+    </message>
+    <message>
+        <source>fiscal receipt</source>
+        <translation>ticket fiscal</translation>
+    </message>
+    <message>
+        <source>summary order</source>
+        <translation>commande abrégée</translation>
+    </message>
+    <message>
+        <source>summary receipt</source>
+        <translation>ticket abrégé</translation>
+    </message>
+    <message>
+        <source>summary invoice</source>
+        <translation>facture abrégée</translation>
+    </message>
+    <message>
+        <source>summary fiscal receipt</source>
+        <translation>ticket fiscal abrégé</translation>
+    </message>
+    <message>
+        <source>period report</source>
+        <translation>récapitulatif de la période</translation>
+    </message>
+    <message>
+        <source>sold items</source>
+        <translation>articles vendus</translation>
+    </message>
+    <message>
+        <source>statement of account</source>
+        <translation>relevé de compte</translation>
+    </message>
+</context>
+<context>
+    <name>hints</name>
+    <message>
+        <source>No document reads this: the renderer passes it over.</source>
+        <translation>Aucun document ne lit ceci&#xa0;: le programme d&apos;impression l&apos;ignore.</translation>
+    </message>
+    <message>
+        <source>Counts as off: only exactly &quot;true&quot; switches it on.</source>
+        <translation>Compte comme désactivé&#xa0;: seul &quot;true&quot;, écrit exactement ainsi, l&apos;active.</translation>
+    </message>
+    <message>
+        <source>Not a whole number: counts as 0.</source>
+        <translation>Ce n&apos;est pas un nombre entier&#xa0;: compte comme 0.</translation>
+    </message>
+    <message>
+        <source>Too wide for the paper: lines of more than 32 characters, or no room for the description.</source>
+        <translation>Trop large pour le papier&#xa0;: des lignes de plus de 32 caractères, ou pas de place pour la désignation.</translation>
+    </message>
+    <message>
+        <source>Nothing on the paper depends on it.</source>
+        <translation>Rien sur le papier n&apos;en dépend.</translation>
+    </message>
+    <message>
+        <source>Read by: %1.</source>
+        <translation>Lu par&#xa0;: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>vocabulary</name>
+    <message>
+        <source>width of the quantity column</source>
+        <translation>largeur de la colonne de la quantité</translation>
+    </message>
+    <message>
+        <source>width of the unit price column; in a statement, of the amount</source>
+        <translation>largeur de la colonne du prix unitaire&#xa0;; dans un relevé, de celle du montant</translation>
+    </message>
+    <message>
+        <source>width of the last column, the amount</source>
+        <translation>largeur de la dernière colonne, celle du montant</translation>
+    </message>
+    <message>
+        <source>width of a line and of a separator. 0 is the printer&apos;s width. Centring always goes by the printer&apos;s 32</source>
+        <translation>largeur d&apos;une ligne et d&apos;un séparateur. 0 est la largeur de l&apos;imprimante. Le centrage se fait toujours sur les 32 caractères de l&apos;imprimante</translation>
+    </message>
+    <message>
+        <source>nothing depends on it</source>
+        <translation>rien n&apos;en dépend</translation>
+    </message>
+    <message>
+        <source>read and discarded</source>
+        <translation>lu, puis ignoré</translation>
+    </message>
+    <message>
+        <source>empty lines that `geometry` prints; none when negative, 65536 at most</source>
+        <translation>lignes vides que `geometry` imprime&#xa0;; aucune si le nombre est négatif, 65536 au plus</translation>
+    </message>
+    <message>
+        <source>characters of an item&apos;s name that are sent. 0 is the printer&apos;s width; a negative number leaves the name whole. The summary fiscal receipt never cuts</source>
+        <translation>caractères envoyés du nom d&apos;un article. 0 est la largeur de l&apos;imprimante&#xa0;; un nombre négatif laisse le nom entier. Le ticket fiscal abrégé ne coupe jamais</translation>
+    </message>
+    <message>
+        <source>the top margin</source>
+        <translation>la marge du haut</translation>
+    </message>
+    <message>
+        <source>the lines of `headers`. The printer&apos;s name after them has no switch</source>
+        <translation>les lignes de `headers`. Le nom de l&apos;imprimante qui les suit n&apos;a pas d&apos;option</translation>
+    </message>
+    <message>
+        <source>nothing: kept for printers with a logo</source>
+        <translation>rien&#xa0;: réservé aux imprimantes avec logo</translation>
+    </message>
+    <message>
+        <source>the company</source>
+        <translation>l&apos;entreprise</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s delivery address</source>
+        <translation>l&apos;adresse de livraison du client</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s billing address</source>
+        <translation>l&apos;adresse de facturation du client</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s telephone</source>
+        <translation>le téléphone du client</translation>
+    </message>
+    <message>
+        <source>the date of `orderinfo`</source>
+        <translation>la date de `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the time of `orderinfo`</source>
+        <translation>l&apos;heure de `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the table of `orderinfo`</source>
+        <translation>la table de `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the whole customer block; the customer&apos;s other switches count only when it is on</source>
+        <translation>tout le bloc du client&#xa0;; les autres options du client ne comptent que s&apos;il est activé</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s license number</source>
+        <translation>le numéro de TVA du client</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s fiscal code</source>
+        <translation>le numéro fiscal du client</translation>
+    </message>
+    <message>
+        <source>the credit of `orderinfo`</source>
+        <translation>le crédit de `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the waiter of `orderinfo`</source>
+        <translation>le serveur de `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the note of `orderinfo`</source>
+        <translation>la remarque de `orderinfo`</translation>
+    </message>
+    <message>
+        <source>nothing: kept for printers with a drawer</source>
+        <translation>rien&#xa0;: réservé aux imprimantes avec tiroir-caisse</translation>
+    </message>
+    <message>
+        <source>the folder of the catalogues</source>
+        <translation>le dossier des catalogues de langue</translation>
+    </message>
+    <message>
+        <source>which catalogue; begins with `/`</source>
+        <translation>quel catalogue&#xa0;; commence par `/`</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,360 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>Rendering</name>
+    <message>
+        <source>The renderer %1 cannot be started.</source>
+        <translation>Impossibile avviare il programma di stampa %1.</translation>
+    </message>
+    <message>
+        <source>The temporary folder cannot be written.</source>
+        <translation>Impossibile scrivere nella cartella temporanea.</translation>
+    </message>
+    <message>
+        <source>The renderer %1 ended with an error.</source>
+        <translation>Il programma di stampa %1 è terminato con un errore.</translation>
+    </message>
+    <message>
+        <source>The renderer %1 wrote nothing.</source>
+        <translation>Il programma di stampa %1 non ha scritto nulla.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDocument</name>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 non è un file.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Impossibile leggere %1: %2</translation>
+    </message>
+    <message>
+        <source>Whether the settings can be read back could not be tried out.</source>
+        <translation>Non è stato possibile verificare se le impostazioni si possono rileggere.</translation>
+    </message>
+    <message>
+        <source>Everything: nothing in the file could be read, and it would be emptied.</source>
+        <translation>Tutto: nel file non si è potuto leggere nulla, e verrebbe svuotato.</translation>
+    </message>
+    <message>
+        <source>%1 would be &quot;%2&quot; instead of &quot;%3&quot;.</source>
+        <translation>%1 sarebbe &quot;%2&quot; invece di &quot;%3&quot;.</translation>
+    </message>
+    <message>
+        <source>The group %1 has no settings.</source>
+        <translation>Il gruppo %1 non ha impostazioni.</translation>
+    </message>
+    <message>
+        <source>The group %1 stands beside %2; only the first group of a file is kept.</source>
+        <translation>Il gruppo %1 sta accanto a %2; di un file si conserva solo il primo gruppo.</translation>
+    </message>
+    <message>
+        <source>The group %1 would be moved to another place.</source>
+        <translation>Il gruppo %1 verrebbe spostato altrove.</translation>
+    </message>
+    <message>
+        <source>The setting %1 would be lost.</source>
+        <translation>L&apos;impostazione %1 andrebbe persa.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Impossibile creare la cartella %1.</translation>
+    </message>
+    <message>
+        <source>The previous file could not be kept as %1; nothing was saved.</source>
+        <translation>Non è stato possibile conservare il file precedente come %1; non è stato salvato nulla.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>Impossibile scrivere %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be written whole; the previous file was put back.</source>
+        <translation>Non è stato possibile scrivere %1 per intero; è stato ripristinato il file precedente.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>&amp;Document:</source>
+        <translation>&amp;Documento:</translation>
+    </message>
+    <message>
+        <source>Job file …</source>
+        <translation>Lavoro di stampa da file …</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Open …</source>
+        <translation>&amp;Apri …</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Salva</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>&amp;Ricarica</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Esci</translation>
+    </message>
+    <message>
+        <source>Open settings</source>
+        <translation>Apri impostazioni</translation>
+    </message>
+    <message>
+        <source>Settings (*.conf *.cfg);;All files (*)</source>
+        <translation>Impostazioni (*.conf *.cfg);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>The file was changed by another program since it was opened.</source>
+        <translation>Il file è stato modificato da un altro programma dopo l&apos;apertura.</translation>
+    </message>
+    <message>
+        <source>Save all the same</source>
+        <translation>Salva comunque</translation>
+    </message>
+    <message>
+        <source>Not everything can be saved.</source>
+        <translation>Non è possibile salvare tutto.</translation>
+    </message>
+    <message>
+        <source>Save the rest</source>
+        <translation>Salva il resto</translation>
+    </message>
+    <message>
+        <source>There are edits that are not saved.</source>
+        <translation>Ci sono modifiche non salvate.</translation>
+    </message>
+    <message>
+        <source>There are no settings yet in %1.
+Begin with the sample settings?</source>
+        <translation>In %1 non ci sono ancora impostazioni.
+Iniziare con le impostazioni di esempio?</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>Impossibile scrivere %1: %2</translation>
+    </message>
+    <message>
+        <source>Choose a job</source>
+        <translation>Scegli un lavoro di stampa</translation>
+    </message>
+    <message>
+        <source>Jobs (*.xml);;All files (*)</source>
+        <translation>Lavori di stampa (*.xml);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Impossibile leggere %1: %2</translation>
+    </message>
+    <message>
+        <source>%1[*] – Korvel settings</source>
+        <translation>%1[*] – Impostazioni di Korvel</translation>
+    </message>
+</context>
+<context>
+    <name>documents</name>
+    <message>
+        <source>kitchen order</source>
+        <translation>comanda di cucina</translation>
+    </message>
+    <message>
+        <source>full order</source>
+        <translation>preconto</translation>
+    </message>
+    <message>
+        <source>receipt</source>
+        <translation>scontrino</translation>
+    </message>
+    <message>
+        <source>invoice</source>
+        <translation>fattura</translation>
+    </message>
+    <message>
+        <source>delivery note</source>
+        <translation>documento di trasporto</translation>
+    </message>
+    <message>
+        <source>fiscal receipt</source>
+        <translation>scontrino fiscale</translation>
+    </message>
+    <message>
+        <source>summary order</source>
+        <translation>comanda sintetica</translation>
+    </message>
+    <message>
+        <source>summary receipt</source>
+        <translation>scontrino sintetico</translation>
+    </message>
+    <message>
+        <source>summary invoice</source>
+        <translation>fattura sintetica</translation>
+    </message>
+    <message>
+        <source>summary fiscal receipt</source>
+        <translation>scontrino fiscale sintetico</translation>
+    </message>
+    <message>
+        <source>period report</source>
+        <translation>riepilogo del periodo</translation>
+    </message>
+    <message>
+        <source>sold items</source>
+        <translation>articoli venduti</translation>
+    </message>
+    <message>
+        <source>statement of account</source>
+        <translation>estratto conto</translation>
+    </message>
+</context>
+<context>
+    <name>hints</name>
+    <message>
+        <source>No document reads this: the renderer passes it over.</source>
+        <translation>Nessun documento lo legge: il programma di stampa lo ignora.</translation>
+    </message>
+    <message>
+        <source>Counts as off: only exactly &quot;true&quot; switches it on.</source>
+        <translation>Vale come disattivato: lo attiva solo &quot;true&quot;, scritto esattamente così.</translation>
+    </message>
+    <message>
+        <source>Not a whole number: counts as 0.</source>
+        <translation>Non è un numero intero: vale 0.</translation>
+    </message>
+    <message>
+        <source>Too wide for the paper: lines of more than 32 characters, or no room for the description.</source>
+        <translation>Troppo largo per la carta: righe di più di 32 caratteri, o nessuno spazio per la descrizione.</translation>
+    </message>
+    <message>
+        <source>Nothing on the paper depends on it.</source>
+        <translation>Sulla carta non ne dipende nulla.</translation>
+    </message>
+    <message>
+        <source>Read by: %1.</source>
+        <translation>Letto da: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>vocabulary</name>
+    <message>
+        <source>width of the quantity column</source>
+        <translation>larghezza della colonna della quantità</translation>
+    </message>
+    <message>
+        <source>width of the unit price column; in a statement, of the amount</source>
+        <translation>larghezza della colonna del prezzo unitario; in un estratto conto, di quella dell&apos;importo</translation>
+    </message>
+    <message>
+        <source>width of the last column, the amount</source>
+        <translation>larghezza dell&apos;ultima colonna, quella dell&apos;importo</translation>
+    </message>
+    <message>
+        <source>width of a line and of a separator. 0 is the printer&apos;s width. Centring always goes by the printer&apos;s 32</source>
+        <translation>larghezza di una riga e di un separatore. 0 è la larghezza della stampante. La centratura si basa sempre sui 32 caratteri della stampante</translation>
+    </message>
+    <message>
+        <source>nothing depends on it</source>
+        <translation>non ne dipende nulla</translation>
+    </message>
+    <message>
+        <source>read and discarded</source>
+        <translation>letto e scartato</translation>
+    </message>
+    <message>
+        <source>empty lines that `geometry` prints; none when negative, 65536 at most</source>
+        <translation>righe vuote che `geometry` stampa; nessuna se il numero è negativo, al massimo 65536</translation>
+    </message>
+    <message>
+        <source>characters of an item&apos;s name that are sent. 0 is the printer&apos;s width; a negative number leaves the name whole. The summary fiscal receipt never cuts</source>
+        <translation>caratteri del nome di un articolo che vengono inviati. 0 è la larghezza della stampante; un numero negativo lascia il nome intero. Lo scontrino fiscale sintetico non taglia mai</translation>
+    </message>
+    <message>
+        <source>the top margin</source>
+        <translation>il margine superiore</translation>
+    </message>
+    <message>
+        <source>the lines of `headers`. The printer&apos;s name after them has no switch</source>
+        <translation>le righe di `headers`. Il nome della stampante che le segue non ha un interruttore</translation>
+    </message>
+    <message>
+        <source>nothing: kept for printers with a logo</source>
+        <translation>nulla: riservato alle stampanti con logo</translation>
+    </message>
+    <message>
+        <source>the company</source>
+        <translation>l&apos;azienda</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s delivery address</source>
+        <translation>l&apos;indirizzo di consegna del cliente</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s billing address</source>
+        <translation>l&apos;indirizzo di fatturazione del cliente</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s telephone</source>
+        <translation>il telefono del cliente</translation>
+    </message>
+    <message>
+        <source>the date of `orderinfo`</source>
+        <translation>la data di `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the time of `orderinfo`</source>
+        <translation>l&apos;ora di `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the table of `orderinfo`</source>
+        <translation>il tavolo di `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the whole customer block; the customer&apos;s other switches count only when it is on</source>
+        <translation>tutto il blocco del cliente; gli altri interruttori del cliente contano solo se è attivato</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s license number</source>
+        <translation>la partita IVA del cliente</translation>
+    </message>
+    <message>
+        <source>the customer&apos;s fiscal code</source>
+        <translation>il codice fiscale del cliente</translation>
+    </message>
+    <message>
+        <source>the credit of `orderinfo`</source>
+        <translation>il credito di `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the waiter of `orderinfo`</source>
+        <translation>il cameriere di `orderinfo`</translation>
+    </message>
+    <message>
+        <source>the note of `orderinfo`</source>
+        <translation>le note di `orderinfo`</translation>
+    </message>
+    <message>
+        <source>nothing: kept for printers with a drawer</source>
+        <translation>nulla: riservato alle stampanti con cassetto</translation>
+    </message>
+    <message>
+        <source>the folder of the catalogues</source>
+        <translation>la cartella dei cataloghi di lingua</translation>
+    </message>
+    <message>
+        <source>which catalogue; begins with `/`</source>
+        <translation>quale catalogo; inizia con `/`</translation>
+    </message>
+</context>
+</TS>

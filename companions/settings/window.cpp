@@ -1,0 +1,415 @@
+// The window's panes, menus and questions.
+#include "companions/settings/window.h"
+
+#include "companions/check/vocabulary.h"
+#include "companions/preview/findings.h"
+#include "companions/preview/paper.h"
+#include "companions/settings/hints.h"
+#include "companions/settings/paperview.h"
+#include "printer/company/commands.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSettings>
+#include <QSplitter>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
+#include <QVBoxLayout>
+
+#include <chrono>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// The sample job of a document, among the program's resources.
+struct Sample
+{
+    QLatin1StringView file;
+    const char *title; // of the document
+};
+
+// In the order of the methods of the vocabulary.
+// clang-format off
+constexpr Sample samples[] = {
+    {"kitchen-order"_L1,          QT_TRANSLATE_NOOP("documents", "kitchen order")},
+    {"full-order"_L1,             QT_TRANSLATE_NOOP("documents", "full order")},
+    {"receipt"_L1,                QT_TRANSLATE_NOOP("documents", "receipt")},
+    {"invoice"_L1,                QT_TRANSLATE_NOOP("documents", "invoice")},
+    {"delivery-note"_L1,          QT_TRANSLATE_NOOP("documents", "delivery note")},
+    {"fiscal-receipt"_L1,         QT_TRANSLATE_NOOP("documents", "fiscal receipt")},
+    {"order-summary"_L1,          QT_TRANSLATE_NOOP("documents", "summary order")},
+    {"receipt-summary"_L1,        QT_TRANSLATE_NOOP("documents", "summary receipt")},
+    {"invoice-summary"_L1,        QT_TRANSLATE_NOOP("documents", "summary invoice")},
+    {"fiscal-receipt-summary"_L1, QT_TRANSLATE_NOOP("documents", "summary fiscal receipt")},
+    {"period-report"_L1,          QT_TRANSLATE_NOOP("documents", "period report")},
+    {"sold-items"_L1,             QT_TRANSLATE_NOOP("documents", "sold items")},
+    {"statement"_L1,              QT_TRANSLATE_NOOP("documents", "statement of account")},
+};
+// clang-format on
+
+constexpr int receiptSample = 2; // shown first
+
+/// A document's title as the chooser shows it.
+QString titleOf(const Sample &sample)
+{
+    QString title = QCoreApplication::translate("documents", sample.title);
+    title[0] = title[0].toUpper();
+    return title;
+}
+
+QByteArray resource(const QString &name)
+{
+    QFile file(u":/examples/"_s + name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+SettingsWindow::SettingsWindow(const QString &file, const QString &renderer)
+    : document(std::make_unique<SettingsDocument>(file))
+    , rendering(renderer)
+{
+    buildPanes();
+    buildMenus();
+    restoreSize();
+    pause.setSingleShot(true);
+    pause.setInterval(50ms);
+    connect(&pause, &QTimer::timeout, this, &SettingsWindow::refresh);
+    connect(&rendering, &Rendering::rendered, this, &SettingsWindow::showStream);
+    connect(&rendering, &Rendering::failed, this, [this](const QString &reason) {
+        shown.clear();
+        paper->showMessage(reason);
+        findings->clear();
+    });
+}
+
+SettingsWindow::~SettingsWindow()
+{
+    // An editor that is still open would hand over its value.
+    if (view)
+        view->disconnect(this);
+}
+
+void SettingsWindow::begin()
+{
+    if (!document->exists())
+        offerSample();
+    load();
+}
+
+void SettingsWindow::buildPanes()
+{
+    auto *left = new QWidget;
+    treePane = new QVBoxLayout(left);
+    meaning = new QLabel;
+    meaning->setObjectName(u"meaning"_s);
+    meaning->setWordWrap(true);
+    meaning->setTextFormat(Qt::RichText);
+    meaning->setMinimumHeight(5 * meaning->fontMetrics().lineSpacing());
+    meaning->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    treePane->addWidget(meaning);
+
+    auto *right = new QWidget;
+    auto *paperPane = new QVBoxLayout(right);
+    auto *label = new QLabel(tr("&Document:"));
+    jobs = new QComboBox;
+    jobs->setObjectName(u"jobs"_s);
+    for (const Sample &sample : samples)
+        jobs->addItem(titleOf(sample));
+    jobs->insertSeparator(jobs->count());
+    jobs->addItem(tr("Job file …"));
+    label->setBuddy(jobs);
+    auto *chooser = new QHBoxLayout;
+    chooser->addWidget(label);
+    chooser->addWidget(jobs, 1);
+    paperPane->addLayout(chooser);
+
+    paper = new PaperView;
+    paper->setObjectName(u"paper"_s);
+    auto *scroll = new QScrollArea;
+    scroll->setWidget(paper);
+    scroll->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    scroll->setBackgroundRole(QPalette::Mid);
+    paperPane->addWidget(scroll, 1);
+    findings = new QLabel;
+    findings->setObjectName(u"findings"_s);
+    findings->setWordWrap(true);
+    findings->setTextFormat(Qt::PlainText);
+    paperPane->addWidget(findings);
+
+    panes = new QSplitter;
+    panes->addWidget(left);
+    panes->addWidget(right);
+    panes->setStretchFactor(0, 2);
+    panes->setStretchFactor(1, 3);
+    panes->setSizes({400, 600});
+    panes->setChildrenCollapsible(false);
+    setCentralWidget(panes);
+
+    jobs->setCurrentIndex(receiptSample);
+    lastJob = receiptSample;
+    job = resource(u"jobs/"_s + samples[receiptSample].file + u".xml"_s);
+    connect(jobs, &QComboBox::activated, this, &SettingsWindow::chooseJob);
+}
+
+void SettingsWindow::buildMenus()
+{
+    QMenu *file = menuBar()->addMenu(tr("&File"));
+    const auto add = [&](const QString &text, const QKeySequence &shortcut, auto slot) {
+        QAction *action = file->addAction(text);
+        action->setShortcut(shortcut);
+        connect(action, &QAction::triggered, this, slot);
+        return action;
+    };
+    add(tr("&Open …"), QKeySequence::Open, &SettingsWindow::open);
+    saveAction = add(tr("&Save"), QKeySequence::Save, &SettingsWindow::save);
+    add(tr("&Revert"), QKeySequence::Refresh, &SettingsWindow::revert);
+    file->addSeparator();
+    add(tr("&Quit"), Qt::CTRL | Qt::Key_Q, [this] { close(); });
+}
+
+void SettingsWindow::open()
+{
+    if (!mayDiscardEdits())
+        return;
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open settings"),
+                                                      QFileInfo(document->path()).absolutePath(),
+                                                      tr("Settings (*.conf *.cfg);;All files (*)"));
+    if (path.isEmpty())
+        return;
+    document = std::make_unique<SettingsDocument>(path);
+    load();
+}
+
+void SettingsWindow::load()
+{
+    if (const QString error = document->readError(); !error.isEmpty())
+        tell(error);
+    delete view;
+    view = document->read().release();
+    view->setObjectName(u"settings"_s);
+    view->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
+                          | QAbstractItemView::AnyKeyPressed);
+    view->expandToDepth(1);
+    openGroup();
+    treePane->insertWidget(0, view, 1);
+    connect(view, &QTreeWidget::itemChanged, this, &SettingsWindow::edited);
+    connect(view, &QTreeWidget::currentItemChanged, this, &SettingsWindow::showMeaning);
+    view->setFocus();
+    setWindowModified(false);
+    updateTitle();
+    refresh();
+}
+
+bool SettingsWindow::save()
+{
+    closeEditor();
+    if (document->hasChanged()
+        && !ask(tr("The file was changed by another program since it was opened."), {},
+                tr("Save all the same")))
+        return false;
+    if (const QStringList losses = document->losses(*view);
+        !losses.isEmpty() && !ask(tr("Not everything can be saved."), losses, tr("Save the rest")))
+        return false;
+    if (const QString error = document->save(*view); !error.isEmpty()) {
+        tell(error);
+        return false;
+    }
+    setWindowModified(false);
+    updateTitle();
+    return true;
+}
+
+void SettingsWindow::revert()
+{
+    if (mayDiscardEdits())
+        load();
+}
+
+/// Takes over what stands in an open editor.
+void SettingsWindow::closeEditor()
+{
+    if (!view)
+        return;
+    for (QLineEdit *editor : view->viewport()->findChildren<QLineEdit *>()) {
+        QMetaObject::invokeMethod(view, "commitData", Q_ARG(QWidget *, editor));
+        QMetaObject::invokeMethod(
+            view, "closeEditor", Q_ARG(QWidget *, editor),
+            Q_ARG(QAbstractItemDelegate::EndEditHint, QAbstractItemDelegate::NoHint));
+    }
+}
+
+/// Whether unsaved edits may go: there are none, they were saved, or the user gave them up.
+bool SettingsWindow::mayDiscardEdits()
+{
+    closeEditor();
+    if (!isWindowModified())
+        return true;
+    QMessageBox box(QMessageBox::Question, tr("Settings"),
+                    tr("There are edits that are not saved."),
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    box.setDefaultButton(QMessageBox::Cancel);
+    const int answer = box.exec();
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
+}
+
+/// Says what went wrong. Names and values may hold what looks like markup.
+void SettingsWindow::tell(const QString &text)
+{
+    QMessageBox box(QMessageBox::Warning, tr("Settings"), text, QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+/// Asks whether to go on; not to is the default.
+bool SettingsWindow::ask(const QString &question, const QStringList &details, const QString &goOn)
+{
+    const QString text = (QStringList(question) + details).join(u"\n\n"_s);
+    QMessageBox box(QMessageBox::Warning, tr("Settings"), text, QMessageBox::Cancel, this);
+    box.setTextFormat(Qt::PlainText);
+    const QPushButton *yes = box.addButton(goOn, QMessageBox::AcceptRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == yes;
+}
+
+void SettingsWindow::offerSample()
+{
+    QMessageBox box(QMessageBox::Question, tr("Settings"),
+                    tr("There are no settings yet in %1.\nBegin with the sample settings?")
+                        .arg(document->path()),
+                    QMessageBox::Yes | QMessageBox::No, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Yes);
+    if (box.exec() != QMessageBox::Yes)
+        return;
+    const QString folder = QFileInfo(document->path()).absolutePath();
+    if (!QDir().mkpath(folder)) {
+        tell(tr("The folder %1 cannot be made.").arg(folder));
+        return;
+    }
+    QFile file(document->path());
+    const QByteArray sample = resource(u"korvel.conf"_s);
+    if (!file.open(QIODevice::WriteOnly) || file.write(sample) != sample.size() || !file.flush())
+        tell(tr("%1 cannot be written: %2").arg(document->path(), file.errorString()));
+}
+
+void SettingsWindow::edited()
+{
+    setWindowModified(true);
+    updateTitle();
+    pause.start();
+}
+
+/// Opens the group that the shown document reads.
+void SettingsWindow::openGroup()
+{
+    if (lastJob >= static_cast<int>(std::size(samples)))
+        return; // the user's own job
+    const QString group = vocabulary::methods()[lastJob].group;
+    for (QTreeWidgetItemIterator row(view); *row; ++row) {
+        if ((*row)->text(0) == group && (*row)->childCount() > 0) {
+            view->expandRecursively(view->indexFromItem(*row));
+            view->scrollToItem(*row, QAbstractItemView::PositionAtTop);
+            return;
+        }
+    }
+}
+
+/// Brings the marks and the paper in line with the tree.
+void SettingsWindow::refresh()
+{
+    const QByteArray settings = SettingsDocument::writtenBy(*view);
+    hints::mark(*view, settings);
+    showMeaning();
+    rendering.render(job, settings);
+}
+
+void SettingsWindow::chooseJob(int index)
+{
+    if (index >= static_cast<int>(std::size(samples))) {
+        chooseJobFile();
+        return;
+    }
+    lastJob = index;
+    job = resource(u"jobs/"_s + samples[index].file + u".xml"_s);
+    openGroup();
+    refresh();
+}
+
+void SettingsWindow::chooseJobFile()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Choose a job"), QString(),
+                                                      tr("Jobs (*.xml);;All files (*)"));
+    QFile file(path);
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly)) {
+        if (!path.isEmpty())
+            tell(tr("%1 cannot be read: %2").arg(path, file.errorString()));
+        jobs->setCurrentIndex(lastJob);
+        return;
+    }
+    job = file.readAll();
+    lastJob = jobs->currentIndex();
+    refresh();
+}
+
+void SettingsWindow::showStream(const QByteArray &stream, const QString &messages)
+{
+    shown = stream;
+    const QList<preview::Command> commands = preview::decode(stream);
+    paper->showPaper(
+        preview::Picture(preview::paperOf(commands, commands::lineWidth), commands::lineWidth));
+    QStringList lines;
+    if (!messages.isEmpty())
+        lines.append(messages);
+    for (const preview::Finding &finding :
+         preview::findings(stream, commands, commands::lineWidth)) {
+        if (lines.size() == 4) {
+            lines.append(u"…"_s);
+            break;
+        }
+        lines.append(finding.text);
+    }
+    findings->setText(lines.join(u'\n'));
+}
+
+void SettingsWindow::showMeaning() { meaning->setText(hints::meaningOf(view->currentItem())); }
+
+void SettingsWindow::updateTitle()
+{
+    setWindowTitle(tr("%1[*] – Korvel settings").arg(QFileInfo(document->path()).fileName()));
+    setWindowFilePath(document->path());
+    saveAction->setEnabled(view != nullptr);
+}
+
+void SettingsWindow::restoreSize()
+{
+    resize(1000, 720);
+    const QSettings settings;
+    restoreGeometry(settings.value(u"window/geometry"_s).toByteArray());
+    panes->restoreState(settings.value(u"window/panes"_s).toByteArray());
+}
+
+void SettingsWindow::closeEvent(QCloseEvent *event)
+{
+    if (!mayDiscardEdits()) {
+        event->ignore();
+        return;
+    }
+    QSettings settings;
+    settings.setValue(u"window/geometry"_s, saveGeometry());
+    settings.setValue(u"window/panes"_s, panes->saveState());
+    event->accept();
+}
