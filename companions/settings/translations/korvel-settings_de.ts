@@ -74,6 +74,14 @@
         <source>%1 could not be written whole; the previous file was put back.</source>
         <translation>%1 konnte nicht vollständig geschrieben werden; die bisherige Datei wurde wiederhergestellt.</translation>
     </message>
+    <message>
+        <source>The text at the end of the file is no setting.</source>
+        <translation>Der Text am Ende der Datei ist keine Einstellung.</translation>
+    </message>
+    <message>
+        <source>The temporary folder cannot be written; nothing was saved.</source>
+        <translation>Der temporäre Ordner kann nicht beschrieben werden; es wurde nichts gespeichert.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>
@@ -162,6 +170,10 @@ Mit den Beispieleinstellungen beginnen?</translation>
     <message>
         <source>%1[*] – Korvel settings</source>
         <translation>%1[*] – Korvel-Einstellungen</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Der Ordner %1 lässt sich nicht anlegen.</translation>
     </message>
 </context>
 <context>

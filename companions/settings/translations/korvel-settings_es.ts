@@ -74,6 +74,14 @@
         <source>%1 could not be written whole; the previous file was put back.</source>
         <translation>No se pudo escribir %1 por completo; se restableció el archivo anterior.</translation>
     </message>
+    <message>
+        <source>The text at the end of the file is no setting.</source>
+        <translation>El texto al final del archivo no es ningún ajuste.</translation>
+    </message>
+    <message>
+        <source>The temporary folder cannot be written; nothing was saved.</source>
+        <translation>No se puede escribir en la carpeta temporal; no se ha guardado nada.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>
@@ -162,6 +170,10 @@ Begin with the sample settings?</source>
     <message>
         <source>%1[*] – Korvel settings</source>
         <translation>%1[*] – Ajustes de Korvel</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>No se puede crear la carpeta %1.</translation>
     </message>
 </context>
 <context>

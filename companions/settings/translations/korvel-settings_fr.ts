@@ -74,6 +74,14 @@
         <source>%1 could not be written whole; the previous file was put back.</source>
         <translation>%1 n&apos;a pas pu être écrit en entier&#xa0;; le fichier précédent a été rétabli.</translation>
     </message>
+    <message>
+        <source>The text at the end of the file is no setting.</source>
+        <translation>Le texte à la fin du fichier n&apos;est pas un paramètre.</translation>
+    </message>
+    <message>
+        <source>The temporary folder cannot be written; nothing was saved.</source>
+        <translation>Le dossier temporaire ne peut pas être écrit&#xa0;; rien n&apos;a été enregistré.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>
@@ -162,6 +170,10 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
     <message>
         <source>%1[*] – Korvel settings</source>
         <translation>%1[*] – Paramètres de Korvel</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Impossible de créer le dossier %1.</translation>
     </message>
 </context>
 <context>

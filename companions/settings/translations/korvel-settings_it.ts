@@ -74,6 +74,14 @@
         <source>%1 could not be written whole; the previous file was put back.</source>
         <translation>Non è stato possibile scrivere %1 per intero; è stato ripristinato il file precedente.</translation>
     </message>
+    <message>
+        <source>The text at the end of the file is no setting.</source>
+        <translation>Il testo alla fine del file non è un&apos;impostazione.</translation>
+    </message>
+    <message>
+        <source>The temporary folder cannot be written; nothing was saved.</source>
+        <translation>La cartella temporanea non può essere scritta; non è stato salvato nulla.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>
@@ -162,6 +170,10 @@ Iniziare con le impostazioni di esempio?</translation>
     <message>
         <source>%1[*] – Korvel settings</source>
         <translation>%1[*] – Impostazioni di Korvel</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Impossibile creare la cartella %1.</translation>
     </message>
 </context>
 <context>
