@@ -88,3 +88,34 @@ function(korvel_add_fuzz_target name)
         COMMAND replay_${name} ${PROJECT_SOURCE_DIR}/tests/fuzz/corpus/${name})
     set_tests_properties(fuzz-${name} PROPERTIES ENVIRONMENT "${KORVEL_TEST_ENVIRONMENT}")
 endfunction()
+
+# Builds and tests tests/consumer, a project of its own, on the installed libraries; docs/add-a-printer.md
+# shows its sources.
+function(korvel_add_consumer_test)
+    set(consumer ${PROJECT_SOURCE_DIR}/tests/consumer)
+    set(work ${PROJECT_BINARY_DIR}/consumer)
+    set(flags ${CMAKE_CXX_FLAGS})
+    if(KORVEL_SANITIZERS)
+        string(APPEND flags " -fsanitize=${KORVEL_SANITIZERS}")
+    endif()
+    add_test(NAME consumer-install
+        COMMAND ${CMAKE_COMMAND} --install ${PROJECT_BINARY_DIR}
+            --component development --prefix ${work}/installed)
+    set_tests_properties(consumer-install PROPERTIES FIXTURES_SETUP consumer)
+    add_test(NAME consumer
+        COMMAND ${CMAKE_CTEST_COMMAND}
+            --build-and-test ${consumer} ${work}/build
+            --build-generator ${CMAKE_GENERATOR}
+            --build-options
+                -DCMAKE_BUILD_TYPE=${CMAKE_BUILD_TYPE}
+                -DCMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER}
+                -DCMAKE_CXX_FLAGS=${flags}
+                -DKorvelPrint_ROOT=${work}/installed
+            --test-command ${CMAKE_CTEST_COMMAND} --output-on-failure)
+    set_tests_properties(consumer PROPERTIES FIXTURES_REQUIRED consumer)
+    add_test(NAME consumer-page
+        COMMAND ${CMAKE_COMMAND}
+            -DPAGE=${PROJECT_SOURCE_DIR}/docs/add-a-printer.md
+            "-DSOURCES=${consumer}/textprinter.h;${consumer}/main.cpp"
+            -P ${consumer}/page.cmake)
+endfunction()

@@ -1,0 +1,38 @@
+# What cmake --install installs, in four components: print, tools, settings and development.
+#
+#   korvel_install_program(target component)   a program and its manual page, docs/man/<target>.1.in
+#   korvel_install_library(name headers...)    the library korvel-<name>, in the CMake package
+#                                              korvel::<name>, and headers under the path by which
+#                                              they are included
+#   korvel_compress(source name)               builds KORVEL_COMPRESSED_DIR/<name> of a file, the
+#                                              same bytes of the same file every time
+
+find_program(GZIP gzip REQUIRED)
+set(KORVEL_COMPRESSED_DIR ${PROJECT_BINARY_DIR}/compressed)
+file(MAKE_DIRECTORY ${KORVEL_COMPRESSED_DIR})
+
+function(korvel_compress source name)
+    add_custom_command(
+        OUTPUT ${KORVEL_COMPRESSED_DIR}/${name}
+        COMMAND ${GZIP} -9n < ${source} > ${KORVEL_COMPRESSED_DIR}/${name}
+        DEPENDS ${source}
+        VERBATIM)
+    add_custom_target(compressed-${name} ALL DEPENDS ${KORVEL_COMPRESSED_DIR}/${name})
+endfunction()
+
+function(korvel_install_program target component)
+    install(TARGETS ${target} COMPONENT ${component})
+    configure_file(${PROJECT_SOURCE_DIR}/docs/man/${target}.1.in ${target}.1 @ONLY)
+    korvel_compress(${CMAKE_CURRENT_BINARY_DIR}/${target}.1 ${target}.1.gz)
+    install(FILES ${KORVEL_COMPRESSED_DIR}/${target}.1.gz
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ${component})
+endfunction()
+
+function(korvel_install_library name)
+    file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
+    set_target_properties(korvel-${name} PROPERTIES EXPORT_NAME ${name})
+    install(TARGETS korvel-${name} EXPORT KorvelPrintTargets COMPONENT development
+        INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/korvel-print)
+    install(FILES ${ARGN}
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/korvel-print/${folder} COMPONENT development)
+endfunction()

@@ -1,0 +1,113 @@
+# The CMake package KorvelPrint, and the Debian packages, one a component.
+
+# What find_package(KorvelPrint) reads.
+include(CMakePackageConfigHelpers)
+set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/KorvelPrint)
+configure_package_config_file(
+    ${PROJECT_SOURCE_DIR}/cmake/KorvelPrintConfig.cmake.in
+    ${PROJECT_BINARY_DIR}/KorvelPrintConfig.cmake
+    INSTALL_DESTINATION ${config_dir})
+write_basic_package_version_file(
+    ${PROJECT_BINARY_DIR}/KorvelPrintConfigVersion.cmake
+    COMPATIBILITY SameMajorVersion)
+install(FILES
+    ${PROJECT_BINARY_DIR}/KorvelPrintConfig.cmake
+    ${PROJECT_BINARY_DIR}/KorvelPrintConfigVersion.cmake
+    DESTINATION ${config_dir} COMPONENT development)
+install(EXPORT KorvelPrintTargets
+    NAMESPACE korvel:: DESTINATION ${config_dir} COMPONENT development)
+
+# The files that every Debian package has. Only packages have them: they are left out where the
+# whole is installed.
+set(KORVEL_MAINTAINER "The korvel-print developers <developers@korvel-print.invalid>")
+set(CPACK_DEBIAN_PACKAGE_RELEASE 0korvel1) # gives way to a distribution's own -1
+set(KORVEL_DEBIAN_VERSION ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
+execute_process(
+    COMMAND date --utc --rfc-email --date "${KORVEL_RELEASE_DATE} 12:00"
+    OUTPUT_VARIABLE KORVEL_RELEASE_TIME OUTPUT_STRIP_TRAILING_WHITESPACE
+    COMMAND_ERROR_IS_FATAL ANY)
+configure_file(${PROJECT_SOURCE_DIR}/packaging/changelog.in changelog.Debian @ONLY)
+korvel_compress(${PROJECT_BINARY_DIR}/changelog.Debian changelog.Debian.gz)
+korvel_compress(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog.gz)
+
+# Packages of one version only fit each other.
+macro(korvel_package component name)
+    cmake_parse_arguments(package "" "SECTION;SYNOPSIS;DESCRIPTION" "DEPENDS;RECOMMENDS;SUGGESTS" ${ARGN})
+    install(FILES
+        ${PROJECT_SOURCE_DIR}/packaging/copyright
+        ${KORVEL_COMPRESSED_DIR}/changelog.gz
+        ${KORVEL_COMPRESSED_DIR}/changelog.Debian.gz
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${name}
+        COMPONENT ${component} EXCLUDE_FROM_ALL)
+    list(APPEND CPACK_COMPONENTS_ALL ${component})
+    string(TOUPPER ${component} upper)
+    set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${name})
+    set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${package_SECTION})
+    set(CPACK_DEBIAN_${upper}_DESCRIPTION "${package_SYNOPSIS}\n${package_DESCRIPTION}")
+    foreach(relation DEPENDS RECOMMENDS SUGGESTS)
+        list(JOIN package_${relation} ", " CPACK_DEBIAN_${upper}_PACKAGE_${relation})
+    endforeach()
+endmacro()
+
+korvel_package(print korvel-print
+    SECTION utils
+    SUGGESTS korvel-settings korvel-tools
+    SYNOPSIS "print-job renderer for points of sale"
+    DESCRIPTION
+"korvel-print turns a point of sale's print job, a small XML file, into the
+command stream of a fiscal receipt printer. It lays out kitchen orders,
+receipts, invoices, fiscal receipts and reports in text columns, as the
+settings of the shop say.
+
+The labels print in English, German, Spanish, French or Italian. The renderer
+needs no display.")
+
+korvel_package(tools korvel-tools
+    SECTION utils
+    RECOMMENDS fonts-dejavu-core korvel-print
+    SYNOPSIS "preview and checker for the print jobs of korvel-print"
+    DESCRIPTION
+"korvel-preview shows what a command stream would put on the paper of a fiscal
+receipt printer, in the terminal or as a PNG or PDF, and says what is wrong
+with it. korvel-check says what is wrong with a print job or with the settings
+of a shop, before anything is printed.
+
+A RELAX NG schema of print jobs is included.")
+
+korvel_package(settings korvel-settings
+    SECTION utils
+    DEPENDS "korvel-print (= ${KORVEL_DEBIAN_VERSION})"
+    RECOMMENDS fonts-dejavu-core libqt6svg6 qt6-translations-l10n
+    SYNOPSIS "settings editor for korvel-print"
+    DESCRIPTION
+"korvel-settings shows the settings file of korvel-print as a tree, and beside
+it a sample document as the printer would put it on paper: column widths,
+headers and labels can be tried before they are saved.")
+
+korvel_package(development korvel-print-dev
+    SECTION libdevel
+    DEPENDS "qt6-5compat-dev (>= 6.4)" "qt6-base-dev (>= 6.4)"
+    SUGGESTS cmake
+    SYNOPSIS "print-job renderer for points of sale - development files"
+    DESCRIPTION
+"korvel-print turns a point of sale's print job, a small XML file, into the
+command stream of a fiscal receipt printer.
+
+This package has the static libraries and headers to build a back end for
+another printer: the document engine, the settings store and the back end of
+korvel-print itself. CMake finds them as the package KorvelPrint.")
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME korvel-print)
+set(CPACK_PACKAGE_CONTACT "${KORVEL_MAINTAINER}")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has a synopsis of its own
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SOURCE korvel-print)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+include(CPack)
