@@ -580,7 +580,7 @@ QString whyUnread(const SettingsFile::Entry &entry)
     QStringList groups = {u"language"_s};
     for (const Method &method : vocabulary::methods())
         groups.append(method.group);
-    const QString places = u"settings stand in a document's group or in language, in korvel"_s;
+    QString places = u"settings stand in a document's group or in language, in korvel"_s;
     if (entry.groups.size() > 2)
         return places + u"; does a } lack its ;?"_s;
     if (entry.groups.size() < 2)

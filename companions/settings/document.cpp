@@ -35,7 +35,8 @@ void addRows(const QTreeWidgetItem &parent, const QStringList &path, QList<Row> 
         Row row;
         row.path = path + QStringList(item.text(0));
         row.isEmpty = item.childCount() == 0;
-        row.isSetting = !row.isEmpty && item.child(0)->childCount() == 0;
+        // A group whose first group is empty looks like a setting, but holds no value.
+        row.isSetting = !row.isEmpty && (item.child(0)->flags() & Qt::ItemIsEditable) != 0;
         if (row.isSetting)
             row.value = item.child(0)->text(0);
         rows.append(row);
@@ -200,7 +201,8 @@ QString SettingsDocument::save(const QTreeWidget &view)
     if (!isWhole(expected, view, notation == "xml"_L1))
         return tr("The temporary folder cannot be written; nothing was saved.");
     const QByteArray before = bytesOnDisk();
-    if (exists()) {
+    const bool wasThere = exists();
+    if (wasThere) {
         QSaveFile backup(filePath + u'~');
         if (!backup.open(QIODevice::WriteOnly) || backup.write(before) != before.size()
             || !backup.flush() || !backup.commit())
@@ -216,7 +218,7 @@ QString SettingsDocument::save(const QTreeWidget &view)
     Config(filePath, notation).loadListView(&view);
     const QByteArray written = bytesOnDisk();
     if (written != expected) {
-        if (!existed)
+        if (!wasThere)
             file.remove();
         else if (file.open(QIODevice::WriteOnly))
             file.write(before);

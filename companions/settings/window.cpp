@@ -220,8 +220,8 @@ bool SettingsWindow::save()
         && !ask(tr("The file was changed by another program since it was opened."), {},
                 tr("Save all the same")))
         return false;
-    if (const QStringList losses = document->losses(*view);
-        !losses.isEmpty() && !ask(tr("Not everything can be saved."), losses, tr("Save the rest")))
+    const QStringList losses = document->losses(*view);
+    if (!losses.isEmpty() && !ask(tr("Not everything can be saved."), losses, tr("Save the rest")))
         return false;
     if (const QString error = document->save(*view); !error.isEmpty()) {
         tell(error);
@@ -229,6 +229,8 @@ bool SettingsWindow::save()
     }
     setWindowModified(false);
     updateTitle();
+    if (!losses.isEmpty())
+        load(); // so that the tree shows what was kept
     return true;
 }
 
@@ -354,7 +356,7 @@ void SettingsWindow::chooseJobFile()
     const QString path = QFileDialog::getOpenFileName(this, tr("Choose a job"), QString(),
                                                       tr("Jobs (*.xml);;All files (*)"));
     QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly)) {
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
         if (!path.isEmpty())
             tell(tr("%1 cannot be read: %2").arg(path, file.errorString()));
         jobs->setCurrentIndex(lastJob);

@@ -396,6 +396,20 @@ private slots:
         QCOMPARE(settings.bytes(), file);
     }
 
+    // A group in which nothing stands but an empty one looks like a value, and the group around it
+    // like a setting.
+    void aHollowGroupHidesNoLoss()
+    {
+        const File file(
+            settingsFile("hollow: { inner: { }; }; " + documentGroup("doc", "style = a;")));
+        SettingsDocument document(file.path());
+        const auto view = document.read();
+        const QByteArray written = SettingsDocument::writtenBy(*view);
+        const QString lines = document.losses(*view).join('\n');
+        QVERIFY2(written.contains("style = \"a\";") || lines.contains("korvel"),
+                 qPrintable(written + lines.toUtf8()));
+    }
+
     // What is read back after saving is what the view held, where no loss was named.
     void withoutLossesTheFileHoldsTheView()
     {
