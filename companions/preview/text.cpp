@@ -27,6 +27,8 @@ qsizetype characterLength(QByteArrayView text)
     if (text.isEmpty())
         return 0;
     const auto lead = static_cast<unsigned char>(text.front());
+    if (lead < 0x80)
+        return 1;
     qsizetype length = 1;
     if (lead >= 0xF0)
         length = 4;
@@ -39,6 +41,8 @@ qsizetype characterLength(QByteArrayView text)
 
 bool isControl(QByteArrayView character)
 {
+    if (character.size() == 1)
+        return static_cast<unsigned char>(character.front()) < 0x20 || character.front() == 0x7f;
     const QList<uint> points = decoded(character).toUcs4();
     return points.size() == 1 && QChar::category(points.front()) == QChar::Other_Control;
 }
@@ -47,6 +51,11 @@ QString escaped(QByteArrayView bytes)
 {
     QString text;
     while (!bytes.isEmpty()) {
+        if (const char c = bytes.front(); c >= ' ' && c <= '~' && c != '\\') { // by far the most
+            text += QLatin1Char(c);
+            bytes = bytes.sliced(1);
+            continue;
+        }
         const qsizetype length = characterLength(bytes);
         const QByteArrayView character = bytes.first(length > 0 ? length : 1);
         const QString shown = decoded(character);
