@@ -219,24 +219,25 @@ void splitCentring(Command &command)
 /// Tells closing commands from opening ones where their bytes are the same.
 void sortSections(QList<Command> &commands)
 {
-    std::optional<Section> open;
+    bool isOpen = false;
+    Section open = Section::Document;
     for (qsizetype i = 0; i < commands.size(); ++i) {
         Command &command = commands[i];
         if (command.kind == Kind::SectionClosed) { // a fiscal one: its bytes are its own
-            if (open == Section::Fiscal)
-                open.reset();
+            isOpen = isOpen && open != Section::Fiscal;
         } else if (command.kind == Kind::SectionOpened && command.section != Section::Document) {
+            isOpen = true;
             open = command.section;
         } else if (command.kind == Kind::SectionOpened) {
             const bool last = i + 1 == commands.size();
             const bool opensNext = !last && commands[i + 1].kind == Kind::SectionOpened
                                    && commands[i + 1].section != Section::Document;
-            if (open == Section::Receipt || open == Section::Document
-                || (!open && (last || opensNext))) {
+            if (isOpen ? open != Section::Fiscal : last || opensNext) {
                 command.kind = Kind::SectionClosed;
-                command.section = open.value_or(Section::Document);
-                open.reset();
+                command.section = isOpen ? open : Section::Document;
+                isOpen = false;
             } else {
+                isOpen = true;
                 open = Section::Document;
             }
         }
