@@ -27,8 +27,7 @@ void prepareCompanion()
     // Opened the wrong way round: to read from it, or to write to it, is the error that it was.
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (fcntl(descriptor, F_GETFD) < 0)
-            static_cast<void>(
-                open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY)); // NOLINT
+            static_cast<void>(open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY));
     }
 }
 
