@@ -1,30 +1,24 @@
-// The brace notation, in: settings `name = "value";` and groups `name: { ... };`.
+// The brace notation, in: the file, and what its statements come to in the tree.
 #include "config/config.h"
+
+#include "config/statements.h"
+#include "config/tree.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QScopedValueRollback>
 
 #include <iostream>
-#include <string>
-#include <string_view>
+#include <memory>
 #include <utility>
 
 namespace libconfig {
 
 namespace {
 
-/// Adds a byte to a name or a value. Indentation is left out from the start.
-void add(std::string &bytes, char c)
+void reportMissing(const QByteArray &path)
 {
-    if (!bytes.empty() || (c != ' ' && c != '\n'))
-        bytes += c;
-}
-
-/// A name or a raw value: Latin-1, outer white space stripped, inner kept.
-QString textOf(std::string_view bytes)
-{
-    return QString::fromLatin1(bytes.data(), qsizetype(bytes.size())).trimmed();
+    std::cout << "Error in the method FileReader::open( " << path.toStdString()
+              << " ): File Not Found" << std::endl;
 }
 
 } // namespace
@@ -40,8 +34,7 @@ bool Config::openFile(const QString &name)
     if (stream.is_open())
         return true;
 
-    std::cout << "Error in the method FileReader::open( " << path.toStdString()
-              << " ): File Not Found" << std::endl;
+    reportMissing(path);
     return false;
 }
 
@@ -49,108 +42,50 @@ bool Config::openFile() { return openFile(fileName); }
 
 void Config::closeFile() { stream.close(); }
 
-/// Takes the next byte, if there is one, straight from the buffer: a stream checks itself over for
-/// every byte it is asked for.
-bool Config::next(char &c)
+bool Config::jump(char c)
 {
-    using Traits = std::ifstream::traits_type;
+    Tree unused;
     try {
-        const Traits::int_type byte = stream.rdbuf()->sbumpc();
-        c = Traits::to_char_type(byte);
-        return !Traits::eq_int_type(byte, Traits::eof());
+        return Statements(*stream.rdbuf(), unused).jump(c);
     } catch (const std::ios_base::failure &) {
         return false; // the file cannot be read any further
     }
 }
 
-bool Config::jump(char c)
-{
-    for (char read = 0; next(read);)
-        if (read == c)
-            return true;
-    return false;
-}
-
 void Config::loadFile()
 {
-    if (!document)
-        document = std::make_unique<QDomDocument>();
     openFile();
-    QDomElement file = document->createElement(fileName);
-    const bool closedByBrace = loadStatements(file, QDomNode());
-    if (file.hasAttributes() || file.hasChildNodes())
-        document->appendChild(file);
-    if (!closedByBrace)
+    if (!loadStatements(*stream.rdbuf()))
         closeFile();
+}
+
+/// Reads the statements of a file or of its bytes: true up to the '}' that closes them, false up
+/// to the end.
+bool Config::loadStatements(std::streambuf &bytes)
+{
+    auto read = std::make_unique<Tree>();
+    bool closedByBrace = false;
+    try {
+        closedByBrace = Statements(bytes, *read).read();
+    } catch (const std::ios_base::failure &) {
+        // Half of the settings would make another document of the job; without any it is plain.
+        reportMissing(QFile::encodeName(fileName));
+        read = std::make_unique<Tree>();
+    }
+    document.add(fileName, std::move(read));
+    return closedByBrace;
 }
 
 void Config::loadFile(const QString &groupName, const QDomNode &parent)
 {
-    const QScopedValueRollback level(depth, depth + 1);
-    if (groupName.isEmpty() || parent.isNull() || depth > deepestGroup)
-        skipGroup();
-    else
-        loadStatements(parent.ownerDocument().createElement(groupName), parent);
-}
-
-/// Reads over a group, with all that it holds.
-void Config::skipGroup()
-{
-    int open = 1;
-    for (char c = 0; open > 0 && next(c);) {
-        if (c == ':') {
-            jump('{');
-            ++open;
-        } else if (c == '=') {
-            jump(';');
-        } else if (c == '}') {
-            jump(';');
-            --open;
-        }
+    Tree body;
+    try {
+        Statements(*stream.rdbuf(), body).read();
+    } catch (const std::ios_base::failure &) {
+        return; // the file cannot be read any further
     }
-}
-
-/// Reads statements up to the '}' of their level (true) or the end of the file (false).
-bool Config::loadStatements(QDomElement group, QDomNode parent)
-{
-    bool attached = false;
-    const auto attachOnce = [&] {
-        if (!std::exchange(attached, true))
-            attach(group, parent);
-    };
-
-    std::string name;
-    for (char c = 0; next(c);) {
-        switch (c) {
-        case ':':
-            jump('{');
-            attachOnce();
-            loadFile(textOf(name), group);
-            name.clear();
-            break;
-        case '=':
-            set(group, textOf(name), readValue());
-            attachOnce();
-            name.clear();
-            break;
-        case '}':
-            jump(';');
-            return true;
-        default:
-            add(name, c);
-        }
-    }
-    return false;
-}
-
-/// Reads up to the next ';' or the end of the file: Latin-1, outer white space stripped, then
-/// every quote removed, so that blanks inside quotes survive.
-QString Config::readValue()
-{
-    std::string bytes;
-    for (char c = 0; next(c) && c != ';';)
-        add(bytes, c);
-    return textOf(bytes).remove(u'"');
+    if (!groupName.isEmpty() && !parent.isNull())
+        document.add(groupName, body, parent);
 }
 
 } // namespace libconfig

@@ -1,29 +1,36 @@
 // The settings store: life cycle, choice of the notation, look-up of dotted keys.
 #include "config/config.h"
 
+#include "config/tree.h"
+
+#include <streambuf>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace libconfig {
 
 namespace {
 
-/// Tells elements apart: the toolkit's handles to one element share what they point to.
-class Identity : private QDomElement
+// A group of either tree: its name, the value of a setting, what is below it and beside it.
+
+bool isGroup(const QDomNode &node) { return node.isElement(); }
+bool isGroup(const Tree::Node &node) { return !node.isNull(); }
+
+bool isNamed(const QDomNode &node, QStringView name) { return node.nodeName() == name; }
+bool isNamed(const Tree::Node &node, QStringView name) { return node.name() == name; }
+
+QString valueIn(const QDomNode &node, QStringView setting)
 {
-public:
-    explicit Identity(const QDomElement &element)
-        : QDomElement(element)
-    {
-    }
-    [[nodiscard]] const void *get() const { return impl; }
-};
+    return node.toElement().attribute(setting.toString());
+}
+QString valueIn(const Tree::Node &node, QStringView setting) { return node.value(setting); }
 
 /// Looks below a node for the value of a key, whose first field must be the node's own name.
-QString match(const QDomNode &node, QStringView key)
+template<typename Node>
+QString match(const Node &node, QStringView key)
 {
-    const QDomElement element = node.toElement();
     const qsizetype firstDot = key.indexOf(u'.');
-    if (element.isNull() || element.tagName() != (firstDot < 0 ? key : key.first(firstDot)))
+    if (!isGroup(node) || !isNamed(node, firstDot < 0 ? key : key.first(firstDot)))
         return {};
 
     const QStringView rest = firstDot < 0 ? QStringView() : key.sliced(firstDot + 1);
@@ -31,17 +38,28 @@ QString match(const QDomNode &node, QStringView key)
     const bool thirdFieldIsEmpty =
         secondDot < 0 || secondDot + 1 == rest.size() || rest[secondDot + 1] == u'.';
     if (thirdFieldIsEmpty)
-        return element.attribute((secondDot < 0 ? rest : rest.first(secondDot)).toString());
+        return valueIn(node, secondDot < 0 ? rest : rest.first(secondDot));
 
     const QStringView name = rest.first(secondDot);
-    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        if (child.nodeName() != name)
+    for (Node child = node.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (!isNamed(child, name))
             continue;
         if (QString value = match(child, rest); !value.isEmpty())
             return value;
     }
     return {};
 }
+
+/// Bytes as a buffer to read from.
+class Memory : public std::streambuf
+{
+public:
+    explicit Memory(const QByteArray &bytes)
+    {
+        char *const first = const_cast<char *>(bytes.constData()); // which nobody writes to
+        setg(first, first, first + bytes.size());
+    }
+};
 
 } // namespace
 
@@ -53,16 +71,30 @@ void Config::constructor(const QString &name, const QString &notation)
 {
     fileName = name;
     fileFormat = notation;
-    document = std::make_unique<QDomDocument>();
-    settingOrder.clear();
+    document.clear();
     if (fileFormat == "cfg"_L1)
         loadFile();
     else if (fileFormat == "xml"_L1)
         loadXmlFile();
 }
 
+void Config::readBytes(const QByteArray &bytes, const QString &name, const QString &notation)
+{
+    fileName = name;
+    fileFormat = notation;
+    document.clear();
+    if (fileFormat == "cfg"_L1) {
+        Memory memory(bytes);
+        loadStatements(memory);
+    } else if (fileFormat == "xml"_L1) {
+        loadXml(bytes);
+    }
+}
+
 QString Config::lookup(const QString &key) const
 {
+    if (const Tree *read = document.tree())
+        return match(read->top(), key);
     return document ? lookup(document->documentElement().firstChild(), key) : QString();
 }
 
@@ -70,37 +102,7 @@ QString Config::lookup(const QDomNode &node, const QString &key) const { return 
 
 QStringList Config::settingNames(const QDomElement &group) const
 {
-    const QDomNamedNodeMap attributes = group.attributes();
-    QStringList names = settingOrder.value(Identity(group).get()).names;
-    if (names.size() == attributes.count())
-        return names;
-
-    names.clear();
-    for (int i = 0; i < attributes.count(); ++i)
-        names.append(attributes.item(i).nodeName());
-    names.sort();
-    return names;
-}
-
-void Config::set(QDomElement &group, const QString &name, const QString &value)
-{
-    if (!group.hasAttribute(name))
-        noteSetting(group, name);
-    group.setAttribute(name, value);
-}
-
-/// Hangs a group below its parent; nothing to do for a nameless one, or below one.
-void Config::attach(const QDomElement &group, QDomNode &parent)
-{
-    if (!group.isNull() && !parent.isNull())
-        parent.appendChild(group);
-}
-
-void Config::noteSetting(const QDomElement &group, const QString &name)
-{
-    Settings &settings = settingOrder[Identity(group).get()];
-    settings.group = group;
-    settings.names.append(name);
+    return document.settingNames(group);
 }
 
 } // namespace libconfig

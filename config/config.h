@@ -1,15 +1,14 @@
 // The settings store: a settings file, in either notation, as a tree that answers dotted keys.
 #pragma once
 
+#include "config/document.h"
+
+#include <QByteArray>
 #include <QDomDocument>
-#include <QHash>
 #include <QString>
-#include <QStringConverter>
 #include <QStringList>
 
 #include <fstream>
-#include <functional>
-#include <memory>
 
 class QTextStream;
 class QTreeWidget;
@@ -24,9 +23,13 @@ namespace libconfig {
  * tree is a wrapper named as the file; look-ups start below it. A store is filled once and then
  * only asked; it does no locking.
  *
+ * Of either notation, a file's first 262,144 groups and 262,144 settings are read, nested up to
+ * 1,000 levels, with names and values of 16,777,216 characters in all; the rest is read over.
+ *
  * The bodies: config.cpp life cycle and look-up; cfgreader.cpp and xmlreader.cpp the two notations,
  * in; writers.cpp out; listview.cpp the view, in a target of its own (korvel::listview), so that
- * nothing else needs widgets.
+ * nothing else needs widgets. statements.h takes the brace notation apart, tree.h keeps what it
+ * says, document.h makes the toolkit's tree of that for whoever asks for it.
  */
 class Config
 {
@@ -50,10 +53,14 @@ public:
      * @param notation "cfg" for the brace notation or "xml"; with any other nothing is read
      *
      * A missing file leaves the tree empty; the brace notation says so on standard output. What is
-     * no regular file, such as a folder or a FIFO, counts as missing. Groups nested deeper than
-     * 1,000 levels are read over.
+     * no regular file, such as a folder or a FIFO, counts as missing, and so does one that cannot
+     * be read to its end.
      */
     void constructor(const QString &name, const QString &notation);
+
+    /// Reads bytes as constructor() reads a file of them. No file is touched; `name` is what the
+    /// tree's top element is called, and what a writer without a name writes to.
+    void readBytes(const QByteArray &bytes, const QString &name, const QString &notation);
 
     /**
      * Opens the stream of the brace notation on a file, as bytes.
@@ -126,6 +133,9 @@ public:
     /// each setting on one.
     void buildConfigXmlFile(const QDomNode &node, QTextStream &out) const;
 
+    /// What a writer would write in the store's own notation; nothing in any other.
+    [[nodiscard]] QByteArray written() const;
+
     /// Shows the whole tree on standard output, for diagnosis: a line for each group and setting,
     /// without indentation, as Latin-1.
     void printConfigTree() const;
@@ -163,6 +173,15 @@ public:
      */
     void loadListView(const QTreeWidget *view);
 
+    /// Replaces the tree as loadListView() does, and writes nothing.
+    void takeListView(const QTreeWidget *view);
+
+    /**
+     * Whether a row below a group's is read back as a setting: its own row's child, the value, has
+     * none itself. A row without any child is an empty group.
+     */
+    [[nodiscard]] static bool isSetting(const QTreeWidgetItem *row);
+
     /// Reads one top-level row into an empty tree.
     void loadListView(const QTreeWidgetItem *item, QDomDocument *tree);
 
@@ -170,40 +189,25 @@ public:
     void loadListView(const QTreeWidgetItem *item, QDomNode parent);
 
 protected:
-    /// Names of a group's settings in the order in which they were first set; those of a group
-    /// from elsewhere by name.
+    /// Names of a group's settings in the order in which they were first set; those that came
+    /// another way are last, by name.
     [[nodiscard]] QStringList settingNames(const QDomElement &group) const;
 
-    QString fileName;                       // path of the settings file, name of the top element
-    QString fileFormat;                     // "cfg" or "xml"
-    std::ifstream stream;                   // what the brace notation is read from
-    std::unique_ptr<QDomDocument> document; // the tree; null until a file is read
+    QString fileName;     // path of the settings file, name of the top element
+    QString fileFormat;   // "cfg" or "xml"
+    std::ifstream stream; // what the brace notation is read from
+    Document document;    // the tree; null until a file is read
 
 private:
-    bool next(char &c);
-    bool loadStatements(QDomElement group, QDomNode parent);
-    void skipGroup();
-    QString readValue();
-    void set(QDomElement &group, const QString &name, const QString &value);
-    void noteSetting(const QDomElement &group, const QString &name);
+    bool loadStatements(std::streambuf &bytes);
+    void loadXml(const QByteArray &xml);
     void noteSettingOrder(const QByteArray &xml);
-    static void attach(const QDomElement &group, QDomNode &parent);
-    void writeFile(const QString &name, QStringConverter::Encoding encoding,
-                   const std::function<void(const QDomNode &, QTextStream &)> &writeNode) const;
+    void write(QTextStream &out, bool asXml) const;
+    void writeFile(const QString &name, bool asXml) const;
+    void writeBraces(const QDomNode &node, const QString &indent, QTextStream &out) const;
+    void writeXml(const QDomNode &node, const QString &indent, QTextStream &out) const;
     void buildRows(const QDomNode &node, QTreeWidgetItem *groupRow) const;
     void loadRows(const QTreeWidgetItem *item, QDomElement &group, const QDomNode &parent);
-
-    static constexpr int deepestGroup = 1000; // groups nested deeper are read over
-    int depth = 0;                            // of the group that is being read
-
-    // The toolkit keeps attributes in a hash, whose order changes from run to run. The groups are
-    // held, so that none that is gone shares its identity with a new one.
-    struct Settings
-    {
-        QDomElement group;
-        QStringList names; // in the order in which they were first set
-    };
-    QHash<const void *, Settings> settingOrder; // by the identity of the group's element
 };
 
 } // namespace libconfig

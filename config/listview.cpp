@@ -11,17 +11,6 @@ QTreeWidget *KVConfiguration::newConfigListView() const { return Config::newConf
 
 namespace libconfig {
 
-namespace {
-
-/// Whether a row below a group's is a setting's: its own row's child, the value, has none itself.
-/// A row without any child is an empty group.
-bool isSetting(const QTreeWidgetItem *row)
-{
-    return row->childCount() > 0 && row->child(0)->childCount() == 0;
-}
-
-} // namespace
-
 QTreeWidget *Config::newConfigListView() const { return buildConfigListView(); }
 
 QTreeWidget *Config::buildConfigListView() const
@@ -65,29 +54,37 @@ void Config::loadListView(const QTreeWidget *view)
 {
     if (!view)
         return;
-    document = std::make_unique<QDomDocument>();
-    settingOrder.clear();
-    for (int i = 0; i < view->topLevelItemCount(); ++i)
-        loadListView(view->topLevelItem(i), document.get());
-
+    takeListView(view);
     if (fileFormat == "cfg"_L1)
         buildConfigFile(QString());
     else if (fileFormat == "xml"_L1)
         buildConfigXmlFile(QString());
 }
 
+void Config::takeListView(const QTreeWidget *view)
+{
+    document.clear();
+    for (int i = 0; view && i < view->topLevelItemCount(); ++i)
+        loadListView(view->topLevelItem(i), document.get());
+}
+
 void Config::loadListView(const QTreeWidgetItem *item, QDomDocument *tree)
 {
     QDomElement top = tree->createElement(item->text(0));
-    attach(top, *tree);
+    tree->appendChild(top);
     loadRows(item, top, *tree);
 }
 
 void Config::loadListView(const QTreeWidgetItem *item, QDomNode parent)
 {
     QDomElement group = parent.ownerDocument().createElement(item->text(0));
-    attach(group, parent);
+    parent.appendChild(group);
     loadRows(item, group, parent);
+}
+
+bool Config::isSetting(const QTreeWidgetItem *row)
+{
+    return row->childCount() > 0 && row->child(0)->childCount() == 0;
 }
 
 /// Reads the rows below a group's: settings go to the group itself, groups to the first child of
@@ -97,7 +94,7 @@ void Config::loadRows(const QTreeWidgetItem *item, QDomElement &group, const QDo
     for (int i = 0; i < item->childCount(); ++i) {
         const QTreeWidgetItem *row = item->child(i);
         if (isSetting(row))
-            set(group, row->text(0), row->child(0)->text(0));
+            document.set(group, row->text(0), row->child(0)->text(0));
         else
             loadListView(row, parent.firstChild());
     }

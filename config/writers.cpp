@@ -20,67 +20,81 @@ std::string latin1(const QString &text) { return text.toLatin1().toStdString(); 
 
 } // namespace
 
-void Config::buildConfigFile(const QString &name) const
-{
-    writeFile(name, QStringConverter::Latin1,
-              [this](const QDomNode &node, QTextStream &out) { buildConfigFile(node, out); });
-}
+void Config::buildConfigFile(const QString &name) const { writeFile(name, false); }
 
-void Config::buildConfigXmlFile(const QString &name) const
-{
-    // Without a declaration, XML is UTF-8.
-    writeFile(name, QStringConverter::Utf8,
-              [this](const QDomNode &node, QTextStream &out) { buildConfigXmlFile(node, out); });
-}
+void Config::buildConfigXmlFile(const QString &name) const { writeFile(name, true); }
 
-/// Writes the settings outside every group, in the brace notation whatever the file's, and the
-/// first top-level group, the only one that look-ups search.
-void Config::writeFile(const QString &name, QStringConverter::Encoding encoding,
-                       const std::function<void(const QDomNode &, QTextStream &)> &writeNode) const
+void Config::writeFile(const QString &name, bool asXml) const
 {
     QFile file(name.isEmpty() ? fileName : name);
     if (file.fileName().isEmpty() || !file.open(QIODevice::WriteOnly))
         return;
     QTextStream out(&file);
-    out.setEncoding(encoding);
+    write(out, asXml);
+}
 
+QByteArray Config::written() const
+{
+    QByteArray bytes;
+    QTextStream out(&bytes);
+    if (fileFormat == "cfg"_L1 || fileFormat == "xml"_L1)
+        write(out, fileFormat == "xml"_L1);
+    out.flush();
+    return bytes;
+}
+
+/// Writes the settings outside every group, in the brace notation whatever the file's, and the
+/// first top-level group, the only one that look-ups search.
+void Config::write(QTextStream &out, bool asXml) const
+{
+    // Without a declaration, XML is UTF-8.
+    out.setEncoding(asXml ? QStringConverter::Utf8 : QStringConverter::Latin1);
     const QDomElement top = document ? document->documentElement() : QDomElement();
     for (const QString &setting : settingNames(top))
         out << setting << valueOpener << top.attribute(setting) << statementCloser << '\n';
-    if (const QDomNode first = top.firstChild(); !first.isNull())
-        writeNode(first, out);
+    const QDomNode first = top.firstChild();
+    if (first.isNull())
+        return;
+    if (asXml)
+        buildConfigXmlFile(first, out);
+    else
+        buildConfigFile(first, out);
 }
 
 void Config::buildConfigFile(const QDomNode &node, QTextStream &out) const
 {
-    static QString indent;
+    writeBraces(node, {}, out);
+}
 
+void Config::writeBraces(const QDomNode &node, const QString &indent, QTextStream &out) const
+{
     const QDomElement group = node.toElement();
+    const QString inner = indent + level;
     out << indent << group.tagName() << ": \n";
     out << indent << "{\n";
-    indent += level;
     for (const QString &setting : settingNames(group))
-        out << indent << setting << valueOpener << group.attribute(setting) << statementCloser
+        out << inner << setting << valueOpener << group.attribute(setting) << statementCloser
             << '\n';
     for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling())
-        buildConfigFile(child, out);
-    indent.remove(0, level.size());
+        writeBraces(child, inner, out);
     out << indent << "};\n\n";
 }
 
 void Config::buildConfigXmlFile(const QDomNode &node, QTextStream &out) const
 {
-    static QString indent;
+    writeXml(node, {}, out);
+}
 
+void Config::writeXml(const QDomNode &node, const QString &indent, QTextStream &out) const
+{
     const QDomElement group = node.toElement();
+    const QString inner = indent + level;
     out << '\n' << indent << '<' << group.tagName();
-    indent += level;
     for (const QString &setting : settingNames(group))
-        out << '\n' << indent << setting << valueOpener << group.attribute(setting) << '"';
+        out << '\n' << inner << setting << valueOpener << group.attribute(setting) << '"';
     out << ">\n";
     for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling())
-        buildConfigXmlFile(child, out);
-    indent.remove(0, level.size());
+        writeXml(child, inner, out);
     out << indent << "</" << group.tagName() << ">\n";
 }
 

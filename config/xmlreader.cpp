@@ -1,6 +1,8 @@
 // The XML notation, in: a group is an element, a setting is an attribute.
 #include "config/config.h"
 
+#include "config/tree.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QXmlStreamReader>
@@ -10,61 +12,100 @@ namespace libconfig {
 
 namespace {
 
-void writeAttributes(QXmlStreamWriter &out, const QXmlStreamAttributes &attributes)
+/// Copies a document without what is beyond the limits of the store's tree.
+class Filter
 {
-    for (const QXmlStreamAttribute &attribute : attributes)
-        out.writeAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
-}
+public:
+    explicit Filter(const QByteArray &xml)
+        : in(xml)
+        , out(&kept)
+    {
+        in.setNamespaceProcessing(false);
+    }
 
-/// A document without the elements nested deeper than a number of levels; as it stands when there
-/// are none. Empty when it is malformed.
-QByteArray withoutDeepElements(const QByteArray &xml, int deepest)
-{
-    QByteArray rest;
-    bool anyLeftOut = false;
-    QXmlStreamReader in(xml);
-    in.setNamespaceProcessing(false);
-    QXmlStreamWriter out(&rest);
-    for (int depth = 0; !in.atEnd();) {
-        switch (in.readNext()) {
-        case QXmlStreamReader::StartElement:
-            if (depth == deepest) {
-                in.skipCurrentElement();
+    /// The document as it stands when nothing is left out; empty when it is malformed.
+    QByteArray filtered(const QByteArray &xml)
+    {
+        while (!in.atEnd()) {
+            switch (in.readNext()) {
+            case QXmlStreamReader::StartElement:
+                startElement();
+                break;
+            case QXmlStreamReader::EndElement:
+                --depth;
+                out.writeEndElement();
+                break;
+            case QXmlStreamReader::StartDocument:
+                if (!in.documentVersion().isEmpty())
+                    out.writeStartDocument();
+                break;
+            case QXmlStreamReader::Invalid:
+                return {};
+            default:
+                out.writeCurrentToken(in);
+            }
+        }
+        return anyLeftOut ? kept : xml;
+    }
+
+private:
+    void startElement()
+    {
+        if (depth == Tree::deepestGroup || groups == Tree::mostGroups
+            || !hasRoomFor(in.qualifiedName())) {
+            in.skipCurrentElement();
+            anyLeftOut = true;
+            return;
+        }
+        ++depth;
+        ++groups;
+        out.writeStartElement(in.qualifiedName().toString());
+        for (const QXmlStreamAttribute &attribute : in.attributes()) {
+            if (settings == Tree::mostSettings
+                || !hasRoomFor(attribute.qualifiedName(), attribute.value())) {
                 anyLeftOut = true;
                 continue;
             }
-            ++depth;
-            out.writeStartElement(in.qualifiedName().toString());
-            writeAttributes(out, in.attributes());
-            break;
-        case QXmlStreamReader::EndElement:
-            --depth;
-            out.writeEndElement();
-            break;
-        case QXmlStreamReader::StartDocument:
-            if (!in.documentVersion().isEmpty())
-                out.writeStartDocument();
-            break;
-        case QXmlStreamReader::Invalid:
-            return {};
-        default:
-            out.writeCurrentToken(in);
+            ++settings;
+            out.writeAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
         }
     }
-    return anyLeftOut ? rest : xml;
-}
+
+    /// Counts a text, if it can be kept.
+    bool hasRoomFor(QStringView name, QStringView value = {})
+    {
+        const auto more = static_cast<std::size_t>(name.size() + value.size());
+        if (more > Tree::mostText - text)
+            return false;
+        text += more;
+        return true;
+    }
+
+    QByteArray kept;
+    QXmlStreamReader in;
+    QXmlStreamWriter out;
+    std::size_t depth = 0;
+    std::size_t groups = 0;
+    std::size_t settings = 0;
+    std::size_t text = 0; // characters of all names and values
+    bool anyLeftOut = false;
+};
 
 } // namespace
 
 void Config::loadXmlFile()
 {
     QFile file(fileName);
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
-        return;
+    if (QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly))
+        loadXml(file.readAll());
+}
+
+void Config::loadXml(const QByteArray &bytes)
+{
     // The toolkit's tree takes itself apart level by level on the stack.
-    const QByteArray xml = withoutDeepElements(file.readAll(), deepestGroup);
+    const QByteArray xml = Filter(bytes).filtered(bytes);
     if (!document->setContent(xml)) {
-        document = std::make_unique<QDomDocument>();
+        document.clear();
         return;
     }
     noteSettingOrder(xml);
@@ -89,7 +130,7 @@ void Config::noteSettingOrder(const QByteArray &xml)
             while (!tags.atEnd() && tags.readNext() != QXmlStreamReader::StartElement) { }
             const auto attributes = tags.attributes();
             for (const QXmlStreamAttribute &attribute : attributes)
-                noteSetting(group, attribute.qualifiedName().toString());
+                document.noteSetting(group, attribute.qualifiedName().toString());
             self(group, self);
         }
     };
