@@ -35,15 +35,9 @@ void loadTranslation(QTranslator &translator, const KVConfiguration &settings)
         static_cast<void>(translator.load(name));
 }
 
-} // namespace
-
-void compile(int argc, char *argv[])
+/// Renders a job by the user's settings.
+void render(int argc, char *argv[])
 {
-    if (argc != 3 && argc != 4) {
-        std::cout << "Usage: " << (argc > 0 ? argv[0] : "") << " input_file output_file"
-                  << std::endl;
-        return;
-    }
     const QString inputPath = QFile::decodeName(argv[1]);
     const QString outputPath = QFile::decodeName(argv[2]);
 
@@ -59,8 +53,20 @@ void compile(int argc, char *argv[])
     CompanyPrinterDriver driver(outputPath, false);
     JobGuard guard(driver);
     QFile input(inputPath);
+    guard.parse(input);
+}
+
+} // namespace
+
+void compile(int argc, char *argv[])
+{
+    if (argc != 3 && argc != 4) {
+        std::cout << "Usage: " << (argc > 0 ? argv[0] : "") << " input_file output_file"
+                  << std::endl;
+        return;
+    }
     try {
-        guard.parse(input);
+        render(argc, argv);
     } catch (const std::bad_alloc &) {
         // The job ends here; what it printed so far stands.
     }

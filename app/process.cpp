@@ -2,6 +2,8 @@
 #include "app/process.h"
 
 #include <csignal>
+#include <cstdlib>
+#include <exception>
 #include <initializer_list>
 
 #include <fcntl.h>
@@ -20,6 +22,39 @@ void limitMemory()
         setrlimit(RLIMIT_DATA, &data);
     }
 #endif
+}
+
+/// Ends the run at once. What was written so far stands.
+[[noreturn]] void end() { _exit(0); }
+
+[[noreturn]] void endOnSignal(int /*signal*/) { end(); }
+
+/// Lets the process end quietly where no exception can: memory runs out in a destructor, or where
+/// the toolkit does not look whether it got any; the stack runs out.
+void endQuietly()
+{
+    std::set_terminate(end);
+#ifndef __SANITIZE_ADDRESS__ // which has a word to say then
+    static char stackOfHandler[16'384];
+    stack_t stack{};
+    stack.ss_sp = stackOfHandler;
+    stack.ss_size = sizeof stackOfHandler;
+    sigaltstack(&stack, nullptr);
+
+    struct sigaction action = {};
+    action.sa_handler = endOnSignal;
+    action.sa_flags = SA_ONSTACK;
+    for (const int signal : {SIGABRT, SIGBUS, SIGSEGV})
+        sigaction(signal, &action, nullptr);
+#endif
+}
+
+/// The toolkit has an event loop of another library for a desktop's sake, which ends the process
+/// with a message when memory runs out. A run waits for nothing.
+void doWithoutEventLoop()
+{
+    static char variable[] = "QT_NO_GLIB=1";
+    putenv(variable); // and where there is no memory for it, there is none for a run
 }
 
 void openStandardStreams()
@@ -52,6 +87,8 @@ void prepareProcess()
 {
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
+    endQuietly();
     openStandardStreams();
     limitMemory();
+    doWithoutEventLoop();
 }

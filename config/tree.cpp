@@ -36,7 +36,9 @@ void Tree::addSetting(std::string_view name, std::string_view value, qint64 plac
 {
     if (skipped > 0)
         return;
-    if (settingList.size() == mostSettings || !hasRoomFor(name.size() + value.size())) {
+    const std::size_t nameOfGroup = isPending ? pending.size() : 0;
+    if (settingList.size() == mostSettings
+        || !hasRoomFor(nameOfGroup + name.size() + value.size())) {
         leaveOut();
         return;
     }

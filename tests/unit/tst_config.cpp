@@ -688,6 +688,25 @@ private slots:
         }
     }
 
+    /// A derived class may change a group: its settings are shown as they are now.
+    void settingNamesOfAChangedGroup()
+    {
+        const SettingsFile file("k: { d = 1; c = 2; b = 3; };");
+        Store store(file.path(), "cfg");
+        QDomElement group = store.document->documentElement().firstChildElement();
+        group.removeAttribute("c");
+        group.setAttribute("z", "4");
+        QCOMPARE(store.settingNames(group), QStringList({"d", "b", "z"}));
+        group.setAttribute("a", "5");
+        QCOMPARE(store.settingNames(group), QStringList({"d", "b", "a", "z"}));
+        QCOMPARE(store.lookup("k.c"), "");
+        QCOMPARE(store.lookup("k.z"), "4");
+
+        store.buildConfigFile(QString());
+        QCOMPARE(Store(file.path(), "cfg").tree(),
+                 QStringList({"*", "  k d=|1| b=|3| a=|5| z=|4|"}));
+    }
+
     void settingNamesOfNoGroup()
     {
         const SettingsFile file(customary);

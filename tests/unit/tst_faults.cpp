@@ -1,4 +1,4 @@
-// Writes that fail in the middle of a job: what is printed is right as far as it goes.
+// Calls to the system and for memory that fail: what is printed is right as far as it goes.
 #include "support/settingstext.h"
 #include "support/shop.h"
 
@@ -13,18 +13,66 @@ const QByteArray job = "<job><method name=\"printPartialOrder\"/>"
 const QByteArray stream =
     "=o\n" + ("=\"/(  2 X" + QByteArray(25, ' ') + " )\n").repeated(items) + "=o\n";
 
-constexpr int failingCalls = 20;
+constexpr int failingWriteCalls = 20;
 constexpr int step = sanitized ? 4 : 1; // runs are slow there
 
 Launch withFault(const QString &kind, int call)
 {
     Launch how;
-    how.variables = {"LD_PRELOAD=" KORVEL_FAILING_WRITE, "KORVEL_FAULT_KIND=" + kind,
+    how.variables = {"LD_PRELOAD=" KORVEL_FAILING_CALL, "KORVEL_FAULT_KIND=" + kind,
                      "KORVEL_FAULT_CALL=" + QString::number(call)};
     // A sanitizer wants to be loaded first.
     if (sanitized)
         how.variables.append("ASAN_OPTIONS=verify_asan_link_order=0");
     return how;
+}
+
+/// The sample shop with German labels: settings, catalogue, job and output are opened.
+QByteArray germanSettings()
+{
+    return bytesOf(KORVEL_SOURCE_DIR "/examples/korvel.conf")
+        .replace("basedir = \"\"", "basedir = \"" KORVEL_BINARY_DIR "/translations\"")
+        .replace("file = \"\"", "file = \"/korvel_de.qm\"");
+}
+
+/// What the sample receipt prints: whole, with a catalogue or settings that cannot be read.
+struct References
+{
+    References()
+    {
+        const auto printed = [this](const QByteArray &settings) {
+            const Shop shop(settings);
+            static_cast<void>(shop.render(job));
+            return shop.output();
+        };
+        whole = printed(germanSettings());
+        untranslated = printed(germanSettings().replace("_de.qm", "_none.qm"));
+        withoutSettings = printed({});
+    }
+
+    [[nodiscard]] bool begin(const QByteArray &output) const
+    {
+        return whole.startsWith(output) || untranslated.startsWith(output)
+               || withoutSettings.startsWith(output);
+    }
+
+    QByteArray job = bytesOf(KORVEL_SOURCE_DIR "/examples/jobs/receipt.xml");
+    QByteArray whole;
+    QByteArray untranslated;
+    QByteArray withoutSettings;
+};
+
+/// Whether what was said is that files cannot be opened, as far as memory was there to say it.
+bool isSaid(const QByteArray &standardOutput)
+{
+    const QList<QByteArray> lines = standardOutput.split('\n');
+    return std::all_of(lines.begin(), lines.end(), [](const QByteArray &line) {
+        return QByteArray("PrintManager::printAbstractOrder(...): Unable To Open File")
+                   .startsWith(line)
+               || QByteArray("Error in the method FileReader::open( ").startsWith(line)
+               || (line.startsWith("Error in the method FileReader::open( ")
+                   && QByteArray(" ): File Not Found").contains(line.mid(line.lastIndexOf(" )"))));
+    });
 }
 
 } // namespace
@@ -53,7 +101,7 @@ private slots:
         QFETCH(bool, whole);
         const Shop shop(settingsFile(documentGroup("doc", "quantityFieldWidth = 3;")));
         qsizetype before = 0;
-        for (int call = 1; call <= failingCalls; call += step) {
+        for (int call = 1; call <= failingWriteCalls; call += step) {
             const auto run = shop.render(job, withFault(kind, call));
             VERIFY_QUIET(run);
             const QByteArray output = shop.output();
@@ -69,6 +117,84 @@ private slots:
                 QVERIFY(call == 1 ? output.isEmpty() : output.size() > before);
             before = output.size();
         }
+    }
+
+    void failingCalls_data()
+    {
+        QTest::addColumn<QString>("function");
+        QTest::addColumn<QString>("kind");
+
+        for (const QString function : {"open", "read", "close", "stat", "write"}) {
+            for (const QString kind : {"EIO", "EIO-once", "EINTR-once", "EMFILE-once"})
+                QTest::addRow("%s: %s", qPrintable(function), qPrintable(kind)) << function << kind;
+        }
+        if (!sanitized) { // whose memory is not the program's
+            QTest::newRow("memory that is not there once") << "alloc" << "ENOMEM-once";
+            QTest::newRow("memory that is not there any more") << "alloc" << "ENOMEM";
+        }
+    }
+
+    /// Every call from the first line of main to the last destructor fails in turn.
+    void failingCalls()
+    {
+        QFETCH(QString, function);
+        QFETCH(QString, kind);
+        const References expected;
+        const Shop shop(germanSettings());
+        const QString report = shop.path("report");
+        int call = 1;
+        for (;; ++call) {
+            QFile::remove(report);
+            QFile::remove(shop.path("stream.out"));
+            auto how = withFault(kind, call);
+            how.variables += {"KORVEL_FAULT_FUNCTION=" + function, "KORVEL_FAULT_REPORT=" + report};
+            const auto run = shop.render(expected.job, how);
+            VERIFY_SOUND(run);
+            if (!QFile::exists(report)) {
+                QCOMPARE(difference(shop.output(), expected.whole), QString());
+                break;
+            }
+            const QString where = function + ' ' + QString::number(call) + ": ";
+            QVERIFY2(isSaid(run.standardOutput), qPrintable(where + run.standardOutput));
+            QVERIFY2(expected.begin(shop.output()),
+                     qPrintable(where + difference(shop.output(), expected.whole)));
+        }
+        QVERIFY(call > 1); // some did fail
+    }
+
+    void endOfMemory_data()
+    {
+        QTest::addColumn<QByteArray>("before"); // settings in front of the sound ones
+        QTest::addColumn<int>("step");          // in KiB
+
+        QTest::newRow("the sample settings") << QByteArray() << 4;
+        QTest::newRow("a megabyte of settings") << QByteArray("a:{b=1;};").repeated(120000) << 512;
+    }
+
+    /// The memory for data ends in each phase of a run.
+    void endOfMemory()
+    {
+        if (sanitized)
+            return; // whose memory is far beyond
+        QFETCH(QByteArray, before);
+        QFETCH(int, step);
+        const References expected;
+        const Shop shop(germanSettings().replace("korvel: \n{", "korvel: \n{" + before));
+        bool whole = false;
+        int kilobytes = 0;
+        for (; !whole; kilobytes += step) {
+            QFile::remove(shop.path("stream.out"));
+            auto how = withFault("ENOMEM", kilobytes);
+            how.variables += "KORVEL_FAULT_FUNCTION=data";
+            const auto run = shop.render(expected.job, how);
+            VERIFY_SOUND(run);
+            QVERIFY2(isSaid(run.standardOutput), run.standardOutput.constData());
+            QVERIFY2(expected.begin(shop.output()),
+                     qPrintable(difference(shop.output(), expected.whole)));
+            whole = shop.output() == expected.whole;
+            QVERIFY(kilobytes < 256 * 1024);
+        }
+        QVERIFY(kilobytes > 4 * step); // it did end before
     }
 
     void noFault()

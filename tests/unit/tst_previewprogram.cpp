@@ -952,7 +952,7 @@ private slots:
         QTest::addColumn<QString>("output");
         QTest::addColumn<QStringList>("variables");
         // A sanitizer wants to be loaded first.
-        const QStringList fullDisk = {"LD_PRELOAD=" KORVEL_FAILING_WRITE, "KORVEL_FAULT_CALL=1",
+        const QStringList fullDisk = {"LD_PRELOAD=" KORVEL_FAILING_CALL, "KORVEL_FAULT_CALL=1",
                                       "KORVEL_FAULT_KIND=ENOSPC",
                                       "ASAN_OPTIONS=verify_asan_link_order=0"};
 
