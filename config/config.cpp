@@ -1,9 +1,8 @@
 // The settings store: life cycle, choice of the notation, look-up of dotted keys.
 #include "config/config.h"
 
+#include "config/statements.h"
 #include "config/tree.h"
-
-#include <streambuf>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -49,17 +48,6 @@ QString match(const Node &node, QStringView key)
     }
     return {};
 }
-
-/// Bytes as a buffer to read from.
-class Memory : public std::streambuf
-{
-public:
-    explicit Memory(const QByteArray &bytes)
-    {
-        char *const first = const_cast<char *>(bytes.constData()); // which nobody writes to
-        setg(first, first, first + bytes.size());
-    }
-};
 
 } // namespace
 

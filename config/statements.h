@@ -3,11 +3,24 @@
 
 #include "config/tree.h"
 
+#include <QByteArray>
+
 #include <streambuf>
 #include <string>
 #include <string_view>
 
 namespace libconfig {
+
+/// Bytes as a buffer to read from. They belong to the caller.
+class Memory : public std::streambuf
+{
+public:
+    explicit Memory(const QByteArray &bytes)
+    {
+        char *const first = const_cast<char *>(bytes.constData()); // which nobody writes to
+        setg(first, first, first + bytes.size());
+    }
+};
 
 /**
  * Reads the statements of a settings file out of a buffer and into a tree.

@@ -29,6 +29,8 @@ void Tree::endGroup()
     --depth;
     if (!isPending)
         current = groupList[current].parent;
+    else if (emptyGroups)
+        emptyGroups->push_back(pending);
     isPending = false;
 }
 

@@ -92,6 +92,9 @@ public:
     void endGroup();
     /// A setting of the group that has begun last.
     void addSetting(std::string_view name, std::string_view value, qint64 place);
+    /// Takes note, in a list of the caller's, of the names of groups that leave no trace because
+    /// nothing is in them.
+    void noteEmptyGroups(std::vector<std::string> &names) { emptyGroups = &names; }
     /// A setting that is too long to be kept.
     void leaveOut() { ++leftOutCount; }
 
@@ -117,6 +120,7 @@ private:
     std::vector<Setting> settingList;
     std::string texts; // all names and values, one behind the other
     std::size_t leftOutCount = 0;
+    std::vector<std::string> *emptyGroups = nullptr;
 
     Index current = file;  // the innermost group in the tree that has begun
     std::string pending;   // name of the group that has begun last, when it is not yet in the tree

@@ -97,9 +97,10 @@ int run(const QStringList &arguments)
         // The renderer reads its settings from nothing else.
         if (path == "-"_L1 || (QFileInfo::exists(path) && !QFileInfo(path).isFile()))
             return trouble(path + u": no regular file"_s);
-        if (!readWhole(path, largestFile, error))
+        const auto bytes = readWhole(path, largestFile, error);
+        if (!bytes)
             return trouble(path + u": "_s + error);
-        settings = std::make_unique<check::SettingsFile>(path);
+        settings = std::make_unique<check::SettingsFile>(*bytes);
         report(path, checkSettings(*settings));
     }
     for (const QString &path : jobs) {

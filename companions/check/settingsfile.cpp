@@ -1,40 +1,87 @@
 // The settings of a file, gone through group by group.
 #include "companions/check/settingsfile.h"
 
-#include <QFile>
+#include "config/tree.h"
+
 #include <QHash>
-#include <QRegularExpression>
 
 #include <algorithm>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace check {
 
-SettingsFile::SettingsFile(const QString &path)
-    : Config(path, u"cfg"_s)
+namespace {
+
+using libconfig::Tree;
+
+/// The settings of each group of a tree, those that count, in the order of the file.
+std::vector<std::vector<Tree::Setting>> settingsByGroup(const Tree &tree)
 {
-    if (QFile file(path); file.open(QIODevice::ReadOnly))
-        text = QString::fromLatin1(file.readAll());
+    std::vector<std::vector<Tree::Setting>> groups(tree.groups().size());
+    std::vector<QHash<QLatin1StringView, std::size_t>> known(groups.size());
+    for (const Tree::Setting &setting : tree.settings()) {
+        auto &group = groups[setting.group];
+        auto &names = known[setting.group];
+        const QLatin1StringView name = tree.text(setting.name);
+        if (const auto found = names.constFind(name); found != names.cend()) {
+            group[*found] = setting;
+        } else {
+            names.insert(name, group.size());
+            group.push_back(setting);
+        }
+    }
+    return groups;
+}
+
+/// The groups of a tree, each before those in it and these before the next one beside it.
+std::vector<Tree::Index> groupsInOrder(const Tree &tree)
+{
+    std::vector<Tree::Index> order;
+    Tree::Index group = Tree::file;
+    while (group != Tree::none) {
+        order.push_back(group);
+        Tree::Index next = tree.groups()[group].firstChild;
+        for (; next == Tree::none && group != Tree::none; group = tree.groups()[group].parent)
+            next = tree.groups()[group].next;
+        group = next;
+    }
+    return order;
+}
+
+} // namespace
+
+SettingsFile::SettingsFile(const QByteArray &bytes)
+    : lineStarts{0}
+{
+    readBytes(bytes, QString(), u"cfg"_s);
+    for (qsizetype feed = -1; (feed = bytes.indexOf('\n', feed + 1)) >= 0;)
+        lineStarts.append(feed + 1);
 }
 
 QList<SettingsFile::Entry> SettingsFile::entries() const
 {
+    const Tree &tree = *document.tree();
+    const auto settings = settingsByGroup(tree);
+    const Tree::Index searched = tree.groups().front().firstChild;
+    std::vector<QStringList> names(tree.groups().size()); // of a group, from the top-level one on
+    std::vector<Tree::Index> tops(names.size(), Tree::none);
     QList<Entry> found;
-    if (!document)
-        return found;
-    const QDomElement top = document->documentElement();
-    for (const QString &key : settingNames(top))
-        found.append({{}, key, top.attribute(key), 0, false, placeOf({key})});
-    bool first = true;
-    for (QDomElement group = top.firstChildElement(); !group.isNull();
-         group = group.nextSiblingElement()) {
-        addEntries(group, {group.tagName()}, first, found);
-        first = false;
-    }
     QHash<QStringList, int> counts;
-    for (Entry &entry : found)
-        entry.occurrence = counts[entry.groups + QStringList(entry.key)]++;
+    for (const Tree::Index index : groupsInOrder(tree)) {
+        const Tree::Group &group = tree.groups()[index];
+        if (index != Tree::file) {
+            names[index] = names[group.parent] + QStringList(tree.text(group.name));
+            tops[index] = group.parent == Tree::file ? index : tops[group.parent];
+        }
+        for (const Tree::Setting &setting : settings[index]) {
+            const QString key = tree.text(setting.name);
+            found.append({names[index], key, tree.text(setting.value),
+                          counts[names[index] + QStringList(key)]++,
+                          index != Tree::file && tops[index] == searched, placeOf(setting.place)});
+        }
+    }
     return found;
 }
 
@@ -53,40 +100,11 @@ int SettingsFile::number(QLatin1StringView group, QLatin1StringView key) const
     return value(group, key).toInt();
 }
 
-void SettingsFile::addEntries(const QDomElement &group, const QStringList &names, bool searched,
-                              QList<Entry> &entries) const
+/// Where a byte of the file stands; bytes are characters of Latin-1.
+Place SettingsFile::placeOf(qint64 offset) const
 {
-    for (const QString &key : settingNames(group))
-        entries.append(
-            {names, key, group.attribute(key), 0, searched, placeOf(names + QStringList(key))});
-    for (QDomElement inner = group.firstChildElement(); !inner.isNull();
-         inner = inner.nextSiblingElement())
-        addEntries(inner, names + QStringList(inner.tagName()), searched, entries);
-}
-
-/// Where the last of these names stands behind the others: groups, then a setting. The store does
-/// not keep places: this is the first one that fits, in a group that is not closed before it.
-Place SettingsFile::placeOf(const QStringList &names) const
-{
-    const auto pattern = [](const QString &name, const QString &mark) {
-        return QRegularExpression(u"(?<!\\w)"_s + QRegularExpression::escape(name) + u"\\s*"_s
-                                  + mark);
-    };
-    qsizetype group = 0;
-    for (const QString &name : names.first(names.size() - 1))
-        group = std::max<qsizetype>(text.indexOf(pattern(name, u":"_s), group), group);
-
-    const QRegularExpression setting = pattern(names.constLast(), u"="_s);
-    qsizetype at = text.indexOf(setting, group);
-    while (names.size() > 1 && at >= 0
-           && QStringView(text).sliced(group, at - group).contains(u'}')) {
-        group = text.indexOf(pattern(names[names.size() - 2], u":"_s), group + 1);
-        if (group < 0)
-            break;
-        at = text.indexOf(setting, group);
-    }
-    const QStringView before = QStringView(text).first(std::max<qsizetype>(at, 0));
-    return {before.count(u'\n') + 1, before.size() - before.lastIndexOf(u'\n')};
+    const auto next = std::upper_bound(lineStarts.begin(), lineStarts.end(), offset);
+    return {next - lineStarts.begin(), offset - *std::prev(next) + 1};
 }
 
 } // namespace check

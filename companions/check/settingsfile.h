@@ -6,7 +6,7 @@
 
 namespace check {
 
-/// Reads a settings file as the renderer does, and tells what is in it.
+/// The settings of a file in the brace notation, read as the renderer reads them.
 class SettingsFile : private libconfig::Config
 {
 public:
@@ -21,11 +21,11 @@ public:
         Place place;
     };
 
-    /// @param path a file in the brace notation that exists and can be read
-    explicit SettingsFile(const QString &path);
+    /// @param bytes of the file
+    explicit SettingsFile(const QByteArray &bytes);
 
-    /// All settings, in the order of the file, but for settings that a later one of the same name
-    /// in the same group replaced.
+    /// All settings, group by group in the order of the file. Of several of one name in one group
+    /// there is the last, which counts.
     [[nodiscard]] QList<Entry> entries() const;
 
     /// A document's setting, empty when it is missing.
@@ -38,11 +38,9 @@ public:
     [[nodiscard]] int number(QLatin1StringView group, QLatin1StringView key) const;
 
 private:
-    void addEntries(const QDomElement &group, const QStringList &names, bool searched,
-                    QList<Entry> &entries) const;
-    [[nodiscard]] Place placeOf(const QStringList &names) const;
+    [[nodiscard]] Place placeOf(qint64 offset) const;
 
-    QString text; // of the file
+    QList<qint64> lineStarts; // offsets in the file
 };
 
 } // namespace check

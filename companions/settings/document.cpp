@@ -2,17 +2,20 @@
 #include "companions/settings/document.h"
 
 #include "config/config.h"
+#include "config/statements.h"
+#include "config/tree.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
+#include <QHash>
 #include <QSaveFile>
-#include <QTemporaryDir>
 #include <QTreeWidget>
 
 #include <optional>
+#include <string>
 #include <utility>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 using libconfig::Config;
@@ -25,6 +28,7 @@ struct Row
     QStringList path; // names from the top-level group on
     bool isSetting = false;
     bool isEmpty = false; // a group with nothing in it
+    bool isTaken = false; // a group that is read back as a setting: its first group is empty
     QString value;
 };
 
@@ -35,10 +39,11 @@ void addRows(const QTreeWidgetItem &parent, const QStringList &path, QList<Row> 
         Row row;
         row.path = path + QStringList(item.text(0));
         row.isEmpty = item.childCount() == 0;
-        // A group whose first group is empty looks like a setting, but holds no value.
-        row.isSetting = !row.isEmpty && (item.child(0)->flags() & Qt::ItemIsEditable) != 0;
-        if (row.isSetting)
+        row.isSetting = Config::isSetting(&item);
+        if (row.isSetting) {
             row.value = item.child(0)->text(0);
+            row.isTaken = (item.child(0)->flags() & Qt::ItemIsEditable) == 0;
+        }
         rows.append(row);
         if (!row.isSetting)
             addRows(item, row.path, rows);
@@ -54,24 +59,41 @@ QList<Row> rowsOf(const QTreeWidget &view)
     return rows;
 }
 
-/// Takes the row that another one was read back as out of a list; nothing when there is none.
-std::optional<Row> take(QList<Row> &rows, const Row &sought)
+/// Rows to be found again by what they are called and what they are.
+class RowsReadBack
 {
-    for (qsizetype i = 0; i < rows.size(); ++i) {
-        if (rows[i].path == sought.path && rows[i].isSetting == sought.isSetting)
-            return rows.takeAt(i);
+public:
+    explicit RowsReadBack(const QList<Row> &rows)
+    {
+        for (const Row &row : rows)
+            left[{row.path, row.isSetting}].append(row);
     }
-    return {};
-}
+
+    /// Takes the row that another one was read back as; nothing when there is none.
+    std::optional<Row> take(const Row &sought)
+    {
+        const auto found = left.find({sought.path, sought.isSetting});
+        if (found == left.end() || found->isEmpty())
+            return {};
+        return found->takeFirst();
+    }
+
+private:
+    QHash<std::pair<QStringList, bool>, QList<Row>> left;
+};
 
 /// What stands in a file and is read over: groups without settings, by name.
 QStringList emptyGroups(const QByteArray &file)
 {
-    static const QRegularExpression empty(u"([^\\s:;{}=]+)\\s*:\\s*\\{\\s*\\}\\s*;"_s);
-    QStringList names;
-    for (const auto &match : empty.globalMatch(QString::fromLatin1(file)))
-        names.append(match.captured(1));
-    return names;
+    std::vector<std::string> names;
+    libconfig::Tree tree;
+    tree.noteEmptyGroups(names);
+    libconfig::Memory bytes(file);
+    libconfig::Statements(bytes, tree).read();
+    QStringList empty;
+    for (const std::string &name : names)
+        empty.append(QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())));
+    return empty;
 }
 
 /// Whether there is text behind the last group or setting of a file.
@@ -79,20 +101,6 @@ bool hasTail(const QByteArray &file)
 {
     const QByteArray text = file.trimmed();
     return !text.isEmpty() && !text.endsWith(';');
-}
-
-/// Whether the store wrote a view to its end: the last line closes the group that it writes.
-bool isWhole(const QByteArray &written, const QTreeWidget &view, bool isXml)
-{
-    const QTreeWidgetItem *top = view.topLevelItem(0);
-    for (int i = 0; top && i < top->childCount(); ++i) {
-        const QTreeWidgetItem &row = *top->child(i);
-        const bool isSetting = row.childCount() > 0 && row.child(0)->childCount() == 0;
-        if (!isSetting)
-            return written.endsWith(isXml ? "</" + row.text(0).toUtf8() + ">\n"
-                                          : QByteArray("\n};\n\n"));
-    }
-    return rowsOf(view).isEmpty() || written.endsWith("\";\n");
 }
 
 /// Whether one path begins with another.
@@ -141,17 +149,12 @@ bool SettingsDocument::hasChanged() const
 QStringList SettingsDocument::losses(const QTreeWidget &view) const
 {
     QStringList lines;
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"settings"_s);
-    QFile file(path);
-    if (!folder.isValid() || !file.open(QIODevice::WriteOnly))
-        return {tr("Whether the settings can be read back could not be tried out.")};
-    file.write(writtenBy(view, notation));
-    file.close();
-    const std::unique_ptr<QTreeWidget> readBack(Config(path, notation).newConfigListView());
+    Config store;
+    store.readBytes(writtenBy(view, notation), filePath, notation);
+    const std::unique_ptr<QTreeWidget> readBack(store.newConfigListView());
 
     const QList<Row> before = rowsOf(view);
-    QList<Row> after = rowsOf(*readBack);
+    RowsReadBack after(rowsOf(*readBack));
     if (before.isEmpty() && !lastSeen.trimmed().isEmpty())
         lines.append(tr("Everything: nothing in the file could be read, and it would be emptied."));
 
@@ -171,7 +174,7 @@ QStringList SettingsDocument::losses(const QTreeWidget &view) const
             firstGroup = name;
         if (!lost.isEmpty() && isBelow(row.path, lost))
             continue;
-        if (const auto kept = take(after, row)) {
+        if (const auto kept = after.take(row); kept && !row.isTaken) {
             if (kept->value != row.value)
                 lines.append(
                     tr("%1 would be \"%2\" instead of \"%3\".").arg(name, kept->value, row.value));
@@ -184,7 +187,7 @@ QStringList SettingsDocument::losses(const QTreeWidget &view) const
             lines.append(
                 tr("The group %1 stands beside %2; only the first group of a file is kept.")
                     .arg(name, firstGroup));
-        else if (!row.isSetting)
+        else if (!row.isSetting || row.isTaken)
             lines.append(tr("The group %1 would be moved to another place.").arg(name));
         else
             lines.append(tr("The setting %1 would be lost.").arg(name));
@@ -198,8 +201,6 @@ QString SettingsDocument::save(const QTreeWidget &view)
     if (!QDir().mkpath(info.absolutePath()))
         return tr("The folder %1 cannot be made.").arg(info.absolutePath());
     const QByteArray expected = writtenBy(view, notation);
-    if (!isWhole(expected, view, notation == "xml"_L1))
-        return tr("The temporary folder cannot be written; nothing was saved.");
     const QByteArray before = bytesOnDisk();
     const bool wasThere = exists();
     if (wasThere) {
@@ -212,10 +213,9 @@ QString SettingsDocument::save(const QTreeWidget &view)
     QFile file(filePath);
     if (!file.open(QIODevice::ReadWrite))
         return tr("%1 cannot be written: %2").arg(filePath, file.errorString());
+    file.resize(0);
+    file.write(expected);
     file.close();
-
-    // The store says nothing of what it could not write.
-    Config(filePath, notation).loadListView(&view);
     const QByteArray written = bytesOnDisk();
     if (written != expected) {
         if (!wasThere)
@@ -236,14 +236,10 @@ QByteArray SettingsDocument::writtenBy(const QTreeWidget &view)
 
 QByteArray SettingsDocument::writtenBy(const QTreeWidget &view, const QString &notation)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"settings"_s);
-    QFile file(path);
-    // The store complains on standard output of a file that is not there.
-    if (!folder.isValid() || !file.open(QIODevice::ReadWrite))
-        return {};
-    Config(path, notation).loadListView(&view);
-    return file.readAll();
+    Config store;
+    store.readBytes({}, {}, notation);
+    store.takeListView(&view);
+    return store.written();
 }
 
 QByteArray SettingsDocument::bytesOnDisk() const

@@ -4,15 +4,16 @@
 #include "companions/check/checks.h"
 #include "companions/check/settingsfile.h"
 #include "companions/check/vocabulary.h"
+#include "config/config.h"
 
 #include <QApplication>
-#include <QFile>
+#include <QHash>
 #include <QStyle>
-#include <QTemporaryDir>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
 using namespace Qt::Literals::StringLiterals;
+using libconfig::Config;
 
 namespace hints {
 
@@ -49,33 +50,20 @@ QString warningOf(const check::Finding &finding)
     return finding.text;
 }
 
-/// The row of a path of names below the one that stands for the file; of several, the one of that
-/// count.
-QTreeWidgetItem *rowOf(QTreeWidget &view, const QStringList &path, int occurrence)
-{
-    for (QTreeWidgetItemIterator row(&view); *row; ++row) {
-        QTreeWidgetItem *item = *row;
-        qsizetype i = path.size();
-        while (item->parent() && i > 0 && item->text(0) == path[i - 1]) {
-            item = item->parent();
-            --i;
-        }
-        // A setting has a value below it, and a value may be called like a group.
-        if (i == 0 && !item->parent() && (*row)->childCount() > 0 && occurrence-- == 0)
-            return *row;
-    }
-    return nullptr;
-}
+using Rows = QHash<QStringList, QList<QTreeWidgetItem *>>;
 
-QList<check::Finding> findingsOf(const QByteArray &settings)
+/// Notes the rows below a row by their paths of names. A setting has a value below it, and a value
+/// may be called like a group.
+void noteRows(QTreeWidgetItem &parent, const QStringList &path, Rows &rows)
 {
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(u"settings"_s));
-    if (!folder.isValid() || !file.open(QIODevice::WriteOnly))
-        return {};
-    file.write(settings);
-    file.close();
-    return check::checkSettings(check::SettingsFile(file.fileName()));
+    for (int i = 0; i < parent.childCount(); ++i) {
+        QTreeWidgetItem &row = *parent.child(i);
+        if (row.childCount() == 0)
+            continue;
+        const QStringList own = path + QStringList(row.text(0));
+        rows[own].append(&row);
+        noteRows(row, own, rows);
+    }
 }
 
 /// Names of the groups that a row stands in and its own, without the file's; a value's row counts
@@ -83,7 +71,7 @@ QList<check::Finding> findingsOf(const QByteArray &settings)
 QStringList pathOf(const QTreeWidgetItem *row)
 {
     QStringList path;
-    if (row->childCount() == 0 && row->parent() && (row->flags() & Qt::ItemIsEditable))
+    if (row->parent() && Config::isSetting(row->parent()))
         row = row->parent();
     for (; row->parent(); row = row->parent())
         path.prepend(row->text(0));
@@ -114,12 +102,14 @@ void mark(QTreeWidget &view, const QByteArray &settings)
         (*it)->setData(0, Qt::AccessibleDescriptionRole, QVariant());
     }
     const QIcon icon = QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
-    for (const check::Finding &finding : findingsOf(settings)) {
-        QTreeWidgetItem *row = rowOf(view, finding.setting, finding.occurrence);
+    Rows rows;
+    for (int i = 0; i < view.topLevelItemCount(); ++i)
+        noteRows(*view.topLevelItem(i), {}, rows);
+    for (const check::Finding &finding : checkSettings(check::SettingsFile(settings))) {
+        QTreeWidgetItem *row = rows.value(finding.setting).value(finding.occurrence);
         if (!row)
             continue;
-        const bool isSetting = row->childCount() > 0 && row->child(0)->childCount() == 0;
-        for (QTreeWidgetItem *item : {row, isSetting ? row->child(0) : row}) {
+        for (QTreeWidgetItem *item : {row, Config::isSetting(row) ? row->child(0) : row}) {
             item->setIcon(0, icon);
             item->setToolTip(0, warningOf(finding));
             item->setData(0, Qt::AccessibleDescriptionRole, warningOf(finding));

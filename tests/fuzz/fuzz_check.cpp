@@ -6,7 +6,6 @@
 
 #include <QBuffer>
 #include <QStringDecoder>
-#include <QTemporaryFile>
 #include <QXmlDefaultHandler>
 
 #include <algorithm>
@@ -26,13 +25,6 @@ QByteArray settingsText()
                     "printHeader = true; printCustomer = true; printTelephone = true; "
                     "printDeliveryAddress = true; printDate = true; printNote = true; };";
     return "korvel: {" + groups + "};";
-}
-
-check::SettingsFile settingsOfAShop()
-{
-    QTemporaryFile file;
-    expect(file.open() && file.write(settingsText()) > 0 && file.flush(), "settings are written");
-    return check::SettingsFile(file.fileName());
 }
 
 /// Notes whether a job was read to its end, and lets every element pass.
@@ -118,7 +110,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     static const QtMessageHandler silenced =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     static_cast<void>(silenced);
-    static const check::SettingsFile settings = settingsOfAShop();
+    static const check::SettingsFile settings(settingsText());
 
     const QByteArray job(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     const QList<check::Finding> findings = check::checkJob(job, nullptr);
