@@ -200,7 +200,7 @@ protected:
 
 private:
     bool loadStatements(std::streambuf &bytes);
-    void loadXml(const QByteArray &xml);
+    void loadXml(const QByteArray &bytes);
     void noteSettingOrder(const QByteArray &xml);
     void write(QTextStream &out, bool asXml) const;
     void writeFile(const QString &name, bool asXml) const;

@@ -1,4 +1,5 @@
-// The tree of a settings store: as it was read, and as the toolkit's document once that is asked for.
+// The tree of a settings store: as it was read, and as the toolkit's document once that is asked
+// for.
 #pragma once
 
 #include <QDomDocument>

@@ -14,9 +14,38 @@ bool isSpace(char c) { return QChar(QLatin1Char(c)).isSpace(); }
 
 } // namespace
 
+// Called for every byte, and therefore before those who call them.
+
+inline void Statements::Text::add(char c, qint64 offset)
+{
+    if (bytes.empty()) {
+        if (isSpace(c))
+            return;
+        place = offset;
+    }
+    if (bytes.size() < Tree::mostText)
+        bytes += c;
+    else
+        isTooLong = true;
+}
+
+std::string_view Statements::Text::trimmed() const
+{
+    std::string_view text = bytes;
+    while (!text.empty() && isSpace(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+inline void Statements::Text::clear()
+{
+    bytes.clear();
+    isTooLong = false;
+}
+
 /// Takes the next byte, if there is one, straight from the buffer: a stream checks itself over for
 /// every byte it is asked for.
-bool Statements::next(char &c)
+inline bool Statements::next(char &c)
 {
     using Traits = std::streambuf::traits_type;
     const Traits::int_type byte = source.sbumpc();
@@ -81,33 +110,6 @@ void Statements::readSetting()
         kept = unquoted;
     }
     tree.addSetting(name.trimmed(), kept, name.place);
-}
-
-void Statements::Text::add(char c, qint64 position)
-{
-    if (bytes.empty()) {
-        if (isSpace(c))
-            return;
-        place = position;
-    }
-    if (bytes.size() < Tree::mostText)
-        bytes += c;
-    else
-        isTooLong = true;
-}
-
-std::string_view Statements::Text::trimmed() const
-{
-    std::string_view text = bytes;
-    while (!text.empty() && isSpace(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
-void Statements::Text::clear()
-{
-    bytes.clear();
-    isTooLong = false;
 }
 
 } // namespace libconfig

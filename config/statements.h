@@ -47,7 +47,7 @@ private:
     /// A name or a raw value, from its first character that is no white space on.
     struct Text
     {
-        void add(char c, qint64 position);
+        void add(char c, qint64 offset);
         void clear();
         [[nodiscard]] std::string_view trimmed() const;
 

@@ -122,8 +122,8 @@ private:
     std::size_t leftOutCount = 0;
     std::vector<std::string> *emptyGroups = nullptr;
 
-    Index current = file;  // the innermost group in the tree that has begun
-    std::string pending;   // name of the group that has begun last, when it is not yet in the tree
+    Index current = file; // the innermost group in the tree that has begun
+    std::string pending;  // name of the group that has begun last, when it is not yet in the tree
     qint64 pendingPlace = 0;
     bool isPending = false;
     std::size_t depth = 0;   // of the group that has begun last

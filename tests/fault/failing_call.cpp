@@ -40,8 +40,12 @@ struct Error
 };
 
 constexpr Error errors[] = {
-    {"EACCES", EACCES}, {"EINTR", EINTR},   {"EIO", EIO},
-    {"EMFILE", EMFILE}, {"ENOMEM", ENOMEM}, {"ENOSPC", ENOSPC},
+    {"EACCES", EACCES},
+    {"EINTR",  EINTR },
+    {"EIO",    EIO   },
+    {"EMFILE", EMFILE},
+    {"ENOMEM", ENOMEM},
+    {"ENOSPC", ENOSPC},
 };
 
 enum class Fault { None, Error, Short };
@@ -78,7 +82,8 @@ void readEnvironment()
 /// What is to become of a call to one of the functions; for an error, errno is set.
 Fault nextFault(const char *called)
 {
-    if (!isRunning || failing == 0 || (error == 0 && !isShort) || std::strcmp(called, function) != 0)
+    if (!isRunning || failing == 0 || (error == 0 && !isShort)
+        || std::strcmp(called, function) != 0)
         return Fault::None;
     const long call = ++calls;
     if (once ? call != failing : call < failing)
@@ -223,9 +228,8 @@ int lstat64(const char *path, struct stat64 *status)
 
 int statx(int folder, const char *path, int flags, unsigned mask, struct statx *status)
 {
-    return fails("stat")
-               ? -1
-               : static_cast<int>(syscall(SYS_statx, folder, path, flags, mask, status));
+    return fails("stat") ? -1
+                         : static_cast<int>(syscall(SYS_statx, folder, path, flags, mask, status));
 }
 
 void *malloc(size_t size) { return fails("alloc") ? nullptr : __libc_malloc(size); }

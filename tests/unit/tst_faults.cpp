@@ -129,8 +129,10 @@ private slots:
                 QTest::addRow("%s: %s", qPrintable(function), qPrintable(kind)) << function << kind;
         }
         if (!sanitized) { // whose memory is not the program's
-            QTest::newRow("memory that is not there once") << "alloc" << "ENOMEM-once";
-            QTest::newRow("memory that is not there any more") << "alloc" << "ENOMEM";
+            QTest::newRow("memory that is not there once") << "alloc"
+                                                           << "ENOMEM-once";
+            QTest::newRow("memory that is not there any more") << "alloc"
+                                                               << "ENOMEM";
         }
     }
 

@@ -721,8 +721,8 @@ private slots:
             R"(<job><method name="printPartialOrder"/><receipe number="2" name="X"/></job>)";
         const QByteArray sound = "doc:{ quantityFieldWidth = 3; };";
         const QByteArray printed = "=o\n" + line("  2 X" + times(25, " ")) + "=o\n";
-        for (const QByteArray &groups : {times(120000, "a:{b=1;};") + sound,
-                                         sound + times(1200000, "a:{b=1;};")}) {
+        for (const QByteArray &groups :
+             {times(120000, "a:{b=1;};") + sound, sound + times(1200000, "a:{b=1;};")}) {
             const Shop shop("korvel:{" + groups + "};");
             VERIFY_QUIET(shop.render(job));
             QCOMPARE(difference(shop.output(), printed), QString());

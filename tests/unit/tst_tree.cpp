@@ -59,7 +59,8 @@ private slots:
         for (const QString notation : {"cfg", "xml"}) {
             const auto row = [&](const char *name, qsizetype others, qsizetype kept,
                                  const QString &last) {
-                QTest::addRow("%s, %s", qPrintable(notation), name) << notation << others << kept << last;
+                QTest::addRow("%s, %s", qPrintable(notation), name)
+                    << notation << others << kept << last;
             };
             row("one below", mostGroups - 3, mostGroups - 1, "9");
             row("as many as can be", mostGroups - 2, mostGroups, "9");
@@ -76,12 +77,11 @@ private slots:
         // Groups of groups, so that none but the last has a setting: these have a limit too.
         const qsizetype pairs = others / 2;
         const bool odd = others % 2 != 0;
-        const QByteArray file =
-            notation == "cfg"
-                ? "k:{" + times(pairs, "a:{b:{:{};};};") + (odd ? "a:{:{};};" : "")
-                      + "last:{y=9;};z=1;};"
-                : "<k z='1'>" + times(pairs, "<a><b/></a>") + (odd ? "<a/>" : "")
-                      + "<last y='9'/></k>";
+        const QByteArray file = notation == "cfg"
+                                    ? "k:{" + times(pairs, "a:{b:{:{};};};")
+                                          + (odd ? "a:{:{};};" : "") + "last:{y=9;};z=1;};"
+                                    : "<k z='1'>" + times(pairs, "<a><b/></a>")
+                                          + (odd ? "<a/>" : "") + "<last y='9'/></k>";
         const Store store(file, notation);
         QCOMPARE(store.lookup("k.last.y"), last);
         QCOMPARE(store.lookup("k.z"), "1");
@@ -175,7 +175,8 @@ private slots:
         QTest::newRow("a name of a group") << "k:{" + text + ":{v=1;};last=9;};";
         QTest::newRow("text before a group") << "k:{a:" + text + "{v=1;};last=9;};";
         QTest::newRow("text behind a group") << "k:{a:{v=1;}" + text + ";last=9;};";
-        QTest::newRow("white space before a name") << "k:{" + times(mostText + 1, "\t") + "last=9;};";
+        QTest::newRow("white space before a name")
+            << "k:{" + times(mostText + 1, "\t") + "last=9;};";
         QTest::newRow("white space before a value")
             << "k:{last=" + times(mostText + 1, "\r") + "9;};";
     }

@@ -31,10 +31,6 @@
         <translation>%1 lässt sich nicht lesen: %2</translation>
     </message>
     <message>
-        <source>Whether the settings can be read back could not be tried out.</source>
-        <translation>Ob sich die Einstellungen wieder einlesen lassen, konnte nicht ausprobiert werden.</translation>
-    </message>
-    <message>
         <source>Everything: nothing in the file could be read, and it would be emptied.</source>
         <translation>Alles: In der Datei war nichts lesbar, und sie würde geleert.</translation>
     </message>
@@ -77,10 +73,6 @@
     <message>
         <source>The text at the end of the file is no setting.</source>
         <translation>Der Text am Ende der Datei ist keine Einstellung.</translation>
-    </message>
-    <message>
-        <source>The temporary folder cannot be written; nothing was saved.</source>
-        <translation>Der temporäre Ordner kann nicht beschrieben werden; es wurde nichts gespeichert.</translation>
     </message>
 </context>
 <context>

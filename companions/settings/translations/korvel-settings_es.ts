@@ -31,10 +31,6 @@
         <translation>No se puede leer %1: %2</translation>
     </message>
     <message>
-        <source>Whether the settings can be read back could not be tried out.</source>
-        <translation>No se pudo comprobar si los ajustes se pueden volver a leer.</translation>
-    </message>
-    <message>
         <source>Everything: nothing in the file could be read, and it would be emptied.</source>
         <translation>Todo: no se pudo leer nada del archivo, y quedaría vacío.</translation>
     </message>
@@ -77,10 +73,6 @@
     <message>
         <source>The text at the end of the file is no setting.</source>
         <translation>El texto al final del archivo no es ningún ajuste.</translation>
-    </message>
-    <message>
-        <source>The temporary folder cannot be written; nothing was saved.</source>
-        <translation>No se puede escribir en la carpeta temporal; no se ha guardado nada.</translation>
     </message>
 </context>
 <context>

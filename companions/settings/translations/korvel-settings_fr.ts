@@ -31,10 +31,6 @@
         <translation>Impossible de lire %1&#xa0;: %2</translation>
     </message>
     <message>
-        <source>Whether the settings can be read back could not be tried out.</source>
-        <translation>Impossible de vérifier si les paramètres pourront être relus.</translation>
-    </message>
-    <message>
         <source>Everything: nothing in the file could be read, and it would be emptied.</source>
         <translation>Tout&#xa0;: rien n&apos;a pu être lu dans le fichier, et il serait vidé.</translation>
     </message>
@@ -77,10 +73,6 @@
     <message>
         <source>The text at the end of the file is no setting.</source>
         <translation>Le texte à la fin du fichier n&apos;est pas un paramètre.</translation>
-    </message>
-    <message>
-        <source>The temporary folder cannot be written; nothing was saved.</source>
-        <translation>Le dossier temporaire ne peut pas être écrit&#xa0;; rien n&apos;a été enregistré.</translation>
     </message>
 </context>
 <context>

@@ -31,10 +31,6 @@
         <translation>Impossibile leggere %1: %2</translation>
     </message>
     <message>
-        <source>Whether the settings can be read back could not be tried out.</source>
-        <translation>Non è stato possibile verificare se le impostazioni si possono rileggere.</translation>
-    </message>
-    <message>
         <source>Everything: nothing in the file could be read, and it would be emptied.</source>
         <translation>Tutto: nel file non si è potuto leggere nulla, e verrebbe svuotato.</translation>
     </message>
@@ -77,10 +73,6 @@
     <message>
         <source>The text at the end of the file is no setting.</source>
         <translation>Il testo alla fine del file non è un&apos;impostazione.</translation>
-    </message>
-    <message>
-        <source>The temporary folder cannot be written; nothing was saved.</source>
-        <translation>La cartella temporanea non può essere scritta; non è stato salvato nulla.</translation>
     </message>
 </context>
 <context>
