@@ -1,0 +1,16 @@
+// Opens a settings file as the settings editor does: the document, its view, the marks in it.
+#include "companions/settings/document.h"
+#include "companions/settings/hints.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QTreeWidget>
+
+int main(int argc, char *argv[])
+{
+    const QApplication application(argc, argv);
+    SettingsDocument document(QFile::decodeName(argv[1]));
+    const std::unique_ptr<QTreeWidget> view = document.read();
+    hints::mark(*view, SettingsDocument::writtenBy(*view));
+    return 0;
+}
