@@ -26,7 +26,6 @@ inline constexpr bool sanitized = false;
 /// What a run left behind, and what it took.
 struct MeasuredRun : Run
 {
-    double seconds = 0;     // of the processor, not of the clock
     long peakKilobytes = 0; // of memory; a sanitizer's own included
 };
 
@@ -128,10 +127,6 @@ inline MeasuredRun launch(const Launch &how)
     }
     run.exited = ended == child && WIFEXITED(status);
     run.status = run.exited ? WEXITSTATUS(status) : -1;
-    const auto secondsOf = [](const timeval &time) {
-        return double(time.tv_sec) + double(time.tv_usec) / 1e6;
-    };
-    run.seconds = secondsOf(used.ru_utime) + secondsOf(used.ru_stime);
     run.peakKilobytes = used.ru_maxrss;
     run.standardOutput = launching::contentOf(out);
     run.standardError = launching::contentOf(err);

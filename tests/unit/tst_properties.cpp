@@ -10,23 +10,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <algorithm>
-#include <ctime>
-#include <limits>
-
 namespace {
-
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool slowed = true;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-constexpr bool slowed = true;
-#else
-constexpr bool slowed = false;
-#endif
-#else
-constexpr bool slowed = false;
-#endif
 
 /// A row for each seed.
 void addSeeds()
@@ -79,64 +63,6 @@ public:
 private:
     QTemporaryDir folder;
 };
-
-/// Texts, one behind the other, with the number of each in the place of '#'.
-QByteArray repeated(const QByteArray &text, int count)
-{
-    QByteArray result;
-    for (int i = 0; i < count; ++i)
-        result += QByteArray(text).replace('#', QByteArray::number(i));
-    return result;
-}
-
-/// A kind of input that can be made any times as long.
-struct Growth
-{
-    const char *name;
-    QByteArray (*settings)(int count);
-    QByteArray (*elements)(int count);
-};
-
-constexpr auto receiptSettings = "korvel:{receiptdoc:{printHeader=true;printCustomer=true;"
-                                 "printBillingAddress=true;};};";
-constexpr auto receipt = "<method name='printFullOrderReceipt'/><receipe name='X' price='1.00'/>";
-
-const Growth growths[] = {
-    {"items",               [](int) -> QByteArray { return receiptSettings; },
-     [](int count) { return receipt + repeated("<receipe name='Caff\xC3\xA8 #'/>", count); }      },
-    {"attributes",          [](int) -> QByteArray { return receiptSettings; },
-     [](int count) { return receipt + ("<headers " + repeated("a#='x' ", count) + "/>"); }        },
-    {"address fields",      [](int) -> QByteArray { return receiptSettings; },
-     [](int count) {
-         return receipt + ("<customer billingaddress='" + repeated("#, ", count) + "'/>");
-     }                                                                                            },
-    {"a text's characters", [](int) -> QByteArray { return receiptSettings; },
-     [](int count) { return receipt + ("<receipe number='" + repeated("TOTALE", count) + "'/>"); }},
-    {"settings",
-     [](int count) { return "korvel:{receiptdoc:{" + repeated("s#=\"v\";", count) + "};};"; },
-     [](int) -> QByteArray { return receipt; }                                                    },
-    {"groups",              [](int count) { return "korvel:{" + repeated("g#:{s=\"v\";};", count) + "};"; },
-     [](int) -> QByteArray { return receipt; }                                                    },
-    {"methods",             [](int) -> QByteArray { return receiptSettings; },
-     [](int count) { return repeated(receipt, count); }                                           },
-};
-
-/// Seconds of processor time of one run, the least of a few: other processes do not count.
-double secondsOf(const Growth &growth, int count)
-{
-    const QByteArray settings = growth.settings(count);
-    const QByteArray job = Generator::job(growth.elements(count));
-    double least = std::numeric_limits<double>::max();
-    for (int i = 0; i < 3; ++i) {
-        const std::clock_t start = std::clock();
-        const TemporaryHome home{settings};
-        const QByteArray stream = streamOf(job);
-        least = std::min(least, double(std::clock() - start) / CLOCKS_PER_SEC);
-        if (!stream.endsWith("=o\n"))
-            qFatal("the job of %s did not end", growth.name);
-    }
-    return least;
-}
 
 } // namespace
 
@@ -243,38 +169,6 @@ private slots:
         QCOMPARE(fromBraces.braces(), store.braces());
         QCOMPARE(fromXml.braces(), store.braces());
         QCOMPARE(fromXml.xml(), store.xml());
-    }
-
-    void twiceAsMuchTakesThreeTimesAsLongAtMost_data()
-    {
-        QTest::addColumn<int>("growth");
-        for (int i = 0; i < static_cast<int>(std::size(growths)); ++i)
-            QTest::newRow(growths[i].name) << i;
-    }
-
-    void twiceAsMuchTakesThreeTimesAsLongAtMost()
-    {
-        if (slowed)
-            QSKIP("sanitizers distort the time");
-        QFETCH(int, growth);
-        const Growth &kind = growths[growth];
-
-        // Three doublings at once: where a cache overflows, one alone may cost more.
-        constexpr int times = 8;
-        constexpr double most = 3 * 3 * 3;
-        int count = 250;
-        while (secondsOf(kind, count) < 0.01)
-            count *= 2;
-
-        // What grows with the square takes 64 times as long; a busy machine may spoil an attempt.
-        double least = std::numeric_limits<double>::max();
-        for (int attempt = 0; attempt < 5 && least > most; ++attempt)
-            least = std::min(least, secondsOf(kind, times * count) / secondsOf(kind, count));
-        QVERIFY2(least <= most, qPrintable(QString("%1 times as long for %2 times %3 %4")
-                                               .arg(least)
-                                               .arg(times)
-                                               .arg(count)
-                                               .arg(kind.name)));
     }
 };
 
