@@ -1,36 +1,35 @@
 // The brace notation, in: the file, and what its statements come to in the tree.
 #include "config/config.h"
 
+#include "config/path.h"
 #include "config/statements.h"
 #include "config/tree.h"
 
-#include <QFile>
-#include <QFileInfo>
-
 #include <iostream>
 #include <memory>
+#include <string>
 #include <utility>
 
 namespace libconfig {
 
 namespace {
 
-void reportMissing(const QByteArray &path)
+void reportMissing(const std::string &path)
 {
-    std::cout << "Error in the method FileReader::open( " << path.toStdString()
-              << " ): File Not Found" << std::endl;
+    std::cout << "Error in the method FileReader::open( " << path << " ): File Not Found"
+              << std::endl;
 }
 
 } // namespace
 
 bool Config::openFile(const QString &name)
 {
-    const QByteArray path = QFile::encodeName(name);
+    const std::string path = korvel::path::toBytes(name).toStdString();
     stream.close();
     stream.clear();
     // A FIFO would wait for a writer, a folder opens and fails on the first read.
-    if (QFileInfo(name).isFile())
-        stream.open(path.toStdString(), std::ios::in | std::ios::binary);
+    if (korvel::path::kindOf(name) == korvel::path::Kind::File)
+        stream.open(path, std::ios::in | std::ios::binary);
     if (stream.is_open())
         return true;
 
@@ -69,7 +68,7 @@ bool Config::loadStatements(std::streambuf &bytes)
         closedByBrace = Statements(bytes, *read).read();
     } catch (const std::ios_base::failure &) {
         // Half of the settings would make another document of the job; without any it is plain.
-        reportMissing(QFile::encodeName(fileName));
+        reportMissing(korvel::path::toBytes(fileName).toStdString());
         read = std::make_unique<Tree>();
     }
     document.add(fileName, std::move(read));

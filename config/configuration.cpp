@@ -1,7 +1,7 @@
 // The settings of this user: where their file is, and their values as Latin-1 texts.
 #include "config/configuration.h"
 
-#include <QDir>
+#include "config/path.h"
 
 #include <algorithm>
 
@@ -22,7 +22,7 @@ QString latin1(QString text)
 
 KVConfiguration::KVConfiguration()
 {
-    readFile(QDir::homePath() + "/.korvel/conf/korvel.conf"_L1, u"cfg"_s);
+    readFile(korvel::path::home() + "/.korvel/conf/korvel.conf"_L1, u"cfg"_s);
 }
 
 QString KVConfiguration::getStrValue(const QString &key) const

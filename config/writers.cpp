@@ -1,7 +1,8 @@
 // Both notations, out, and the dump of the tree.
 #include "config/config.h"
 
-#include <QFile>
+#include "config/path.h"
+
 #include <QTextStream>
 
 #include <iostream>
@@ -26,8 +27,8 @@ void Config::buildConfigXmlFile(const QString &name) const { writeFile(name, tru
 
 void Config::writeFile(const QString &name, bool asXml) const
 {
-    QFile file(name.isEmpty() ? fileName : name);
-    if (file.fileName().isEmpty() || !file.open(QIODevice::WriteOnly))
+    QFile file;
+    if (!korvel::path::open(file, name.isEmpty() ? fileName : name, QIODevice::WriteOnly))
         return;
     QTextStream out(&file);
     write(out, asXml);

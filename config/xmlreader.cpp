@@ -1,10 +1,10 @@
 // The XML notation, in: a group is an element, a setting is an attribute.
 #include "config/config.h"
 
+#include "config/path.h"
 #include "config/tree.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -95,8 +95,9 @@ private:
 
 void Config::loadXmlFile()
 {
-    QFile file(fileName);
-    if (QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly))
+    QFile file;
+    if (korvel::path::kindOf(fileName) == korvel::path::Kind::File
+        && korvel::path::open(file, fileName, QIODevice::ReadOnly))
         loadXml(file.readAll());
 }
 

@@ -1,8 +1,11 @@
 // Both notations out, byte by byte, and the dump of the tree.
 #include "config/config.h"
+#include "config/path.h"
+#include "support/bytenames.h"
 #include "support/bytes.h"
 #include "support/capturedoutput.h"
 
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextStream>
@@ -252,6 +255,43 @@ private slots:
         QCOMPARE(said.bytes(), QByteArray());
         QVERIFY(!QFile::exists(store.path("missing")));
         COMPARE_BYTES(bytesOf(store.path("settings")), language);
+    }
+
+    void filesOfAnyName_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        for (const auto &[what, bytes] : byteNames)
+            QTest::newRow(what) << QByteArray(bytes);
+    }
+
+    // Read and written under the bytes of the name, also where the toolkit would take it for
+    // another.
+    void filesOfAnyName()
+    {
+        QFETCH(QByteArray, name);
+        const QTemporaryDir folder;
+        const Sweeper sweeper(folder.path());
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(folder.path()));
+        const auto restore = qScopeGuard([&] { QDir::setCurrent(before); });
+
+        const QByteArray absolute = folder.path().toUtf8() + '/' + name;
+        for (const QByteArray &bytes : {name, absolute}) {
+            const QString path = korvel::path::fromBytes(bytes);
+            const QByteArray said = outputOf([&] { libconfig::Config(path, "cfg").closeFile(); });
+            QCOMPARE(said,
+                     "Error in the method FileReader::open( " + bytes + " ): File Not Found\n");
+
+            const Store store(language, "cfg");
+            store.buildConfigFile(path);
+            COMPARE_BYTES(bytesNamed(absolute), language);
+            QCOMPARE(libconfig::Config(path, "cfg").lookup("korvel.language.file"), "/");
+            store.buildConfigXmlFile(path);
+            COMPARE_BYTES(bytesNamed(absolute), languageXml);
+            QCOMPARE(libconfig::Config(path, "xml").lookup("korvel.language.file"), "/");
+            QCOMPARE(namesIn(folder.path().toUtf8()), QByteArrayList{name});
+            std::filesystem::remove(absolute.toStdString());
+        }
     }
 
     void aLongerFileIsReplaced()
