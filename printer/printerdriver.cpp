@@ -2,8 +2,8 @@
 #include "printer/printerdriver.h"
 
 #include "config/configuration.h"
+#include "config/path.h"
 
-#include <QFile>
 #include <QTextStream>
 
 #include <iostream>
@@ -13,13 +13,13 @@ using namespace Qt::Literals::StringLiterals;
 
 PrinterDriver::PrinterDriver(const QString &outputPath, bool append)
     : settings(SyncSingleton<KVConfiguration>::instance())
-    , outputFile(std::make_unique<QFile>(outputPath))
+    , outputFile(std::make_unique<QFile>())
     , justification(u"left"_s)
 {
     QIODevice::OpenMode mode = QIODevice::WriteOnly; // empties an existing file
     if (append)
         mode |= QIODevice::Append;
-    if (outputFile->open(mode))
+    if (korvel::path::open(*outputFile, outputPath, mode))
         outputStream = std::make_unique<QTextStream>(outputFile.get());
     else
         std::cout << "PrintManager::printAbstractOrder(...): Unable To Open File" << std::endl;

@@ -43,7 +43,9 @@ public:
     /**
      * Opens the job's output file for UTF-8 text.
      *
-     * @param outputPath file, FIFO or device to write to; created when missing
+     * @param outputPath file, FIFO or device to write to, never a resource of the toolkit; created
+     *                   when missing. A low surrogate without its other half, U+DC80 to U+DCFF, is
+     *                   a byte of its name that is no UTF-8
      * @param append     whether an existing file keeps its content; otherwise it is emptied
      *
      * When it cannot be opened, a line on standard output says so, the job runs all the same and

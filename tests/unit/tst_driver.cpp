@@ -1,4 +1,6 @@
 // Life cycle, output file and initial state of the driver, and the order of its virtual operations.
+#include "config/path.h"
+#include "support/bytenames.h"
 #include "support/bytes.h"
 #include "support/capturedoutput.h"
 #include "support/jobs.h"
@@ -353,6 +355,28 @@ private slots:
         QVERIFY(QFile::exists(path));
         QCOMPARE(linesOf(bytesOf(path)), linesOf(after));
         QCOMPARE(output.bytes(), "");
+    }
+
+    void outputFilesOfAnyName_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        for (const auto &[what, bytes] : byteNames)
+            QTest::newRow(what) << QByteArray(bytes);
+    }
+
+    void outputFilesOfAnyName()
+    {
+        QFETCH(QByteArray, name);
+        const Sweeper sweeper(folder->path());
+        const QByteArray bytes = folder->path().toUtf8() + '/' + name;
+        const CapturedOutput output;
+        for (const bool append : {false, true, true}) {
+            FileDriver driver(korvel::path::fromBytes(bytes), append);
+            driver.write("=K\n");
+        }
+        QCOMPARE(output.bytes(), "");
+        QCOMPARE(linesOf(bytesNamed(bytes)), linesOf("=K\n=K\n=K\n"));
+        QCOMPARE(namesIn(folder->path().toUtf8()), QByteArrayList{name});
     }
 
     void outputFileOpensWithTheDriver()
