@@ -3,10 +3,10 @@
 
 #include "app/jobguard.h"
 #include "config/configuration.h"
+#include "config/path.h"
 #include "printer/company/companyprinterdriver.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QLocale>
 #include <QTranslator>
 
@@ -27,19 +27,18 @@ void silence(QtMsgType /*type*/, const QMessageLogContext & /*context*/, const Q
 void loadTranslation(QTranslator &translator, const KVConfiguration &settings)
 {
     const QString baseDir = settings.getStrValue(u"korvel.language.basedir"_s);
-    const QString file = settings.getStrValue(u"korvel.language.file"_s);
+    QString file = settings.getStrValue(u"korvel.language.file"_s);
     if (file == "/"_L1)
-        static_cast<void>(
-            translator.load(baseDir + "/korvel_"_L1 + QLocale::system().name(), u"."_s));
-    else if (const QString name = baseDir + file; !name.isEmpty())
-        static_cast<void>(translator.load(name));
+        file = "/korvel_"_L1 + QLocale::system().name();
+    if (const QString name = baseDir + file; !name.isEmpty())
+        static_cast<void>(translator.load(korvel::path::forToolkit(name)));
 }
 
 /// Renders a job by the user's settings.
 void render(int argc, char *argv[])
 {
-    const QString inputPath = QFile::decodeName(argv[1]);
-    const QString outputPath = QFile::decodeName(argv[2]);
+    const QString inputPath = korvel::path::fromBytes(argv[1]);
+    const QString outputPath = korvel::path::fromBytes(argv[2]);
 
     // The toolkit warns of a locale that is not UTF-8, and the like.
     qInstallMessageHandler(silence);
@@ -52,8 +51,9 @@ void render(int argc, char *argv[])
 
     CompanyPrinterDriver driver(outputPath, false);
     JobGuard guard(driver);
-    QFile input(inputPath);
-    guard.parse(input);
+    QFile input;
+    if (korvel::path::open(input, inputPath, QIODevice::ReadOnly))
+        guard.parse(input);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 // The command line: argument counts, files that are missing or broken, environments.
+#include "support/bytenames.h"
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
 
@@ -46,6 +47,13 @@ public:
 
     const TemporaryHome home{QByteArray(settings)};
 };
+
+void addByteNames()
+{
+    QTest::addColumn<QByteArray>("name");
+    for (const auto &[what, bytes] : byteNames)
+        QTest::newRow(what) << QByteArray(bytes);
+}
 
 } // namespace
 
@@ -225,6 +233,110 @@ private slots:
         writeFile(shop.path(name), job);
         VERIFY_SOUND(shop.run({name, "stream.out"}));
         QCOMPARE(shop.output(), stream);
+    }
+
+    // A name is the file system's: bytes that need not be text, and no meaning of the toolkit's.
+
+    void inputsOfAnyName_data() { addByteNames(); }
+
+    void inputsOfAnyName()
+    {
+        QFETCH(QByteArray, name);
+        const Shop shop;
+        const Sweeper sweeper(shop.home.path());
+        const QByteArray folder = shop.home.path().toUtf8();
+        writeNamed(folder + '/' + name, job);
+        for (const QByteArray &path : {name, folder + '/' + name}) {
+            const Run run = runWithBytes(KORVEL_PRINT, {path, "stream.out"}, folder);
+            VERIFY_SOUND(run);
+            QCOMPARE(linesOf(run.standardOutput), QStringList());
+            QCOMPARE(shop.output(), stream);
+        }
+        QCOMPARE(namesIn(folder), sortedNames({".korvel", "job.xml", "stream.out", name}));
+    }
+
+    void outputsOfAnyName_data() { addByteNames(); }
+
+    void outputsOfAnyName()
+    {
+        QFETCH(QByteArray, name);
+        const Shop shop;
+        const Sweeper sweeper(shop.home.path());
+        const QByteArray folder = shop.home.path().toUtf8();
+        for (const QByteArray &path : {name, folder + '/' + name}) {
+            const Run run = runWithBytes(KORVEL_PRINT, {"job.xml", path}, folder);
+            VERIFY_SOUND(run);
+            QCOMPARE(linesOf(run.standardOutput), QStringList());
+            QCOMPARE(linesOf(bytesNamed(folder + '/' + name)), stream);
+            QCOMPARE(namesIn(folder), sortedNames({".korvel", "job.xml", name}));
+            writeNamed(folder + '/' + name, QByteArray(10000, 'x')); // is emptied
+        }
+    }
+
+    void outputInAMissingFolderOfAnyName_data() { addByteNames(); }
+
+    void outputInAMissingFolderOfAnyName()
+    {
+        QFETCH(QByteArray, name);
+        const Shop shop;
+        const Sweeper sweeper(shop.home.path());
+        const QByteArray folder = shop.home.path().toUtf8();
+        const Run run = runWithBytes(KORVEL_PRINT, {"job.xml", name + "/stream.out"}, folder);
+        VERIFY_SOUND(run);
+        QCOMPARE(linesOf(run.standardOutput),
+                 QStringList("PrintManager::printAbstractOrder(...): Unable To Open File\\n"));
+        QCOMPARE(namesIn(folder), sortedNames({".korvel", "job.xml"}));
+    }
+
+    void homesOfAnyName_data() { addByteNames(); }
+
+    void homesOfAnyName()
+    {
+        QFETCH(QByteArray, name);
+        const Shop shop;
+        const Sweeper sweeper(shop.home.path());
+        const QByteArray folder = shop.home.path().toUtf8();
+        const auto run = [&](const QByteArray &home) {
+            return runWithBytes(KORVEL_PRINT, {"job.xml", "stream.out"}, folder, home);
+        };
+        const QByteArray home = folder + '/' + name;
+        for (const QByteArray &path : {name, home}) {
+            const Run missing = run(path);
+            VERIFY_SOUND(missing);
+            QCOMPARE(missing.standardOutput, "Error in the method FileReader::open( " + path
+                                                 + "/.korvel/conf/korvel.conf ): File Not Found\n");
+            QVERIFY(shop.output() != stream);
+        }
+        QCOMPARE(namesIn(folder), sortedNames({".korvel", "job.xml", "stream.out"}));
+
+        std::filesystem::rename(shop.path(".korvel").toStdString(),
+                                shop.path("settings").toStdString());
+        std::filesystem::create_directory(home.toStdString());
+        std::filesystem::rename(shop.path("settings").toStdString(),
+                                (home + "/.korvel").toStdString());
+        for (const QByteArray &path : {name, home, folder + "/x//../" + name + '/'}) {
+            const Run found = run(path);
+            VERIFY_SOUND(found);
+            QCOMPARE(found.standardOutput, QByteArray());
+            QCOMPARE(shop.output(), stream);
+        }
+    }
+
+    void workingDirectoriesOfAnyName_data() { addByteNames(); }
+
+    void workingDirectoriesOfAnyName()
+    {
+        QFETCH(QByteArray, name);
+        const Shop shop;
+        const Sweeper sweeper(shop.home.path());
+        const QByteArray folder = shop.home.path().toUtf8() + '/' + name;
+        std::filesystem::create_directory(folder.toStdString());
+        writeNamed(folder + "/:in", job);
+        const Run run = runWithBytes(KORVEL_PRINT, {":in", ":out"}, folder);
+        VERIFY_SOUND(run);
+        QCOMPARE(linesOf(run.standardOutput), QStringList());
+        QCOMPARE(linesOf(bytesNamed(folder + "/:out")), stream);
+        QCOMPARE(namesIn(shop.home.path().toUtf8()), sortedNames({".korvel", "job.xml", name}));
     }
 
     void environmentChangesNothing_data()

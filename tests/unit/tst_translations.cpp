@@ -180,15 +180,41 @@ private slots:
         compare(settings(catalogues, file), {}, printedIn(language));
     }
 
-    void byLocaleInTheWorkingDirectory()
+    void inTheWorkingDirectory_data()
     {
-        const TemporaryHome home(settings("lang", "/"));
-        QVERIFY(QDir(home.path()).mkdir("lang"));
-        QVERIFY(QFile::copy(catalogues + "/korvel_it.qm", home.path() + "/lang/korvel_it.qm"));
-        QFile file(home.path() + "/job.xml");
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(job);
-        file.close();
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("baseDir");
+        QTest::addColumn<QString>("file");
+
+        const auto row = [](const char *what, const QString &folder, const QString &baseDir,
+                            const QString &file) {
+            QTest::newRow(what) << folder << baseDir << file;
+        };
+
+        row("by locale", "lang", "lang", "/");
+        row("by file", "lang", "lang", "/korvel_it.qm");
+        row("by file, shortened", "lang", "lang", "/korvel_it_CH.x.qm");
+        // The toolkit would take these for resources of its own.
+        row("by locale, a colon first", ":lang", ":lang", "/");
+        row("by locale, a colon alone", ":", ":", "/");
+        row("by file, a colon first", ":lang", ":lang", "/korvel_it.qm");
+        row("by file, a colon first, shortened", ":lang", ":lang", "/korvel_it_CH.x.qm");
+        row("by file alone, a colon first", ":lang", "", ":lang/korvel_it");
+    }
+
+    void inTheWorkingDirectory()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, baseDir);
+        QFETCH(QString, file);
+        const TemporaryHome home(settings(baseDir, file));
+        const QString target = home.path() + '/' + folder;
+        QVERIFY(QDir().mkdir(target));
+        QVERIFY(QFile::copy(catalogues + "/korvel_it.qm", target + "/korvel_it.qm"));
+        QFile jobFile(home.path() + "/job.xml");
+        QVERIFY(jobFile.open(QIODevice::WriteOnly));
+        jobFile.write(job);
+        jobFile.close();
         VERIFY_SOUND(runRenderer({"job.xml", "stream.out"}, home.path()));
         QCOMPARE(linesOf(bytesOf(home.path() + "/stream.out")), printedIn("it"));
     }
