@@ -1,12 +1,17 @@
 // Help, version, errors, standard input and output of the companions.
 #include "companions/commandline/commandline.h"
 
+#include "config/path.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 
 #include <cstdio>
+#include <cstdlib>
+#include <memory>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -15,6 +20,12 @@ namespace {
 
 void silence(QtMsgType /*type*/, const QMessageLogContext & /*context*/, const QString & /*text*/)
 {
+}
+
+/// Why the last call on a file, or else of the system, failed.
+QString reasonOf(const QFile &file)
+{
+    return file.error() == QFileDevice::NoError ? qt_error_string() : file.errorString();
 }
 
 QString programName() { return QFileInfo(QCoreApplication::applicationFilePath()).fileName(); }
@@ -35,18 +46,18 @@ QStringList argumentsOf(int argc, char *argv[])
 {
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
-        arguments.append(QFile::decodeName(argv[i]));
+        arguments.append(korvel::path::fromBytes(argv[i]));
     return arguments;
 }
 
 QString shownName(const QString &path)
 {
-    QString shown = path;
-    for (QChar &c : shown) {
-        const QChar::Category category = c.category();
-        if ((!c.isPrint() && !c.isSurrogate()) || category == QChar::Separator_Line
-            || category == QChar::Separator_Paragraph)
-            c = QChar::ReplacementCharacter;
+    QString shown;
+    for (const uint point : path.toUcs4()) { // half a pair comes as a replacement character
+        const QChar::Category category = QChar::category(point);
+        const bool prints = QChar::isPrint(point) && category != QChar::Separator_Line
+                            && category != QChar::Separator_Paragraph;
+        shown += QChar::fromUcs4(prints ? point : uint(QChar::ReplacementCharacter));
     }
     return shown;
 }
@@ -95,11 +106,11 @@ int writeOut(const QString &text, int status)
 
 std::optional<QByteArray> readWhole(const QString &path, qint64 limit, QString &error)
 {
-    QFile file(path);
-    const bool open =
-        path == "-"_L1 ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    QFile file;
+    const bool open = path == "-"_L1 ? file.open(stdin, QIODevice::ReadOnly)
+                                     : korvel::path::open(file, path, QIODevice::ReadOnly);
     if (!open) {
-        error = file.errorString();
+        error = reasonOf(file);
         return {};
     }
     QByteArray bytes;
@@ -118,4 +129,34 @@ std::optional<QByteArray> readWhole(const QString &path, qint64 limit, QString &
         return {};
     }
     return bytes;
+}
+
+bool writeWhole(const QString &path, const QByteArray &bytes, QString &error)
+{
+    QByteArray target = korvel::path::toBytes(path);
+    const std::unique_ptr<char, decltype(&std::free)> end(::realpath(target.constData(), nullptr),
+                                                          &std::free);
+    if (end)
+        target = end.get();
+    struct stat before = {};
+    const bool existed = ::stat(target.constData(), &before) == 0;
+    if (existed && ::access(target.constData(), W_OK) != 0) {
+        error = qt_error_string();
+        return false;
+    }
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+
+    QByteArray temporary = target + ".XXXXXX";
+    QFile file;
+    const int descriptor = ::mkostemp(temporary.data(), O_CLOEXEC);
+    if (descriptor >= 0 && file.open(descriptor, QIODevice::WriteOnly, QFile::AutoCloseHandle)
+        && file.write(bytes) == bytes.size() && file.flush()
+        && ::fchmod(descriptor, existed ? before.st_mode & 07777U : 0666U & ~mask) == 0
+        && ::fsync(descriptor) == 0 && ::rename(temporary.constData(), target.constData()) == 0)
+        return true;
+    error = reasonOf(file);
+    if (descriptor >= 0)
+        ::unlink(temporary.constData());
+    return false;
 }

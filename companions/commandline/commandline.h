@@ -22,10 +22,11 @@ enum ExitStatus {
  */
 void prepareCompanion();
 
-/// The arguments of main, as texts.
+/// The arguments of main, as texts; paths among them lose nothing, see config/path.h.
 QStringList argumentsOf(int argc, char *argv[]);
 
-/// A file's name in one line that a terminal can show: what does not print is replaced.
+/// A file's name in one line that a terminal can show: what does not print, or is no UTF-8, is
+/// replaced.
 QString shownName(const QString &path);
 
 /**
@@ -65,3 +66,11 @@ int writeOut(const QString &text, int status);
  * @param error why nothing is given, as one line without the file's name
  */
 std::optional<QByteArray> readWhole(const QString &path, qint64 limit, QString &error);
+
+/**
+ * Replaces a file by these bytes, or makes a new one: whole, or not at all. What a link leads to is
+ * replaced, a link that leads nowhere is itself.
+ *
+ * @param error why it is not, as one line without the file's name
+ */
+bool writeWhole(const QString &path, const QByteArray &bytes, QString &error);

@@ -5,15 +5,14 @@
 #include "companions/preview/picture.h"
 #include "companions/preview/terminal.h"
 
+#include "config/path.h"
 #include "printer/company/commands.h"
 
 #include <QBuffer>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImage>
 #include <QImageWriter>
 #include <QJsonDocument>
-#include <QSaveFile>
 
 #include <cstdio>
 
@@ -55,7 +54,7 @@ int writePicture(const QString &path, const QList<preview::PaperRow> &rows, int 
                        + u" rows, too many or too wide for a .png, which holds "_s
                        + QString::number(preview::Picture::mostRows)
                        + u" of common width; write a .pdf"_s);
-    if (const QFileInfo target(path); target.exists() && !target.isFile())
+    if (korvel::path::kindOf(path) == korvel::path::Kind::Other)
         return trouble(path + u": no regular file"_s);
     QBuffer png;
     const QByteArray bytes = pdf                                                  ? picture.toPdf()
@@ -63,11 +62,8 @@ int writePicture(const QString &path, const QList<preview::PaperRow> &rows, int 
                                                                                   : QByteArray();
     if (bytes.isEmpty())
         return trouble(path + u": the picture cannot be made"_s);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush()
-        || !file.commit())
-        return trouble(path + u": "_s + file.errorString());
-    return status;
+    QString error;
+    return writeWhole(path, bytes, error) ? status : trouble(path + u": "_s + error);
 }
 
 /// Writes what the options ask for; the status to end with.

@@ -4,6 +4,7 @@
 #include "support/program.h"
 
 #include <QByteArrayList>
+#include <QTest>
 
 #include <algorithm>
 #include <filesystem>
@@ -15,24 +16,37 @@ struct ByteName
 {
     const char *what;
     const char *bytes;
+    const char *shown = bytes; // by a companion, in a terminal
 };
 
+// Each byte that is no UTF-8, and what does not print, is shown as "\xEF\xBF\xBD".
+// clang-format off
 inline constexpr ByteName byteNames[] = {
-    {"a colon first",            ":name"            },
-    {"a colon alone",            ":"                },
-    {"a byte beyond ASCII",      "b\xE8t"           },
-    {"the last byte",            "\xFF"             },
-    {"a colon before such",      ":\xFF"            },
-    {"half a character",         "caff\xC3"         },
-    {"a character and a byte",   "caff\xC3\xA8\xE8" },
-    {"half a pair",              "\xED\xB3\xBF"     },
-    {"an overlong letter",       "\xC1\x81"         },
-    {"beyond the last point",    "\xF4\x90\x80\x80" },
-    {"a byte order mark first",  "\xEF\xBB\xBFname" },
-    {"a byte order mark alone",  "\xEF\xBB\xBF"     },
-    {"a replacement character",  "\xEF\xBF\xBD"     },
+    {"a colon first",            ":name"},
+    {"a colon alone",            ":"},
+    {"a byte beyond ASCII",      "b\xE8t",            "b\xEF\xBF\xBDt"},
+    {"the last byte",            "\xFF",              "\xEF\xBF\xBD"},
+    {"a colon before such",      ":\xFF",             ":\xEF\xBF\xBD"},
+    {"half a character",         "caff\xC3",          "caff\xEF\xBF\xBD"},
+    {"a character and a byte",   "caff\xC3\xA8\xE8",  "caff\xC3\xA8\xEF\xBF\xBD"},
+    {"half a pair",              "\xED\xB3\xBF",      "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"},
+    {"an overlong letter",       "\xC1\x81",          "\xEF\xBF\xBD\xEF\xBF\xBD"},
+    {"a letter and an escape",   "x\x1b",             "x\xEF\xBF\xBD"},
+    {"a byte order mark first",  "\xEF\xBB\xBFname",  "\xEF\xBF\xBDname"},
+    {"a byte order mark alone",  "\xEF\xBB\xBF",      "\xEF\xBF\xBD"},
+    {"a replacement character",  "\xEF\xBF\xBD"},
     {"a letter and a character", "x\xF0\x9F\x98\x80"},
 };
+// clang-format on
+
+/// A data row for each of these names, with the columns "name" and "shown".
+inline void addByteNames()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("shown");
+    for (const auto &[what, bytes, shown] : byteNames)
+        QTest::newRow(what) << QByteArray(bytes) << QByteArray(shown);
+}
 
 inline void writeNamed(const QByteArray &path, const QByteArray &bytes)
 {

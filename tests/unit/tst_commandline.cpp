@@ -48,13 +48,6 @@ public:
     const TemporaryHome home{QByteArray(settings)};
 };
 
-void addByteNames()
-{
-    QTest::addColumn<QByteArray>("name");
-    for (const auto &[what, bytes] : byteNames)
-        QTest::newRow(what) << QByteArray(bytes);
-}
-
 } // namespace
 
 class TestCommandLine : public QObject

@@ -27,13 +27,6 @@ QString lone(const QByteArray &bytes)
     return text;
 }
 
-void addByteNames()
-{
-    QTest::addColumn<QByteArray>("name");
-    for (const auto &[what, bytes] : byteNames)
-        QTest::newRow(what) << QByteArray(bytes);
-}
-
 } // namespace
 
 class TestPath : public QObject

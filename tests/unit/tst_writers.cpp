@@ -257,12 +257,7 @@ private slots:
         COMPARE_BYTES(bytesOf(store.path("settings")), language);
     }
 
-    void filesOfAnyName_data()
-    {
-        QTest::addColumn<QByteArray>("name");
-        for (const auto &[what, bytes] : byteNames)
-            QTest::newRow(what) << QByteArray(bytes);
-    }
+    void filesOfAnyName_data() { addByteNames(); }
 
     // Read and written under the bytes of the name, also where the toolkit would take it for
     // another.
