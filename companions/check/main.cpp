@@ -3,9 +3,9 @@
 #include "companions/check/schema.h"
 #include "companions/check/settingsfile.h"
 #include "companions/commandline/commandline.h"
+#include "config/path.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -95,7 +95,7 @@ int run(const QStringList &arguments)
     if (parser.isSet(settingsOption)) {
         const QString path = parser.value(settingsOption);
         // The renderer reads its settings from nothing else.
-        if (path == "-"_L1 || (QFileInfo::exists(path) && !QFileInfo(path).isFile()))
+        if (path == "-"_L1 || korvel::path::kindOf(path) == korvel::path::Kind::Other)
             return trouble(path + u": no regular file"_s);
         const auto bytes = readWhole(path, largestFile, error);
         if (!bytes)
@@ -119,5 +119,5 @@ int main(int argc, char *argv[])
 {
     prepareCompanion();
     const QCoreApplication application(argc, argv);
-    return run(QCoreApplication::arguments());
+    return run(argumentsOf(argc, argv));
 }

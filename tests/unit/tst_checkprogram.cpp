@@ -1,5 +1,6 @@
 // korvel-check as a user meets it: options, findings, JSON, exit statuses, and its reference page.
 #include "companions/check/checks.h"
+#include "support/bytenames.h"
 #include "support/bytes.h"
 #include "support/program.h"
 
@@ -88,6 +89,21 @@ QString lineOf(const QByteArray &json)
         .arg(object["file"].toString(), QString::number(object["line"].toInt()),
              QString::number(object["column"].toInt()), object["level"].toString(),
              object["text"].toString(), object["code"].toString());
+}
+
+/// A name as --json gives it: half a pair for a byte that is no UTF-8.
+QByteArray inJson(const QByteArray &name)
+{
+    QByteArray text;
+    for (QByteArrayView rest = name; !rest.isEmpty();) {
+        qsizetype length = std::min<qsizetype>(4, rest.size());
+        while (length > 0 && !rest.first(length).isValidUtf8())
+            --length;
+        text += length > 0 ? rest.first(length).toByteArray()
+                           : "\\udc" + rest.first(1).toByteArray().toHex();
+        rest = rest.sliced(std::max<qsizetype>(1, length));
+    }
+    return text.replace("\x1b", "\\u001b");
 }
 
 /// The lines of an output that ends with a line end, without their ends.
@@ -271,6 +287,51 @@ private slots:
         QFETCH(QByteArray, output);
         const Run run = Desk().run(arguments);
         VERIFY_TROUBLE(run, output);
+    }
+
+    void filesOfAnyName_data() { addByteNames(); }
+
+    void filesOfAnyName()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QByteArray, shown);
+        const Desk desk;
+        const Sweeper sweeper(desk.folder.path());
+        const QByteArray folder = desk.folder.path().toUtf8();
+        const QByteArray path = folder + '/' + name;
+        const QByteArray missing = "korvel-check: " + shown + ": No such file or directory\n";
+        const auto run = [&](const QByteArrayList &arguments) {
+            return runWithBytes(KORVEL_CHECK, arguments, folder);
+        };
+
+        const Run missingJob = run({"--", name});
+        VERIFY_TROUBLE(missingJob, QByteArray());
+        QCOMPARE(missingJob.standardError, missing);
+        const Run missingSettings = run({"--settings", name});
+        VERIFY_TROUBLE(missingSettings, QByteArray());
+        QCOMPARE(missingSettings.standardError, missing);
+
+        writeNamed(path, jobWithError);
+        const Run job = run({"--", name});
+        VERIFY_ENDED(job, 1);
+        QCOMPARE(linesOf(job.standardOutput), linesOf(shown + error));
+        const Run json = run({"--json", "--", name});
+        VERIFY_ENDED(json, 1);
+        QVERIFY2(json.standardOutput.contains("\"file\":\"" + inJson(name) + "\","),
+                 json.standardOutput.constData());
+        QCOMPARE(refused(json.standardOutput), QStringList());
+
+        writeNamed(path, bytesOf(desk.path("korvel.conf")));
+        const Run settings = run({"--settings", name});
+        VERIFY_ENDED(settings, 0);
+        QCOMPARE(linesOf(settings.standardOutput),
+                 linesOf(QByteArray(settingsWarning).replace("korvel.conf", shown)));
+
+        std::filesystem::remove(path.toStdString());
+        std::filesystem::create_directory(path.toStdString());
+        const Run inFolder = run({"--settings", name});
+        VERIFY_TROUBLE(inFolder, QByteArray());
+        QCOMPARE(inFolder.standardError, "korvel-check: " + shown + ": no regular file\n");
     }
 
     void filesThatAreTooLarge()
