@@ -2,6 +2,7 @@
 #include "companions/settings/document.h"
 
 #include "config/config.h"
+#include "config/path.h"
 #include "config/statements.h"
 #include "config/tree.h"
 
@@ -14,7 +15,6 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
@@ -111,8 +111,8 @@ bool isBelow(const QStringList &path, const QStringList &group)
 
 } // namespace
 
-SettingsDocument::SettingsDocument(QString file)
-    : filePath(std::move(file))
+SettingsDocument::SettingsDocument(const QString &file)
+    : filePath(korvel::path::forToolkit(file))
     , notation(u"cfg"_s)
 {
 }
@@ -197,9 +197,9 @@ QStringList SettingsDocument::losses(const QTreeWidget &view) const
 
 QString SettingsDocument::save(const QTreeWidget &view)
 {
-    const QFileInfo info(filePath);
-    if (!QDir().mkpath(info.absolutePath()))
-        return tr("The folder %1 cannot be made.").arg(info.absolutePath());
+    const QString folder = QFileInfo(filePath).path();
+    if (!QDir().mkpath(folder))
+        return tr("The folder %1 cannot be made.").arg(folder);
     const QByteArray expected = writtenBy(view, notation);
     const QByteArray before = bytesOnDisk();
     const bool wasThere = exists();

@@ -19,8 +19,8 @@ class SettingsDocument
     Q_DECLARE_TR_FUNCTIONS(SettingsDocument)
 
 public:
-    /// @param file path of a settings file, which need not exist
-    explicit SettingsDocument(QString file);
+    /// @param file path of a settings file, valid UTF-16, which need not exist
+    explicit SettingsDocument(const QString &file);
 
     [[nodiscard]] QString path() const { return filePath; }
     [[nodiscard]] bool exists() const;

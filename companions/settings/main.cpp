@@ -1,9 +1,9 @@
 // korvel-settings: the settings file in a tree, the receipt beside it.
 #include "companions/commandline/commandline.h"
 #include "companions/settings/window.h"
+#include "config/path.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QLibraryInfo>
 #include <QTranslator>
 
@@ -21,12 +21,18 @@ std::optional<int> readArguments(int argc, char *argv[], QString &file)
     parser.addPositionalArgument(
         u"FILE"_s, u"The settings file; without it, the user's, ~/.korvel/conf/korvel.conf."_s,
         u"[FILE]"_s);
-    if (const auto status = readCommandLine(parser, QCoreApplication::arguments()))
+    if (const auto status = readCommandLine(parser, argumentsOf(argc, argv)))
         return status;
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1)
         return trouble(u"one settings file at most; see --help"_s);
-    file = files.value(0, QDir::homePath() + u"/.korvel/conf/korvel.conf"_s);
+    file = files.value(0, korvel::path::home() + u"/.korvel/conf/korvel.conf"_s);
+    // The toolkit would make replacement characters of the rest, and files of such names.
+    for (const char *variable : {"HOME", "XDG_CONFIG_HOME"})
+        if (const QString path = korvel::path::fromBytes(qgetenv(variable)); !path.isValidUtf16())
+            return trouble(QLatin1String(variable) + u'=' + path + u": the name is not UTF-8"_s);
+    if (!file.isValidUtf16())
+        return trouble(file + u": the name is not UTF-8"_s);
     // The toolkit would end the program with a crash.
     if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
         && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))

@@ -297,7 +297,7 @@ void SettingsWindow::offerSample()
     box.setDefaultButton(QMessageBox::Yes);
     if (box.exec() != QMessageBox::Yes)
         return;
-    const QString folder = QFileInfo(document->path()).absolutePath();
+    const QString folder = QFileInfo(document->path()).path();
     if (!QDir().mkpath(folder)) {
         tell(tr("The folder %1 cannot be made.").arg(folder));
         return;

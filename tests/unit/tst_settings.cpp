@@ -3,6 +3,7 @@
 #include "companions/settings/document.h"
 #include "companions/settings/hints.h"
 #include "companions/settings/rendering.h"
+#include "support/bytenames.h"
 #include "support/settingstext.h"
 #include "support/shop.h"
 
@@ -506,6 +507,86 @@ private slots:
             QCOMPARE(bytesOf(path), before);
         QVERIFY(QFile::setPermissions(folder.filePath("closed"),
                                       QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner));
+    }
+
+    // A name of a colon first is no resource of the toolkit's.
+    void filesNamedLikeResources_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("a file") << ":korvel.conf";
+        QTest::newRow("in a folder") << ":home/korvel.conf";
+        QTest::newRow("in a folder's folder") << ":/conf/korvel.conf";
+    }
+
+    void filesNamedLikeResources()
+    {
+        QFETCH(QString, name);
+        const QTemporaryDir folder;
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(folder.path()));
+        const auto restore = qScopeGuard([&] { QDir::setCurrent(before); });
+        SettingsDocument document(name);
+        QVERIFY(!document.exists());
+        SettingsDocument sample(sampleFile);
+        const auto view = sample.read();
+        QCOMPARE(document.save(*view), QString());
+        const QString path = folder.path() + '/' + name;
+        QCOMPARE(linesOf(bytesOf(path)), linesOf(sampleAsWritten()));
+
+        QVERIFY(document.exists());
+        QCOMPARE(document.readError(), QString());
+        QCOMPARE(rowsOf(*document.read()).size(), rowsOf(*view).size());
+        QCOMPARE(document.save(*view), QString());
+        QCOMPARE(linesOf(bytesOf(path + '~')), linesOf(sampleAsWritten()));
+    }
+
+    // Where the working directory's name is no text, nothing is written under another one.
+    void aWorkingDirectoryThatIsNoText()
+    {
+        const QTemporaryDir folder;
+        const Sweeper sweeper(folder.path());
+        const QByteArray odd = folder.path().toUtf8() + "/b\xE8t";
+        std::filesystem::create_directory(odd.toStdString());
+        const QString before = QDir::currentPath();
+        std::filesystem::current_path(odd.toStdString());
+        const auto restore = qScopeGuard([&] { QDir::setCurrent(before); });
+        SettingsDocument sample(sampleFile);
+        const auto view = sample.read();
+        QCOMPARE(SettingsDocument("conf/korvel.conf").save(*view), QString());
+        QCOMPARE(linesOf(bytesNamed(odd + "/conf/korvel.conf")), linesOf(sampleAsWritten()));
+        QCOMPARE(namesIn(folder.path().toUtf8()), QByteArrayList{"b\xE8t"});
+    }
+
+    void namesThatAreNoText_data()
+    {
+        QTest::addColumn<QByteArrayList>("arguments");
+        QTest::addColumn<QByteArray>("home");
+        QTest::addColumn<QByteArray>("said");
+        const QByteArray noText = ": the name is not UTF-8\n";
+
+        QTest::newRow("the file") << QByteArrayList{"b\xE8t"} << QByteArray()
+                                  << "b\xEF\xBF\xBDt" + noText;
+        QTest::newRow("a folder of the file") << QByteArrayList{":\xFF/\x1b"} << QByteArray()
+                                              << ":\xEF\xBF\xBD/\xEF\xBF\xBD" + noText;
+        QTest::newRow("HOME") << QByteArrayList() << QByteArray("b\xE8t")
+                              << "HOME=b\xEF\xBF\xBDt" + noText;
+        // The toolkit would keep the window's size below it.
+        QTest::newRow("HOME and a file") << QByteArrayList{"korvel.conf"} << QByteArray("b\xE8t")
+                                         << "HOME=b\xEF\xBF\xBDt" + noText;
+    }
+
+    void namesThatAreNoText()
+    {
+        QFETCH(QByteArrayList, arguments);
+        QFETCH(QByteArray, home);
+        QFETCH(QByteArray, said);
+        const QTemporaryDir folder;
+        const Run run = runWithBytes(KORVEL_SETTINGS, arguments, folder.path().toUtf8(), home);
+        QVERIFY(run.exited);
+        QCOMPARE(run.status, 2);
+        QCOMPARE(run.standardOutput, QByteArray());
+        QCOMPARE(run.standardError, "korvel-settings: " + said);
+        QCOMPARE(namesIn(folder.path().toUtf8()), QByteArrayList());
     }
 
     // The previous copy is worth more than none, as long as there is no newer one.
