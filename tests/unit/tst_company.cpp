@@ -281,6 +281,7 @@ private slots:
         row("-1.005", "100.5");
         row(" -3 ", "300");
         row("-inf", "inf");
+        row("\u22122,00", "200");
     }
 
     void deductions()

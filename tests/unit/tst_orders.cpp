@@ -155,6 +155,8 @@ private slots:
         row("0.5", "0.5");
         row(" 2 ", " 2 ");
         row("2.50", "2.50");
+        row("\u22121", "-");
+        row("\u22122", "\u22122"); // what is no number has a "-"
     }
 
     void variantMark()
