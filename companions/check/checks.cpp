@@ -10,7 +10,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace check {
+namespace korvel::check {
 
 namespace {
 
@@ -682,4 +682,4 @@ QList<Finding> checkSettings(const SettingsFile &settings)
     return findings;
 }
 
-} // namespace check
+} // namespace korvel::check

@@ -4,7 +4,7 @@
 #include "companions/check/codes.h"
 #include "companions/check/job.h"
 
-namespace check {
+namespace korvel::check {
 
 class SettingsFile;
 
@@ -28,4 +28,4 @@ QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings);
 /// What is wrong with a settings file, in its order.
 QList<Finding> checkSettings(const SettingsFile &settings);
 
-} // namespace check
+} // namespace korvel::check

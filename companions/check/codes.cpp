@@ -5,7 +5,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace check {
+namespace korvel::check {
 
 const QList<Code> &codes()
 {
@@ -135,4 +135,4 @@ QLatin1StringView levelName(Level level)
     return level == Level::Error ? "error"_L1 : "warning"_L1;
 }
 
-} // namespace check
+} // namespace korvel::check

@@ -4,7 +4,7 @@
 #include <QList>
 #include <QString>
 
-namespace check {
+namespace korvel::check {
 
 /// An error loses or falsifies something on the paper; a warning is about what is probably not
 /// meant.
@@ -28,4 +28,4 @@ const Code *findCode(QAnyStringView code);
 /// "error" or "warning".
 QLatin1StringView levelName(Level level);
 
-} // namespace check
+} // namespace korvel::check

@@ -8,7 +8,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace check {
+namespace korvel::check {
 
 namespace {
 
@@ -349,4 +349,4 @@ Job readJob(const QByteArray &bytes)
     return job;
 }
 
-} // namespace check
+} // namespace korvel::check

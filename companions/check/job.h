@@ -7,7 +7,7 @@
 
 #include <optional>
 
-namespace check {
+namespace korvel::check {
 
 /// A place in a file: both count from 1, a column being a UTF-16 unit.
 struct Place
@@ -56,4 +56,4 @@ struct Job
 /// Reads a job. Bytes of any kind can be given.
 Job readJob(const QByteArray &bytes);
 
-} // namespace check
+} // namespace korvel::check

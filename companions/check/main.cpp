@@ -14,6 +14,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace check = korvel::check;
+
 namespace {
 
 constexpr qint64 largestFile = 67'108'864; // 64 MiB

@@ -7,7 +7,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace check {
+namespace korvel::check {
 
 namespace {
 
@@ -115,4 +115,4 @@ private:
 
 QByteArray relaxNgSchema() { return SchemaWriter().write(); }
 
-} // namespace check
+} // namespace korvel::check

@@ -3,7 +3,7 @@
 
 #include <QByteArray>
 
-namespace check {
+namespace korvel::check {
 
 /**
  * A RELAX NG schema, in the XML syntax, of the jobs that a point of sale should write: a root of
@@ -12,4 +12,4 @@ namespace check {
  */
 QByteArray relaxNgSchema();
 
-} // namespace check
+} // namespace korvel::check

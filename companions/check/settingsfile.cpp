@@ -10,7 +10,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace check {
+namespace korvel::check {
 
 namespace {
 
@@ -107,4 +107,4 @@ Place SettingsFile::placeOf(qint64 offset) const
     return {next - lineStarts.begin(), offset - *std::prev(next) + 1};
 }
 
-} // namespace check
+} // namespace korvel::check

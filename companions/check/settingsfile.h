@@ -4,7 +4,7 @@
 #include "companions/check/job.h"
 #include "config/config.h"
 
-namespace check {
+namespace korvel::check {
 
 /// The settings of a file in the brace notation, read as the renderer reads them.
 class SettingsFile : private libconfig::Config
@@ -43,4 +43,4 @@ private:
     QList<qint64> lineStarts; // offsets in the file
 };
 
-} // namespace check
+} // namespace korvel::check

@@ -41,7 +41,7 @@ constexpr Warning warnings[] = {
 
 QString localised(const char *text) { return QCoreApplication::translate("hints", text); }
 
-QString warningOf(const check::Finding &finding)
+QString warningOf(const korvel::check::Finding &finding)
 {
     for (const Warning &row : warnings) {
         if (finding.code->code == row.code)
@@ -105,7 +105,8 @@ void mark(QTreeWidget &view, const QByteArray &settings)
     Rows rows;
     for (int i = 0; i < view.topLevelItemCount(); ++i)
         noteRows(*view.topLevelItem(i), {}, rows);
-    for (const check::Finding &finding : checkSettings(check::SettingsFile(settings))) {
+    const korvel::check::SettingsFile file(settings);
+    for (const korvel::check::Finding &finding : checkSettings(file)) {
         QTreeWidgetItem *row = rows.value(finding.setting).value(finding.occurrence);
         if (!row)
             continue;

@@ -12,6 +12,8 @@
 #include <cstddef>
 #include <cstdint>
 
+namespace check = korvel::check;
+
 namespace {
 
 /// Settings with narrow columns, a document of every kind, and every other switch on.

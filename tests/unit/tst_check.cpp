@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <memory>
 
+namespace check = korvel::check;
+
 namespace {
 
 /// What is checked: a job alone, a job beside settings, or settings alone.

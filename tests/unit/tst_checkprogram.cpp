@@ -15,6 +15,8 @@
 
 #include <algorithm>
 
+namespace check = korvel::check;
+
 namespace {
 
 const QString top = KORVEL_SOURCE_DIR "/";

@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+namespace check = korvel::check;
+
 namespace {
 
 /// What xmllint ends with.
