@@ -163,14 +163,14 @@ public:
     {
         const Job job = readJob(bytes);
         for (const Fault &fault : job.faults)
-            note(fault.code, fault.place, fault.text);
+            note(findCode(fault.code)->code, fault.place, fault.text);
         for (const Tag &tag : job.tags) {
             if (!checkTag(tag, &tag == &job.tags.constFirst()))
                 break;
         }
         if (!method && !ended && job.faults.isEmpty()) {
             findings.clear(); // all of them are before the method that is missing
-            note("no-method"_L1, {},
+            note(Code::NoMethod, {},
                  u"no method: nothing is printed; begin with <method name=\"...\"/>"_s);
         }
         std::stable_sort(findings.begin(), findings.end(), [](const Finding &a, const Finding &b) {
@@ -181,9 +181,9 @@ public:
     }
 
 private:
-    void note(QLatin1StringView code, Place place, const QString &text)
+    void note(Code code, Place place, const QString &text)
     {
-        findings.append({place, findCode(code), text, {}, 0});
+        findings.append({place, code, text, {}, 0});
     }
 
     QLatin1StringView group() const { return method->group; }
@@ -211,7 +211,7 @@ private:
             QStringList names;
             for (const Method &row : vocabulary::methods())
                 names.append(row.name);
-            note("unknown-method"_L1, name ? name->place : tag.place,
+            note(Code::UnknownMethod, name ? name->place : tag.place,
                  name ? u"no document is called "_s + quoted(name->value) + u": the job ends here"_s
                             + orNearest(name->value, names)
                       : u"the method has no name: the job ends here"_s);
@@ -219,7 +219,7 @@ private:
             return false;
         }
         if (method)
-            note("second-method"_L1, tag.place,
+            note(Code::SecondMethod, tag.place,
                  u"a second method: the section of the "_s + method->title + u" is not closed"_s);
         method = found;
         for (const JobAttribute &attribute : tag.attributes) {
@@ -234,7 +234,7 @@ private:
         const bool known = std::any_of(vocabulary::elements().begin(), vocabulary::elements().end(),
                                        [&](const Element &row) { return row.name == tag.name; });
         if (known ? !tag.holdsOthers || !tag.attributes.isEmpty() : !(isRoot || tag.holdsOthers))
-            note("before-method"_L1, tag.place,
+            note(Code::BeforeMethod, tag.place,
                  u"<"_s + tag.name
                      + u"> stands before the method and is not printed; move it behind <method>"_s);
     }
@@ -254,7 +254,7 @@ private:
             (vocabulary::isShared(row) ? shared : here).append(row.name);
         }
         if (known) {
-            note("ignored-element"_L1, tag.place,
+            note(Code::IgnoredElement, tag.place,
                  u"<"_s + tag.name + u"> prints nothing in the document \""_s + method->title + u'"'
                      + (elsewhere == 0 ? QString()
                                        : u", only in "_s + vocabulary::titlesOf(elsewhere))
@@ -264,7 +264,7 @@ private:
         const QString nearest = orSimilar(tag.name, here, shared);
         const bool holder = isRoot || (tag.holdsOthers && tag.attributes.isEmpty());
         if (!holder)
-            note("unknown-element"_L1, tag.place,
+            note(Code::UnknownElement, tag.place,
                  u"no document knows <"_s + tag.name + u">: nothing is printed"_s + nearest);
     }
 
@@ -277,7 +277,7 @@ private:
         }
         if (settings && !isOn(element.setting)
             && !(tag.name == "headers"_L1 && tag.attributes.isEmpty())) {
-            note("switched-off"_L1, tag.place,
+            note(Code::SwitchedOff, tag.place,
                  (tag.name == "headers"_L1 ? u"of <headers> only the printer's name is printed: "_s
                                            : u"<"_s + tag.name + u"> is not printed: "_s)
                      + element.setting + u" is off in "_s + group());
@@ -293,12 +293,12 @@ private:
                 checkKnownAttribute(tag, row, deduction);
         }
         if (const QStringList lacking = lackingOf(tag, known, deduction); !lacking.isEmpty())
-            note("fiscal-incomplete"_L1, tag.place,
+            note(Code::FiscalIncomplete, tag.place,
                  u"the sale row has no "_s + lacking.join(", "_L1)
                      + (lacking.constLast() == "\"price\""_L1 ? u": 0 is registered"_s
                                                               : u": the printer may refuse it"_s));
         if (!missing.isEmpty())
-            note("missing-attribute"_L1, tag.place,
+            note(Code::MissingAttribute, tag.place,
                  u"<"_s + tag.name + u"> has no "_s + missing.join(", "_L1)
                      + (tag.name == "variant"_L1 && missing == QStringList(u"\"quantity\""_s)
                             ? u": it prints as \"-\", something left out"_s
@@ -328,7 +328,7 @@ private:
     void noteUnknownAttribute(const Tag &tag, const JobAttribute &attribute,
                               const QStringList &unused)
     {
-        note("unknown-attribute"_L1, attribute.place,
+        note(Code::UnknownAttribute, attribute.place,
              u"nothing reads \""_s + attribute.name + u"\" of <"_s + tag.name
                  + u"> in this document"_s + orNearest(attribute.name, unused));
     }
@@ -383,7 +383,7 @@ private:
             return;
         if (settings && !isOn(row.setting)) {
             if (attribute)
-                note("switched-off"_L1, attribute->place,
+                note(Code::SwitchedOff, attribute->place,
                      u"\""_s + row.name + u"\" is not printed: "_s + row.setting + u" is off in "_s
                          + group());
             return;
@@ -406,16 +406,16 @@ private:
     {
         const QString what = u"\""_s + attribute.name + u"\" of <"_s + tag.name + u'>';
         if (attribute.lineBreak)
-            note("line-break"_L1, attribute.place,
+            note(Code::LineBreak, attribute.place,
                  what + u" has a line break, which breaks the printed line"_s);
         if (attribute.value.contains(u')'))
-            note("parenthesis"_L1, attribute.place,
+            note(Code::Parenthesis, attribute.place,
                  what + u" has a \")\", which some printers take for the end of the line"_s);
         if (hasControl(attribute))
-            note("control-character"_L1, attribute.place,
+            note(Code::ControlCharacter, attribute.place,
                  what + u" has a tab or another control character"_s);
         if (attribute.value.contains("TOTALE"_L1))
-            note("totale"_L1, attribute.place, what + u" has TOTALE, which prints as T0TALE"_s);
+            note(Code::Totale, attribute.place, what + u" has TOTALE, which prints as T0TALE"_s);
     }
 
     static bool hasControl(const JobAttribute &attribute)
@@ -434,12 +434,12 @@ private:
         const QString what = u"\""_s + attribute.name + u"\" is "_s + quoted(attribute.value);
         const AmountText amount = amountIn(attribute.value);
         if (!amount.isNumber)
-            note("amount"_L1, attribute.place, what + u", no number; it prints as it is"_s);
+            note(Code::Amount, attribute.place, what + u", no number; it prints as it is"_s);
         else if (amount.hasParts)
-            note("hundredths"_L1, attribute.place,
+            note(Code::Hundredths, attribute.place,
                  what + u", with parts of a hundredth; it prints as it is"_s);
         if (amount.isNumber && amount.hasComma)
-            note("decimal-comma"_L1, attribute.place, what + u" and prints with its comma"_s);
+            note(Code::DecimalComma, attribute.place, what + u" and prints with its comma"_s);
     }
 
     void checkAddress(const JobAttribute &attribute)
@@ -452,7 +452,7 @@ private:
             return !part.trimmed().isEmpty();
         });
         if (lost)
-            note("address"_L1, attribute.place,
+            note(Code::Address, attribute.place,
                  u"\""_s + attribute.name + u"\" has an empty part: what follows is not printed"_s);
     }
 
@@ -461,7 +461,7 @@ private:
         bool isNumber = false;
         attribute.value.toDouble(&isNumber);
         if (!isNumber)
-            note("variant-quantity"_L1, attribute.place,
+            note(Code::VariantQuantity, attribute.place,
                  u"the quantity "_s + quoted(attribute.value)
                      + u" is no number and prints as \"-\", something left out"_s);
     }
@@ -479,17 +479,17 @@ private:
         const bool description = row.name == "name"_L1;
         if (attribute->lineBreak || attribute->value.contains(u')')
             || (!description && attribute->value.contains(u'/')))
-            note("ends-command"_L1, attribute->place,
+            note(Code::EndsCommand, attribute->place,
                  what + u": a "_s
                      + (attribute->lineBreak              ? u"line break"_s
                         : attribute->value.contains(u')') ? u"\")\""_s
                                                           : u"\"/\""_s)
                      + u" in it breaks the printer's command"_s);
         if (hasControl(*attribute))
-            note("control-character"_L1, attribute->place,
+            note(Code::ControlCharacter, attribute->place,
                  what + u", with a tab or another control character"_s);
         if (row.value == Value::RegisteredCount && !plainNumber(attribute->value).hasMatch())
-            note("fiscal-quantity"_L1, attribute->place, what + u", no plain number"_s);
+            note(Code::FiscalQuantity, attribute->place, what + u", no plain number"_s);
     }
 
     void checkPrice(const JobAttribute &attribute, const QString &what)
@@ -498,13 +498,13 @@ private:
         bool isNumber = false;
         QString(attribute.value).replace(u',', u'.').toDouble(&isNumber);
         if (!isNumber)
-            note("fiscal-amount"_L1, attribute.place, what + u", no number: 0 is registered"_s);
+            note(Code::FiscalAmount, attribute.place, what + u", no number: 0 is registered"_s);
         else if (!number.hasMatch())
-            note("fiscal-amount"_L1, attribute.place, what + u", no plain number"_s);
+            note(Code::FiscalAmount, attribute.place, what + u", no plain number"_s);
         else if (number.captured(2).size() > 13)
-            note("fiscal-amount"_L1, attribute.place, what + u", more than the printer takes"_s);
+            note(Code::FiscalAmount, attribute.place, what + u", more than the printer takes"_s);
         else if (number.captured(3).size() > 2)
-            note("fiscal-hundredths"_L1, attribute.place,
+            note(Code::FiscalHundredths, attribute.place,
                  what + u", with parts of a hundredth, which are sent"_s);
     }
 
@@ -517,7 +517,7 @@ private:
             const qsizetype width = std::max(settings->number(group(), figure.column), 0);
             const qsizetype beyond = attribute.value.size() - width;
             if (beyond > 0)
-                note("wide-figure"_L1, attribute.place,
+                note(Code::WideFigure, attribute.place,
                      u"\""_s + attribute.name + u"\" is "_s + quoted(attribute.value)
                          + u" in a column of "_s + QString::number(width) + u" ("_s + figure.column
                          + u" in "_s + group() + u"): the line grows by "_s
@@ -535,13 +535,13 @@ private:
                             || (nameAt(0) == "totals"_L1 && nameAt(1) == "number"_L1);
         if (!headed) {
             note(
-                "cancelled-list"_L1, tag.place,
+                Code::CancelledList, tag.place,
                 u"\"number\" and \"totals\" are not the first two attributes: the list of documents begins at the wrong place"_s);
             return;
         }
         const qsizetype listed = tag.attributes.size() - 2;
         if (listed % 3 != 0) {
-            note("cancelled-list"_L1, tag.place,
+            note(Code::CancelledList, tag.place,
                  u"each cancelled document takes three attributes, and there are "_s
                      + QString::number(listed));
             return;
@@ -549,7 +549,7 @@ private:
         bool isNumber = false;
         const int count = tag.find(u"number")->value.toInt(&isNumber);
         if (isNumber && count != listed / 3)
-            note("cancelled-list"_L1, tag.find(u"number")->place,
+            note(Code::CancelledList, tag.find(u"number")->place,
                  u"\"number\" says "_s + QString::number(count) + u" cancelled documents, and "_s
                      + QString::number(listed / 3) + u" are listed"_s);
     }
@@ -612,11 +612,11 @@ void checkValue(const SettingsFile::Entry &entry, QList<Finding> &findings)
     bool isNumber = false;
     entry.value.toInt(&isNumber);
     if (setting->kind == Kind::Switch && entry.value != "true"_L1 && entry.value != "false"_L1)
-        findings.append({entry.place, findCode(u"not-true"),
+        findings.append({entry.place, Code::NotTrue,
                          what + u" and counts as off; only true switches it on"_s, path,
                          entry.occurrence});
     if (setting->kind == Kind::Number && !isNumber)
-        findings.append({entry.place, findCode(u"not-a-number"),
+        findings.append({entry.place, Code::NotANumber,
                          what + u", no whole number, and counts as 0"_s, path, entry.occurrence});
 }
 
@@ -634,7 +634,7 @@ void checkColumns(const SettingsFile &settings, const Method &method, const RowW
     if (room < 1)
         findings.append({
             place,
-            findCode(u"columns"),
+            Code::Columns,
             u"the columns of the "_s + method.title
                 + u" leave no room for the description: the others and the blanks take "_s
                 + QString::number(width - room) + u" of "_s + QString::number(width)
@@ -652,7 +652,7 @@ QList<Finding> checkSettings(const SettingsFile &settings)
     for (const SettingsFile::Entry &entry : settings.entries()) {
         const QStringList path = entry.groups + QStringList(entry.key);
         if (const QString why = whyUnread(entry); !why.isEmpty()) {
-            findings.append({entry.place, findCode(u"unread-key"),
+            findings.append({entry.place, Code::UnreadKey,
                              u"nothing reads "_s + path.join(u'.').simplified() + u": "_s + why,
                              path, entry.occurrence});
             continue;
@@ -664,7 +664,7 @@ QList<Finding> checkSettings(const SettingsFile &settings)
         const Setting *setting = vocabulary::findSetting(entry.key);
         const bool hasLines = setting && (setting->documents & vocabulary::documentsOf(group)) != 0;
         if (entry.key == "paperWidth"_L1 && hasLines && entry.value.toInt() > printerWidth)
-            findings.append({entry.place, findCode(u"columns"),
+            findings.append({entry.place, Code::Columns,
                              u"paperWidth is "_s + entry.value
                                  + u": lines are wider than the printer's "_s
                                  + QString::number(printerWidth) + u" characters"_s,

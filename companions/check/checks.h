@@ -11,7 +11,7 @@ class SettingsFile;
 struct Finding
 {
     Place place;
-    const Code *code;
+    Code code;
     QString text;        // one line: what is wrong here, and what that does
     QStringList setting; // of settings: groups and key, or the group alone that it is about
     int occurrence = 0;  // of settings: which of several of that name, counted from 0

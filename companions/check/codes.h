@@ -10,20 +10,73 @@ namespace korvel::check {
 /// meant.
 enum class Level { Error, Warning };
 
-/// One kind of finding. Codes are stable: programs may rely on them.
-struct Code
+/// The kinds of findings, in the order of docs/checks.md.
+enum class Code {
+    // The job as a whole.
+    MalformedXml,
+    Encoding,
+    Limit,
+    NoMethod,
+    UnknownMethod,
+    SecondMethod,
+    BeforeMethod,
+
+    // Elements and attributes.
+    UnknownElement,
+    IgnoredElement,
+    UnknownAttribute,
+    MissingAttribute,
+    CancelledList,
+
+    // Amounts and quantities.
+    Amount,
+    Hundredths,
+    DecimalComma,
+    VariantQuantity,
+    FiscalIncomplete,
+    FiscalAmount,
+    FiscalHundredths,
+    FiscalQuantity,
+
+    // Texts.
+    EndsCommand,
+    LineBreak,
+    Parenthesis,
+    ControlCharacter,
+    Totale,
+    Address,
+
+    // The job beside its settings.
+    SwitchedOff,
+    WideFigure,
+
+    // The settings.
+    Columns,
+    UnreadKey,
+    NotTrue,
+    NotANumber,
+
+    Count, // of the codes above
+};
+
+/// A row of the table of codes.
+struct CodeInfo
 {
-    QLatin1StringView code;
+    Code code;
+    QLatin1StringView name; // as findings show it; stable: programs may rely on it
     Level level;
     QLatin1StringView meaning; // what is wrong, in a sentence or two
     QLatin1StringView advice;  // what to do
 };
 
-/// All kinds, in the order of docs/checks.md.
-const QList<Code> &codes();
+/// The whole table, in the order of the codes.
+const QList<CodeInfo> &codes();
 
-/// The kind of that code; null when there is none.
-const Code *findCode(QAnyStringView code);
+/// The row of a code.
+const CodeInfo &infoOf(Code code);
+
+/// The row of the code that is shown by that name; null when there is none.
+const CodeInfo *findCode(QAnyStringView name);
 
 /// "error" or "warning".
 QLatin1StringView levelName(Level level);

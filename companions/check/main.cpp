@@ -32,29 +32,30 @@ const QCommandLineOption schemaOption(u"schema"_s, u"Write a RELAX NG schema of 
 QString lineOf(const QString &file, const check::Finding &finding)
 {
     return shownName(file) + u':' + QString::number(finding.place.line) + u':'
-           + QString::number(finding.place.column) + u": "_s + check::levelName(finding.code->level)
-           + u": "_s + finding.text + u" ["_s + finding.code->code + u"]\n"_s;
+           + QString::number(finding.place.column) + u": "_s
+           + check::levelName(infoOf(finding.code).level) + u": "_s + finding.text + u" ["_s
+           + infoOf(finding.code).name + u"]\n"_s;
 }
 
 QString jsonOf(const QString &file, const check::Finding &finding)
 {
     const QJsonObject object{
-        {u"file"_s,   file                                          },
-        {u"line"_s,   finding.place.line                            },
-        {u"column"_s, finding.place.column                          },
-        {u"level"_s,  QString(check::levelName(finding.code->level))},
-        {u"code"_s,   QString(finding.code->code)                   },
-        {u"text"_s,   finding.text                                  },
+        {u"file"_s,   file                                                 },
+        {u"line"_s,   finding.place.line                                   },
+        {u"column"_s, finding.place.column                                 },
+        {u"level"_s,  QString(check::levelName(infoOf(finding.code).level))},
+        {u"code"_s,   QString(infoOf(finding.code).name)                   },
+        {u"text"_s,   finding.text                                         },
     };
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + u'\n';
 }
 
 int explain(const QString &code)
 {
-    const check::Code *row = check::findCode(code);
+    const check::CodeInfo *row = check::findCode(code);
     if (!row)
         return trouble(u"there is no code \""_s + code + u"\"; docs/checks.md has them all"_s);
-    return writeOut(row->code + u" ("_s + check::levelName(row->level) + u")\n"_s + row->meaning
+    return writeOut(row->name + u" ("_s + check::levelName(row->level) + u")\n"_s + row->meaning
                         + u'\n' + row->advice + u'\n',
                     Clean);
 }
@@ -88,7 +89,7 @@ int run(const QStringList &arguments)
     const auto report = [&](const QString &file, const QList<check::Finding> &findings) {
         for (const check::Finding &finding : findings) {
             output += json ? jsonOf(file, finding) : lineOf(file, finding);
-            if (strict || finding.code->level == check::Level::Error)
+            if (strict || infoOf(finding.code).level == check::Level::Error)
                 status = std::max<int>(status, Findings);
         }
     };

@@ -22,19 +22,19 @@ namespace {
 /// What a finding means for the paper, in the user's language.
 struct Warning
 {
-    QLatin1StringView code;
+    korvel::check::Code code;
     const char *text;
 };
 
 // clang-format off
 constexpr Warning warnings[] = {
-    {"unread-key"_L1,
+    {korvel::check::Code::UnreadKey,
      QT_TRANSLATE_NOOP("hints", "No document reads this: the renderer passes it over.")},
-    {"not-true"_L1,
+    {korvel::check::Code::NotTrue,
      QT_TRANSLATE_NOOP("hints", "Counts as off: only exactly \"true\" switches it on.")},
-    {"not-a-number"_L1,
+    {korvel::check::Code::NotANumber,
      QT_TRANSLATE_NOOP("hints", "Not a whole number: counts as 0.")},
-    {"columns"_L1,
+    {korvel::check::Code::Columns,
      QT_TRANSLATE_NOOP("hints", "Too wide for the paper: lines of more than 32 characters, or no room for the description.")},
 };
 // clang-format on
@@ -44,7 +44,7 @@ QString localised(const char *text) { return QCoreApplication::translate("hints"
 QString warningOf(const korvel::check::Finding &finding)
 {
     for (const Warning &row : warnings) {
-        if (finding.code->code == row.code)
+        if (finding.code == row.code)
             return localised(row.text);
     }
     return finding.text;

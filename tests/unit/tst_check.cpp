@@ -33,8 +33,8 @@ QString shown(const check::Place &place, const check::Finding &finding)
 {
     return QString("%1:%2: %3: %4 [%5]")
         .arg(QString::number(place.line), QString::number(place.column),
-             QString(check::levelName(finding.code->level)), finding.text,
-             QString(finding.code->code));
+             QString(check::levelName(infoOf(finding.code).level)), finding.text,
+             QString(infoOf(finding.code).name));
 }
 
 QStringList shown(const QList<check::Finding> &findings)
@@ -77,7 +77,7 @@ QStringList codesIn(const QByteArray &job, const check::SettingsFile *settings =
 {
     QStringList codes;
     for (const check::Finding &finding : check::checkJob(job, settings))
-        codes.append(finding.code->code);
+        codes.append(infoOf(finding.code).name);
     return codes;
 }
 
@@ -959,8 +959,8 @@ private slots:
     void everyCodeHasAPair()
     {
         QStringList codes;
-        for (const check::Code &row : check::codes()) {
-            const QString code = row.code;
+        for (const check::CodeInfo &row : check::codes()) {
+            const QString code = row.name;
             int found = 0;
             int nearly = 0;
             for (const Case &example : cases()) {
@@ -982,8 +982,10 @@ private slots:
 
     void everyCodeIsExplained()
     {
-        for (const check::Code &row : check::codes()) {
-            QCOMPARE(check::findCode(row.code), &row);
+        for (const check::CodeInfo &row : check::codes()) {
+            const check::CodeInfo *found = check::findCode(row.name);
+            QVERIFY2(found && found->code == row.code, row.name.data());
+            QCOMPARE(infoOf(row.code).name, row.name);
             for (const auto &text : {QString(row.meaning), QString(row.advice)}) {
                 QVERIFY2(text.endsWith('.') && text.front().isUpper(), qPrintable(text));
                 QVERIFY2(!text.contains('\n') && !text.contains('|'), qPrintable(text));
@@ -1048,7 +1050,7 @@ private slots:
         QFETCH(QStringList, places);
         QStringList found;
         for (const check::Finding &finding : check::checkJob(job, nullptr)) {
-            QCOMPARE(finding.code->code, QLatin1String("parenthesis"));
+            QCOMPARE(infoOf(finding.code).name, QLatin1String("parenthesis"));
             found.append(QString("%1:%2").arg(finding.place.line).arg(finding.place.column));
         }
         QCOMPARE(found, places);
@@ -1348,7 +1350,7 @@ private slots:
         const auto narrow = findingsOf(settings.first(last) + QByteArray::number(width + 1) + ';');
         QCOMPARE(narrow.size(), documents.size());
         for (qsizetype i = 0; i < documents.size(); ++i) {
-            QCOMPARE(narrow[i].code->code, QLatin1String("columns"));
+            QCOMPARE(infoOf(narrow[i].code).name, QLatin1String("columns"));
             QVERIFY2(narrow[i].text.startsWith("the columns of the " + documents[i]
                                                + " leave no room for the description"),
                      qPrintable(narrow[i].text));
@@ -1365,7 +1367,7 @@ private slots:
                                                 "printDate = yes; topMargin = x; colour = red;")));
         QStringList about;
         for (const check::Finding &finding : checkSettings(*settings))
-            about.append(QString(finding.code->code) + ' ' + finding.setting.join('.'));
+            about.append(QString(infoOf(finding.code).name) + ' ' + finding.setting.join('.'));
         const QStringList expected = {"unread-key loose",
                                       "columns korvel.doc",
                                       "columns korvel.doc.paperWidth",
@@ -1502,7 +1504,7 @@ private slots:
         const QList<check::Finding> findings = check::checkJob(job, nullptr);
         QCOMPARE(findings.size(), 1);
         const check::Finding &finding = findings.first();
-        QVERIFY(finding.code->level == check::Level::Error);
+        QVERIFY(infoOf(finding.code).level == check::Level::Error);
         QVERIFY2(!finding.text.contains("the paper ends here"), qPrintable(finding.text));
         const bool oneLine = std::all_of(finding.text.begin(), finding.text.end(),
                                          [](QChar c) { return c.isPrint(); });

@@ -423,9 +423,9 @@ private slots:
     void explain_data()
     {
         QTest::addColumn<QByteArray>("explanation");
-        for (const check::Code &row : check::codes())
-            QTest::newRow(row.code.data())
-                << QByteArray(row.code.data()) + " ("
+        for (const check::CodeInfo &row : check::codes())
+            QTest::newRow(row.name.data())
+                << QByteArray(row.name.data()) + " ("
                        + (row.level == check::Level::Error ? "error" : "warning") + ")\n"
                        + row.meaning.data() + '\n' + row.advice.data() + '\n';
     }
@@ -484,7 +484,7 @@ private slots:
         for (const QString &line : lines) {
             const auto match = finding.match(line);
             QVERIFY2(match.hasMatch(), qPrintable(line));
-            const check::Code *code = check::findCode(match.captured(3));
+            const check::CodeInfo *code = check::findCode(match.captured(3));
             QVERIFY2(code, qPrintable(line));
             QCOMPARE(match.captured(2), QString(check::levelName(code->level)));
             hasError = hasError || code->level == check::Level::Error;
@@ -597,8 +597,8 @@ private slots:
     void jsonSchemaNamesAllCodes()
     {
         QStringList codes;
-        for (const check::Code &row : check::codes())
-            codes.append(row.code);
+        for (const check::CodeInfo &row : check::codes())
+            codes.append(row.name);
         const QJsonObject properties =
             QJsonDocument::fromJson(bytesOf(schema)).object()["properties"].toObject();
         QStringList inSchema;
@@ -646,8 +646,8 @@ private slots:
     void pageListsAllCodes()
     {
         QList<QStringList> rows;
-        for (const check::Code &row : check::codes())
-            rows.append({'`' + QString(row.code) + '`', check::levelName(row.level), row.meaning,
+        for (const check::CodeInfo &row : check::codes())
+            rows.append({'`' + QString(row.name) + '`', check::levelName(row.level), row.meaning,
                          row.advice});
         const QList<QStringList> onThePage = tableBelow("Codes");
         for (qsizetype i = 0; i < std::min(rows.size(), onThePage.size()); ++i)
