@@ -163,7 +163,7 @@ public:
     {
         const Job job = readJob(bytes);
         for (const Fault &fault : job.faults)
-            note(findCode(fault.code)->code, fault.place, fault.text);
+            note(fault.code, fault.place, fault.text);
         for (const Tag &tag : job.tags) {
             if (!checkTag(tag, &tag == &job.tags.constFirst()))
                 break;

@@ -151,7 +151,7 @@ QString decoded(const QByteArray &bytes, QList<Fault> &faults)
     // The renderer starts anew with the encoding that is named, unless it does not know it.
     if (marked && QStringDecoder(name.constData()).isValid() && inAnother(*marked, name, bytes)) {
         faults.append(
-            {"encoding"_L1,
+            {Code::Encoding,
              {},
              u"another encoding is named than the job is written in: the paper ends here"_s});
         return {};
@@ -159,7 +159,7 @@ QString decoded(const QByteArray &bytes, QList<Fault> &faults)
     QStringDecoder decoder = marked ? QStringDecoder(*marked)
                                     : QStringDecoder(name.isEmpty() ? "UTF-8" : name.constData());
     if (!decoder.isValid()) {
-        faults.append({"encoding"_L1,
+        faults.append({Code::Encoding,
                        {},
                        u"the checker cannot read the encoding \""_s
                            + inOneLine(QString::fromLatin1(name))
@@ -169,7 +169,7 @@ QString decoded(const QByteArray &bytes, QList<Fault> &faults)
     QString text = decoder(bytes);
     if (decoder.hasError()) {
         Places places(text);
-        faults.append({"encoding"_L1, places.of(firstWrong(text, decoder.name(), bytes)),
+        faults.append({Code::Encoding, places.of(firstWrong(text, decoder.name(), bytes)),
                        u"not "_s + QString::fromLatin1(decoder.name())
                            + u": the bytes here print as a replacement character"_s});
     }
@@ -232,7 +232,7 @@ public:
                 closeTag();
             else if (token == QXmlStreamReader::ProcessingInstruction
                      && !isName(xml.processingInstructionTarget()))
-                stop("malformed-xml"_L1,
+                stop(Code::MalformedXml,
                      u"an instruction has no name: nothing behind this was checked"_s);
         }
         if (xml.hasError()) {
@@ -240,7 +240,7 @@ public:
             QString what = inOneLine(xml.errorString());
             while (what.endsWith(u'.'))
                 what.chop(1);
-            stop("malformed-xml"_L1, what + u": nothing behind this was checked"_s);
+            stop(Code::MalformedXml, what + u": nothing behind this was checked"_s);
         }
         return job;
     }
@@ -261,7 +261,7 @@ private:
             names.append(attribute.qualifiedName().toString());
         for (const QString &name : names) {
             if (!isName(name))
-                return stop("malformed-xml"_L1,
+                return stop(Code::MalformedXml,
                             u'"' + inOneLine(name)
                                 + u"\" is no name: nothing behind this was checked"_s);
         }
@@ -300,12 +300,12 @@ private:
         namespaces += declared;
         const Place place = tag.place;
         if (open.size() > deepestElement)
-            stop("limit"_L1,
+            stop(Code::Limit,
                  u"more than "_s + QString::number(deepestElement)
                      + u" elements nested in each other: the paper ends here"_s,
                  place);
         else if (namespaces > mostNamespaces)
-            stop("limit"_L1,
+            stop(Code::Limit,
                  u"more than "_s + QString::number(mostNamespaces)
                      + u" namespaces declared: the paper ends here"_s,
                  place);
@@ -315,7 +315,7 @@ private:
 
     void closeTag() { namespaces -= open.takeLast().namespaces; }
 
-    void stop(QLatin1StringView code, const QString &what, std::optional<Place> place = {})
+    void stop(Code code, const QString &what, std::optional<Place> place = {})
     {
         job.faults.append({code, place ? *place : places.of(xml.characterOffset()), what});
         stopped = true;

@@ -1,6 +1,8 @@
 // A job read for the checker: its start tags with where they stand.
 #pragma once
 
+#include "companions/check/codes.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -41,7 +43,7 @@ struct Tag
 /// What cannot be read, or not by the renderer.
 struct Fault
 {
-    QLatin1StringView code; // of the finding that it is
+    Code code; // of the finding that it is
     Place place;
     QString text;
 };
