@@ -1,4 +1,4 @@
-// The kinds of findings: their codes, how grave they are, what they mean and what to do.
+// The kinds of findings and all that they say: codes, wordings, and the phrases within these.
 #pragma once
 
 #include <QList>
@@ -65,6 +65,7 @@ struct CodeInfo
     Code code;
     QLatin1StringView name; // as findings show it; stable: programs may rely on it
     Level level;
+    QLatin1StringView wording; // of a finding, in one line; words of the job at %1, %2 ...
     QLatin1StringView meaning; // what is wrong, in a sentence or two
     QLatin1StringView advice;  // what to do
 };
@@ -80,5 +81,91 @@ const CodeInfo *findCode(QAnyStringView name);
 
 /// "error" or "warning".
 QLatin1StringView levelName(Level level);
+
+/// A text with words at its places, the first at %1. A place within a word is no place.
+template<typename... Words>
+QString filled(QLatin1StringView text, const Words &...words)
+{
+    if constexpr (sizeof...(words) == 0)
+        return text;
+    else
+        return QString(text).arg(words...);
+}
+
+/// What a finding says: the wording of its code with words at its places.
+template<typename... Words>
+QString worded(Code code, const Words &...words)
+{
+    return filled(infoOf(code).wording, words...);
+}
+
+/// The parts of wordings that have several forms.
+namespace phrase {
+
+using Phrase = QLatin1StringView;
+
+// What a misspelt name may be.
+inline constexpr Phrase didYouMean{"; did you mean \"%1\"?"};
+
+// UnknownMethod
+inline constexpr Phrase noDocument{"no document is called %1"};
+inline constexpr Phrase noMethodName{"the method has no name"};
+
+// IgnoredElement: the documents that print it
+inline constexpr Phrase onlyIn{", only in %1"};
+
+// MissingAttribute: what the lack of it prints
+inline constexpr Phrase emptyPlace{"its place prints empty"};
+inline constexpr Phrase emptyPlaces{"their places print empty"};
+inline constexpr Phrase leftOut{"it prints as \"-\", something left out"};
+
+// CancelledList
+inline constexpr Phrase listBeginsWrong{
+    "\"number\" and \"totals\" are not the first two attributes: "
+    "the list of documents begins at the wrong place"};
+inline constexpr Phrase listNotInThrees{
+    "each cancelled document takes three attributes, and there are %1"};
+inline constexpr Phrase listMiscounted{"\"number\" says %1 cancelled documents, and %2 are listed"};
+
+// FiscalIncomplete: what the lack of it does
+inline constexpr Phrase zeroRegistered{"0 is registered"};
+inline constexpr Phrase maybeRefused{"the printer may refuse it"};
+
+// FiscalAmount: what is wrong with it
+inline constexpr Phrase noNumber{"no number: 0 is registered"};
+inline constexpr Phrase noPlainNumber{"no plain number"};
+inline constexpr Phrase tooManyDigits{"more than the printer takes"};
+
+// EndsCommand: the character
+inline constexpr Phrase lineBreak{"line break"};
+inline constexpr Phrase parenthesis{"\")\""};
+inline constexpr Phrase slash{"\"/\""};
+
+// ControlCharacter: what has it
+inline constexpr Phrase attributeHas{"\"%1\" of <%2> has"};
+inline constexpr Phrase saleRowHas{"\"%1\" of a sale row is %2, with"};
+
+// SwitchedOff
+inline constexpr Phrase elementNotPrinted{"<%1> is not printed"};
+inline constexpr Phrase attributeNotPrinted{"\"%1\" is not printed"};
+inline constexpr Phrase onlyPrinterName{"of <headers> only the printer's name is printed"};
+
+// Columns
+inline constexpr Phrase noRoom{"the columns of the %1 leave no room for the description: "
+                               "the others and the blanks take %2 of %3 characters"};
+inline constexpr Phrase widePaper{
+    "paperWidth is %1: lines are wider than the printer's %2 characters"};
+
+// UnreadKey: why nothing reads it
+inline constexpr Phrase outsideKorvel{"it stands outside the group korvel"};
+inline constexpr Phrase otherTopGroup{
+    "only the first group of the file is read, and it must be korvel"};
+inline constexpr Phrase misplaced{
+    "settings stand in a document's group or in language, in korvel%1"};
+inline constexpr Phrase unclosedGroup{"; does a } lack its ;?"};
+inline constexpr Phrase unknownGroup{"no document reads the group %1%2"};
+inline constexpr Phrase unknownSetting{"there is no such setting%1"};
+
+} // namespace phrase
 
 } // namespace korvel::check

@@ -1,0 +1,144 @@
+// The attributes of an element: missing, unread, and each by what it is to the document.
+#include "companions/check/context.h"
+#include "companions/check/words.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace korvel::check {
+
+namespace {
+
+using vocabulary::Attribute;
+using vocabulary::Element;
+using vocabulary::Value;
+
+/// Whether an attribute that is printed in a line is missing. Without settings, nobody knows
+/// whether what has a switch is printed.
+bool isMissing(const Context &context, const Tag &tag, const Attribute &row)
+{
+    return (context.isOn(row.setting) || !vocabulary::isOptional(row)) && !isRegistered(row)
+           && row.value != Value::Address // which prints no line then
+           && !tag.find(row.name);
+}
+
+void noteMissing(Context &context, const Tag &tag, const QStringList &missing)
+{
+    const bool isMark = tag.name == "variant"_L1 && missing == QStringList(u"quantity"_s);
+    context.note(tag.place, Code::MissingAttribute, tag.name, quoted(missing),
+                 isMark                ? phrase::leftOut
+                 : missing.size() == 1 ? phrase::emptyPlace
+                                       : phrase::emptyPlaces);
+}
+
+void checkPrinted(Context &context, const Tag &tag, Value kind, const JobAttribute &attribute)
+{
+    checkText(context, tag, attribute);
+    if (kind == Value::Amount)
+        checkAmount(context, attribute);
+    else if (kind == Value::Address)
+        checkAddress(context, attribute);
+    else if (kind == Value::VariantQuantity)
+        checkVariantQuantity(context, attribute);
+    if (context.settings)
+        checkWidth(context, tag, attribute);
+}
+
+/// An attribute that the document knows.
+void checkKnown(Context &context, const Tag &tag, const Attribute &row, bool deduction)
+{
+    const JobAttribute *attribute = tag.find(row.name);
+    if (!attribute || row.value == Value::Kept || row.value == Value::Unread)
+        return;
+    if (isRegistered(row)) {
+        if (row.value == Value::RegisteredPrice || !deduction)
+            checkRegistered(context, row.value, *attribute);
+    } else if (context.isOff(row.setting)) {
+        context.note(attribute->place, Code::SwitchedOff,
+                     filled(phrase::attributeNotPrinted, row.name), row.setting,
+                     context.method->group);
+    } else {
+        checkPrinted(context, tag, row.value, *attribute);
+    }
+}
+
+/// The attributes that the document does not know by name.
+void checkOthers(Context &context, const Tag &tag, const Element &element,
+                 const QList<Attribute> &known)
+{
+    QStringList names;
+    QStringList unused;
+    for (const Attribute &row : known) {
+        names.append(row.name);
+        if (!tag.find(row.name))
+            unused.append(row.name);
+    }
+    for (const JobAttribute &attribute : tag.attributes) {
+        if (names.contains(attribute.name))
+            continue;
+        if (element.anyAttribute)
+            checkText(context, tag, attribute);
+        else
+            noteUnread(context, tag, attribute, unused);
+    }
+}
+
+/// The cancelled documents: their count and total by name, then three attributes for each, by
+/// place.
+void checkCancelled(Context &context, const Tag &tag)
+{
+    const auto nameAt = [&](qsizetype i) {
+        return i < tag.attributes.size() ? tag.attributes[i].name : QString();
+    };
+    const bool headed = (nameAt(0) == "number"_L1 && nameAt(1) == "totals"_L1)
+                        || (nameAt(0) == "totals"_L1 && nameAt(1) == "number"_L1);
+    if (!headed) {
+        context.note(tag.place, Code::CancelledList, phrase::listBeginsWrong);
+        return;
+    }
+    const qsizetype listed = tag.attributes.size() - 2;
+    if (listed % 3 != 0) {
+        context.note(tag.place, Code::CancelledList,
+                     filled(phrase::listNotInThrees, QString::number(listed)));
+        return;
+    }
+    const JobAttribute *number = tag.find(u"number");
+    bool isNumber = false;
+    const int count = number->value.toInt(&isNumber);
+    if (isNumber && count != listed / 3)
+        context.note(
+            number->place, Code::CancelledList,
+            filled(phrase::listMiscounted, QString::number(count), QString::number(listed / 3)));
+}
+
+} // namespace
+
+void checkAttributes(Context &context, const Tag &tag, const Element &element)
+{
+    const QList<Attribute> known = vocabulary::attributesOf(tag.name, context.method->document);
+    const bool deduction = isDeduction(tag, known);
+    QStringList missing;
+    for (const Attribute &row : known) {
+        if (isMissing(context, tag, row))
+            missing.append(row.name);
+        else
+            checkKnown(context, tag, row, deduction);
+    }
+    if (!deduction)
+        checkComplete(context, tag, known);
+    if (!missing.isEmpty())
+        noteMissing(context, tag, missing);
+    checkOthers(context, tag, element, known);
+    if (tag.name == "cancelledsummary"_L1)
+        checkCancelled(context, tag);
+}
+
+void noteUnread(Context &context, const Tag &tag, const JobAttribute &attribute,
+                const QStringList &unused)
+{
+    context.note(attribute.place, Code::UnknownAttribute, attribute.name, tag.name,
+                 orNearest(attribute.name, unused));
+}
+
+} // namespace korvel::check

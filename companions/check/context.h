@@ -1,0 +1,84 @@
+// What the rules of a job share: the document so far, the settings, the findings; and the rules.
+#pragma once
+
+#include "companions/check/findings.h"
+#include "companions/check/settingsfile.h"
+#include "companions/check/vocabulary.h"
+
+namespace korvel::check {
+
+struct Context
+{
+    const SettingsFile *settings;               // null when none are given
+    const vocabulary::Method *method = nullptr; // selected last; null before the first
+    QList<Finding> findings;
+
+    /// Notes a finding that says the wording of its code with these words.
+    template<typename... Words>
+    void note(Place place, Code code, const Words &...words)
+    {
+        findings.append({place, code, worded(code, words...), {}, 0});
+    }
+
+    /// Whether settings are given and switch this on in the document.
+    [[nodiscard]] bool isOn(QLatin1StringView key) const
+    {
+        return settings && !key.isEmpty() && settings->isOn(method->group, key);
+    }
+
+    /// Whether settings are given and switch this off in the document. What has no switch is never
+    /// off.
+    [[nodiscard]] bool isOff(QLatin1StringView key) const
+    {
+        return settings && !key.isEmpty() && !settings->isOn(method->group, key);
+    }
+};
+
+// attributes.cpp
+
+/// The attributes of an element that the document prints.
+void checkAttributes(Context &context, const Tag &tag, const vocabulary::Element &element);
+
+/// Notes an attribute that nothing reads; "unused" are names that the tag could have and has not.
+void noteUnread(Context &context, const Tag &tag, const JobAttribute &attribute,
+                const QStringList &unused);
+
+// texts.cpp
+
+/// What is printed in a line.
+void checkText(Context &context, const Tag &tag, const JobAttribute &attribute);
+
+/// What is printed in lines, parted at commas.
+void checkAddress(Context &context, const JobAttribute &attribute);
+
+/// Whether a value has a control character other than a line break.
+bool hasControl(const JobAttribute &attribute);
+
+// amounts.cpp
+
+/// An amount that is printed as it is.
+void checkAmount(Context &context, const JobAttribute &attribute);
+
+/// The quantity of a variant, which prints as a sign.
+void checkVariantQuantity(Context &context, const JobAttribute &attribute);
+
+// salerows.cpp
+
+/// Whether an attribute is sent to be registered.
+bool isRegistered(const vocabulary::Attribute &row);
+
+/// Whether a sale row is sent as a deduction, which carries its price alone.
+bool isDeduction(const Tag &tag, const QList<vocabulary::Attribute> &known);
+
+/// What a sale row lacks, or has empty.
+void checkComplete(Context &context, const Tag &tag, const QList<vocabulary::Attribute> &known);
+
+/// A text, a quantity or a price that is sent to be registered.
+void checkRegistered(Context &context, vocabulary::Value kind, const JobAttribute &attribute);
+
+// columns.cpp
+
+/// A figure beside the column that the settings give it; they must be given.
+void checkWidth(Context &context, const Tag &tag, const JobAttribute &attribute);
+
+} // namespace korvel::check

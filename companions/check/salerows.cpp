@@ -1,0 +1,116 @@
+// Rows that are sent to the printer to be registered: sales and deductions.
+#include "companions/check/context.h"
+#include "companions/check/words.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace korvel::check {
+
+namespace {
+
+using vocabulary::Attribute;
+using vocabulary::Value;
+
+/// A number of the job that the printer or the renderer reads: a sign, digits, a point or comma.
+QRegularExpressionMatch plainNumber(const QString &value)
+{
+    static const QRegularExpression number(u"^\\s*([+-]?)0*([0-9]*)(?:[.,]([0-9]*?)0*)?\\s*$"_s);
+    const auto match = number.match(value);
+    const bool hasDigit =
+        std::any_of(value.begin(), value.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return hasDigit ? match : QRegularExpressionMatch();
+}
+
+/// A price as the renderer reads it.
+double registeredPrice(QString value, bool *isNumber = nullptr)
+{
+    return value.replace(u',', u'.').toDouble(isNumber);
+}
+
+void checkPrice(Context &context, const JobAttribute &attribute)
+{
+    const auto note = [&](Code code, const auto &...words) {
+        context.note(attribute.place, code, attribute.name, quoted(attribute.value), words...);
+    };
+    const auto number = plainNumber(attribute.value);
+    bool isNumber = false;
+    registeredPrice(attribute.value, &isNumber);
+    if (!isNumber)
+        note(Code::FiscalAmount, phrase::noNumber);
+    else if (!number.hasMatch())
+        note(Code::FiscalAmount, phrase::noPlainNumber);
+    else if (number.captured(2).size() > 13)
+        note(Code::FiscalAmount, phrase::tooManyDigits);
+    else if (number.captured(3).size() > 2)
+        note(Code::FiscalHundredths);
+}
+
+/// A character that ends or splits the printer's command, as findings call it; empty for none.
+/// A description may have a slash.
+QLatin1StringView endOfCommand(const JobAttribute &attribute)
+{
+    if (attribute.lineBreak)
+        return phrase::lineBreak;
+    if (attribute.value.contains(u')'))
+        return phrase::parenthesis;
+    if (attribute.name != "name"_L1 && attribute.value.contains(u'/'))
+        return phrase::slash;
+    return {};
+}
+
+} // namespace
+
+bool isRegistered(const Attribute &row)
+{
+    return row.value == Value::RegisteredText || row.value == Value::RegisteredCount
+           || row.value == Value::RegisteredPrice;
+}
+
+bool isDeduction(const Tag &tag, const QList<Attribute> &known)
+{
+    return std::any_of(known.begin(), known.end(), [&](const Attribute &row) {
+        const JobAttribute *price =
+            row.value == Value::RegisteredPrice ? tag.find(row.name) : nullptr;
+        return price && registeredPrice(price->value) < 0;
+    });
+}
+
+void checkComplete(Context &context, const Tag &tag, const QList<Attribute> &known)
+{
+    QStringList lacking;
+    for (const Attribute &row : known) {
+        if (!isRegistered(row))
+            continue;
+        const JobAttribute *attribute = tag.find(row.name);
+        if (!attribute || attribute->value.isEmpty())
+            lacking.append(row.name);
+    }
+    if (!lacking.isEmpty())
+        context.note(tag.place, Code::FiscalIncomplete, quoted(lacking),
+                     lacking.constLast() == "price"_L1 ? phrase::zeroRegistered
+                                                       : phrase::maybeRefused);
+}
+
+void checkRegistered(Context &context, Value kind, const JobAttribute &attribute)
+{
+    if (attribute.value.isEmpty())
+        return;
+    if (kind == Value::RegisteredPrice) {
+        checkPrice(context, attribute);
+        return;
+    }
+    const QString value = quoted(attribute.value);
+    if (const auto character = endOfCommand(attribute); !character.isEmpty())
+        context.note(attribute.place, Code::EndsCommand, attribute.name, value, character);
+    if (hasControl(attribute))
+        context.note(attribute.place, Code::ControlCharacter,
+                     filled(phrase::saleRowHas, attribute.name, value));
+    if (kind == Value::RegisteredCount && !plainNumber(attribute.value).hasMatch())
+        context.note(attribute.place, Code::FiscalQuantity, attribute.name, value);
+}
+
+} // namespace korvel::check

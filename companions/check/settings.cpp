@@ -1,0 +1,112 @@
+// A settings file by itself: what nothing reads, and values that are hardly meant.
+#include "companions/check/checks.h"
+#include "companions/check/columns.h"
+#include "companions/check/settingsfile.h"
+#include "companions/check/vocabulary.h"
+#include "companions/check/words.h"
+
+#include <QHash>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace korvel::check {
+
+namespace {
+
+using vocabulary::Kind;
+using vocabulary::Method;
+using vocabulary::Setting;
+
+QStringList pathOf(const SettingsFile::Entry &entry)
+{
+    return entry.groups + QStringList(entry.key);
+}
+
+/// A finding about a setting.
+template<typename... Words>
+Finding about(const SettingsFile::Entry &entry, Code code, const Words &...words)
+{
+    return {entry.place, code, worded(code, words...), pathOf(entry), entry.occurrence};
+}
+
+/// The keys that a group may have.
+QStringList keysOf(QStringView group)
+{
+    QStringList keys;
+    if (group == "language"_L1) {
+        for (const vocabulary::LanguageSetting &row : vocabulary::languageSettings())
+            keys.append(row.key);
+    } else {
+        for (const Setting &row : vocabulary::settings())
+            keys.append(row.key);
+    }
+    return keys;
+}
+
+/// Why no document reads a setting; empty when one does, or when it is a known one that nothing
+/// depends on.
+QString whyUnread(const SettingsFile::Entry &entry)
+{
+    if (entry.groups.isEmpty())
+        return phrase::outsideKorvel;
+    if (!entry.searched || entry.groups.constFirst() != "korvel"_L1)
+        return phrase::otherTopGroup;
+    if (entry.groups.size() > 2)
+        return filled(phrase::misplaced, phrase::unclosedGroup);
+    if (entry.groups.size() < 2)
+        return filled(phrase::misplaced, QString());
+
+    QStringList groups = {u"language"_s};
+    for (const Method &method : vocabulary::methods())
+        groups.append(method.group);
+    const QString &group = entry.groups.constLast();
+    if (!groups.contains(group))
+        return filled(phrase::unknownGroup, group, orNearest(group, groups));
+    const QStringList keys = keysOf(group);
+    if (!keys.contains(entry.key))
+        return filled(phrase::unknownSetting, orNearest(entry.key, keys));
+    return {};
+}
+
+/// How the value of a setting is read, where that is hardly meant.
+void checkValue(const SettingsFile::Entry &entry, QList<Finding> &findings)
+{
+    const Setting *setting = vocabulary::findSetting(entry.key);
+    if (!setting || entry.value.isEmpty())
+        return;
+    bool isNumber = false;
+    const int number = entry.value.toInt(&isNumber);
+    if (setting->kind == Kind::Switch && entry.value != "true"_L1 && entry.value != "false"_L1)
+        findings.append(about(entry, Code::NotTrue, entry.key, quoted(entry.value)));
+    if (setting->kind == Kind::Number && !isNumber)
+        findings.append(about(entry, Code::NotANumber, entry.key, quoted(entry.value)));
+    const auto documents = vocabulary::documentsOf(entry.groups.constLast());
+    if (entry.key == "paperWidth"_L1 && (setting->documents & documents) != 0
+        && number > printerWidth)
+        findings.append(
+            about(entry, Code::Columns,
+                  filled(phrase::widePaper, entry.value, QString::number(printerWidth))));
+}
+
+} // namespace
+
+QList<Finding> checkSettings(const SettingsFile &settings)
+{
+    QList<Finding> findings;
+    QHash<QString, Place> groups; // of documents, where their first setting stands
+    for (const SettingsFile::Entry &entry : settings.entries()) {
+        if (const QString why = whyUnread(entry); !why.isEmpty()) {
+            findings.append(
+                about(entry, Code::UnreadKey, pathOf(entry).join(u'.').simplified(), why));
+            continue;
+        }
+        checkValue(entry, findings);
+        if (const QString &group = entry.groups.constLast(); !groups.contains(group))
+            groups.insert(group, entry.place);
+    }
+    checkColumns(settings, groups, findings);
+    sortByPlace(findings);
+    return findings;
+}
+
+} // namespace korvel::check

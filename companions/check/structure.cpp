@@ -1,0 +1,166 @@
+// A job's elements: its method, their order, and which of them the document prints.
+#include "companions/check/checks.h"
+#include "companions/check/context.h"
+#include "companions/check/words.h"
+
+#include <algorithm>
+#include <iterator>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace korvel::check {
+
+namespace {
+
+using vocabulary::Documents;
+using vocabulary::Element;
+using vocabulary::Method;
+
+/// Documents that read an element and print nothing for it.
+struct Silence
+{
+    QLatin1StringView element;
+    Documents documents;
+};
+
+constexpr Documents everywhere = ~0U;
+constexpr Documents fiscal = vocabulary::FiscalReceipt | vocabulary::SummaryFiscalReceipt;
+
+constexpr Silence silences[] = {
+    {"printers"_L1, everywhere},
+    {"logo"_L1,     everywhere},
+    {"total"_L1,    fiscal    },
+};
+
+/// The documents that print something for an element.
+Documents printedIn(const QString &element)
+{
+    Documents documents = 0;
+    for (const Element &row : vocabulary::elements()) {
+        if (row.name == element)
+            documents |= row.documents;
+    }
+    for (const Silence &row : silences) {
+        if (row.element == element)
+            documents &= ~row.documents;
+    }
+    return documents;
+}
+
+bool isElement(const QString &name)
+{
+    return std::any_of(vocabulary::elements().begin(), vocabulary::elements().end(),
+                       [&](const Element &row) { return row.name == name; });
+}
+
+/// False when the job ends at this method.
+bool checkMethod(Context &context, const Tag &tag)
+{
+    const JobAttribute *name = tag.find(u"name");
+    if (!name) {
+        context.note(tag.place, Code::UnknownMethod, phrase::noMethodName, QString());
+        return false;
+    }
+    const Method *found = vocabulary::findMethod(name->value);
+    if (!found) {
+        QStringList names;
+        for (const Method &row : vocabulary::methods())
+            names.append(row.name);
+        context.note(name->place, Code::UnknownMethod,
+                     filled(phrase::noDocument, quoted(name->value)),
+                     orNearest(name->value, names));
+        return false;
+    }
+    if (context.method)
+        context.note(tag.place, Code::SecondMethod, context.method->title);
+    context.method = found;
+    for (const JobAttribute &attribute : tag.attributes) {
+        if (attribute.name != "name"_L1)
+            noteUnread(context, tag, attribute, {u"name"_s});
+    }
+    return true;
+}
+
+void checkBeforeMethod(Context &context, const Tag &tag, bool isRoot)
+{
+    const bool holder = isElement(tag.name) ? tag.holdsOthers && tag.attributes.isEmpty()
+                                            : tag.holdsOthers || isRoot;
+    if (!holder)
+        context.note(tag.place, Code::BeforeMethod, tag.name);
+}
+
+/// An element that the document does not know.
+void checkIgnored(Context &context, const Tag &tag, bool isRoot)
+{
+    QStringList own; // elements of the document, without those that most share
+    QStringList shared;
+    for (const Element &row : vocabulary::elements()) {
+        if ((row.documents & context.method->document) != 0)
+            (vocabulary::isShared(row) ? shared : own).append(row.name);
+    }
+    if (isElement(tag.name)) {
+        const Documents elsewhere = printedIn(tag.name);
+        context.note(tag.place, Code::IgnoredElement, tag.name, context.method->title,
+                     elsewhere == 0 ? QString()
+                                    : filled(phrase::onlyIn, vocabulary::titlesOf(elsewhere)),
+                     orLonger(tag.name, own));
+        return;
+    }
+    const bool holder = isRoot || (tag.holdsOthers && tag.attributes.isEmpty());
+    if (!holder)
+        context.note(tag.place, Code::UnknownElement, tag.name, orSimilar(tag.name, own, shared));
+}
+
+/// An element that the document knows.
+void checkElement(Context &context, const Tag &tag, const Element &element)
+{
+    if (context.method->document == vocabulary::FullOrder && tag.name == "receipe"_L1) {
+        const JobAttribute *name = tag.find(u"name");
+        if (name && name->value.startsWith(u'='))
+            return; // left out on purpose
+    }
+    const bool headers = tag.name == "headers"_L1;
+    if (context.isOff(element.setting) && !(headers && tag.attributes.isEmpty())) {
+        context.note(tag.place, Code::SwitchedOff,
+                     headers ? QString(phrase::onlyPrinterName)
+                             : filled(phrase::elementNotPrinted, tag.name),
+                     element.setting, context.method->group);
+        return;
+    }
+    checkAttributes(context, tag, element);
+}
+
+/// False when the job ends at this tag.
+bool checkTag(Context &context, const Tag &tag, bool isRoot)
+{
+    if (tag.name == "method"_L1)
+        return checkMethod(context, tag);
+    if (!context.method)
+        checkBeforeMethod(context, tag, isRoot);
+    else if (const Element *row = vocabulary::findElement(tag.name, context.method->document))
+        checkElement(context, tag, *row);
+    else
+        checkIgnored(context, tag, isRoot);
+    return true;
+}
+
+} // namespace
+
+QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings)
+{
+    const Job read = readJob(job);
+    Context context{settings, nullptr, {}};
+    for (const Fault &fault : read.faults)
+        context.findings.append({fault.place, fault.code, fault.text, {}, 0});
+    const bool goesOn = std::all_of(read.tags.begin(), read.tags.end(), [&](const Tag &tag) {
+        return checkTag(context, tag, &tag == &read.tags.constFirst());
+    });
+    if (!context.method && goesOn && read.faults.isEmpty()) {
+        context.findings.clear(); // all of them are before the method that is missing
+        context.note({}, Code::NoMethod);
+    }
+    sortByPlace(context.findings);
+    return context.findings;
+}
+
+} // namespace korvel::check

@@ -1,0 +1,44 @@
+// Texts that are printed in lines.
+#include "companions/check/context.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace korvel::check {
+
+void checkText(Context &context, const Tag &tag, const JobAttribute &attribute)
+{
+    if (attribute.lineBreak)
+        context.note(attribute.place, Code::LineBreak, attribute.name, tag.name);
+    if (attribute.value.contains(u')'))
+        context.note(attribute.place, Code::Parenthesis, attribute.name, tag.name);
+    if (hasControl(attribute))
+        context.note(attribute.place, Code::ControlCharacter,
+                     filled(phrase::attributeHas, attribute.name, tag.name));
+    if (attribute.value.contains("TOTALE"_L1))
+        context.note(attribute.place, Code::Totale, attribute.name, tag.name);
+}
+
+void checkAddress(Context &context, const JobAttribute &attribute)
+{
+    const QStringList parts = attribute.value.split(u',');
+    const qsizetype empty = parts.indexOf(QString());
+    if (empty < 0)
+        return;
+    const bool lost = std::any_of(parts.begin() + empty, parts.end(),
+                                  [](const QString &part) { return !part.trimmed().isEmpty(); });
+    if (lost)
+        context.note(attribute.place, Code::Address, attribute.name);
+}
+
+bool hasControl(const JobAttribute &attribute)
+{
+    return attribute.tab
+           || std::any_of(attribute.value.begin(), attribute.value.end(), [](QChar c) {
+                  return c.category() == QChar::Other_Control && c != u'\n' && c != u'\r'
+                         && c != u'\t';
+              });
+}
+
+} // namespace korvel::check

@@ -1,0 +1,57 @@
+// Quotes, and what a misspelt name may be.
+#include "companions/check/words.h"
+
+#include "companions/check/codes.h"
+#include "companions/check/vocabulary.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace korvel::check {
+
+namespace {
+
+/// A question for a name; empty for none.
+QString orName(const QString &name)
+{
+    return name.isEmpty() ? QString() : filled(phrase::didYouMean, name);
+}
+
+} // namespace
+
+QString quoted(const QString &value)
+{
+    constexpr qsizetype longest = 40;
+    QString shown;
+    for (const QChar c : value.size() > longest ? value.first(longest - 1) + u'…' : value)
+        shown += c.isPrint() || c.isSurrogate() ? c : QChar(u' ');
+    return u'"' + shown + u'"';
+}
+
+QString quoted(const QStringList &names) { return u'"' + names.join("\", \""_L1) + u'"'; }
+
+QString orNearest(const QString &name, const QStringList &names)
+{
+    return orName(vocabulary::nearest(name, names));
+}
+
+QString orLonger(const QString &name, const QStringList &names)
+{
+    for (const QString &other : names) {
+        if (other.startsWith(name) || name.startsWith(other))
+            return orName(other);
+    }
+    return {};
+}
+
+QString orSimilar(const QString &name, const QStringList &own, const QStringList &shared)
+{
+    QStringList all = own;
+    for (const vocabulary::Element &row : vocabulary::elements())
+        all.append(row.name);
+    const QString nearest = vocabulary::nearest(name, all);
+    if (nearest.isEmpty() || own.contains(nearest) || shared.contains(nearest))
+        return orName(nearest);
+    return orLonger(nearest, own);
+}
+
+} // namespace korvel::check
