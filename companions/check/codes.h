@@ -107,6 +107,21 @@ using Phrase = QLatin1StringView;
 // What a misspelt name may be.
 inline constexpr Phrase didYouMean{"; did you mean \"%1\"?"};
 
+// MalformedXml: what the reader does not say
+inline constexpr Phrase namelessInstruction{"an instruction has no name"};
+inline constexpr Phrase noName{"\"%1\" is no name"};
+
+// Encoding
+inline constexpr Phrase otherEncoding{
+    "another encoding is named than the job is written in: the paper ends here"};
+inline constexpr Phrase unknownEncoding{
+    "the checker cannot read the encoding \"%1\": nothing else was checked; write UTF-8"};
+inline constexpr Phrase wrongBytes{"not %1: the bytes here print as a replacement character"};
+
+// Limit: of what there are too many
+inline constexpr Phrase nestedElements{"elements nested in each other"};
+inline constexpr Phrase declaredNamespaces{"namespaces declared"};
+
 // UnknownMethod
 inline constexpr Phrase noDocument{"no document is called %1"};
 inline constexpr Phrase noMethodName{"the method has no name"};

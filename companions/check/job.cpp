@@ -150,28 +150,23 @@ QString decoded(const QByteArray &bytes, QList<Fault> &faults)
     const QByteArray name = namedEncoding(head);
     // The renderer starts anew with the encoding that is named, unless it does not know it.
     if (marked && QStringDecoder(name.constData()).isValid() && inAnother(*marked, name, bytes)) {
-        faults.append(
-            {Code::Encoding,
-             {},
-             u"another encoding is named than the job is written in: the paper ends here"_s});
+        faults.append({Code::Encoding, {}, worded(Code::Encoding, phrase::otherEncoding)});
         return {};
     }
     QStringDecoder decoder = marked ? QStringDecoder(*marked)
                                     : QStringDecoder(name.isEmpty() ? "UTF-8" : name.constData());
     if (!decoder.isValid()) {
-        faults.append({Code::Encoding,
-                       {},
-                       u"the checker cannot read the encoding \""_s
-                           + inOneLine(QString::fromLatin1(name))
-                           + u"\": nothing else was checked; write UTF-8"_s});
+        const QString unknown = inOneLine(QString::fromLatin1(name));
+        faults.append(
+            {Code::Encoding, {}, worded(Code::Encoding, filled(phrase::unknownEncoding, unknown))});
         return {};
     }
     QString text = decoder(bytes);
     if (decoder.hasError()) {
         Places places(text);
         faults.append({Code::Encoding, places.of(firstWrong(text, decoder.name(), bytes)),
-                       u"not "_s + QString::fromLatin1(decoder.name())
-                           + u": the bytes here print as a replacement character"_s});
+                       worded(Code::Encoding,
+                              filled(phrase::wrongBytes, QString::fromLatin1(decoder.name())))});
     }
     return text;
 }
@@ -232,15 +227,14 @@ public:
                 closeTag();
             else if (token == QXmlStreamReader::ProcessingInstruction
                      && !isName(xml.processingInstructionTarget()))
-                stop(Code::MalformedXml,
-                     u"an instruction has no name: nothing behind this was checked"_s);
+                stop(Code::MalformedXml, worded(Code::MalformedXml, phrase::namelessInstruction));
         }
         if (xml.hasError()) {
             // What a reader says over several lines is one finding.
             QString what = inOneLine(xml.errorString());
             while (what.endsWith(u'.'))
                 what.chop(1);
-            stop(Code::MalformedXml, what + u": nothing behind this was checked"_s);
+            stop(Code::MalformedXml, worded(Code::MalformedXml, what));
         }
         return job;
     }
@@ -262,8 +256,7 @@ private:
         for (const QString &name : names) {
             if (!isName(name))
                 return stop(Code::MalformedXml,
-                            u'"' + inOneLine(name)
-                                + u"\" is no name: nothing behind this was checked"_s);
+                            worded(Code::MalformedXml, filled(phrase::noName, inOneLine(name))));
         }
 
         const qsizetype end = xml.characterOffset();
@@ -301,13 +294,11 @@ private:
         const Place place = tag.place;
         if (open.size() > deepestElement)
             stop(Code::Limit,
-                 u"more than "_s + QString::number(deepestElement)
-                     + u" elements nested in each other: the paper ends here"_s,
+                 worded(Code::Limit, QString::number(deepestElement), phrase::nestedElements),
                  place);
         else if (namespaces > mostNamespaces)
             stop(Code::Limit,
-                 u"more than "_s + QString::number(mostNamespaces)
-                     + u" namespaces declared: the paper ends here"_s,
+                 worded(Code::Limit, QString::number(mostNamespaces), phrase::declaredNamespaces),
                  place);
         else
             job.tags.append(std::move(tag));
