@@ -35,7 +35,8 @@ constexpr Warning warnings[] = {
     {korvel::check::Code::NotANumber,
      QT_TRANSLATE_NOOP("hints", "Not a whole number: counts as 0.")},
     {korvel::check::Code::Columns,
-     QT_TRANSLATE_NOOP("hints", "Too wide for the paper: lines of more than 32 characters, or no room for the description.")},
+     QT_TRANSLATE_NOOP("hints", "Too wide for the paper: lines of more than 32 characters, "
+                                "or no room for the description.")},
 };
 // clang-format on
 
