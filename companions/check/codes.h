@@ -63,8 +63,8 @@ enum class Code {
 struct CodeInfo
 {
     Code code;
-    QLatin1StringView name; // as findings show it; stable: programs may rely on it
     Level level;
+    QLatin1StringView name;    // as findings show it; stable: programs may rely on it
     QLatin1StringView wording; // of a finding, in one line; words of the job at %1, %2 ...
     QLatin1StringView meaning; // what is wrong, in a sentence or two
     QLatin1StringView advice;  // what to do
