@@ -24,6 +24,9 @@ public:
     /// Whether no entity was declared.
     [[nodiscard]] bool isEmpty() const { return texts.isEmpty(); }
 
+    /// Whether an entity of that name was declared.
+    [[nodiscard]] bool isDeclared(const QString &name) const { return texts.contains(name); }
+
     /// Takes note of a reference in the job; false when they come to too much. A name that was
     /// not declared, such as "amp", stands for nothing.
     bool refer(const QString &name);

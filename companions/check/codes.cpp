@@ -25,10 +25,11 @@ constexpr CodeInfo rows[] = {
      "checker cannot read."_L1,
      "Write jobs as UTF-8, with no encoding or with UTF-8 in the XML declaration."_L1},
     {Code::Limit, Level::Error, "limit"_L1,
-     "more than %1 %2: the paper ends here"_L1,
-     "The job is nested more deeply, or declares more namespaces, than the renderer takes. The "
-     "paper ends there."_L1,
-     "Put the elements one after the other; they need no nesting and no namespaces."_L1},
+     "%1"_L1,
+     "The job is nested more deeply, or declares more namespaces or entities, than the renderer "
+     "takes. The paper ends there."_L1,
+     "Put the elements one after the other; they need no nesting, no namespaces and no document "
+     "type."_L1},
     {Code::NoMethod, Level::Error, "no-method"_L1,
      "no method: nothing is printed; begin with <method name=\"...\"/>"_L1,
      "The job selects no document, so nothing is printed but the command that closes a section."_L1,

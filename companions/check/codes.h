@@ -110,6 +110,7 @@ inline constexpr Phrase didYouMean{"; did you mean \"%1\"?"};
 // MalformedXml: what the reader does not say
 inline constexpr Phrase namelessInstruction{"an instruction has no name"};
 inline constexpr Phrase noName{"\"%1\" is no name"};
+inline constexpr Phrase otherVersion{"XML %1 is not read; write 1.0"};
 
 // Encoding
 inline constexpr Phrase otherEncoding{
@@ -118,9 +119,15 @@ inline constexpr Phrase unknownEncoding{
     "the checker cannot read the encoding \"%1\": nothing else was checked; write UTF-8"};
 inline constexpr Phrase wrongBytes{"not %1: the bytes here print as a replacement character"};
 
-// Limit: of what there are too many
-inline constexpr Phrase nestedElements{"elements nested in each other"};
-inline constexpr Phrase declaredNamespaces{"namespaces declared"};
+// Limit
+inline constexpr Phrase nestedElements{
+    "more than %1 elements nested in each other: the paper ends here"};
+inline constexpr Phrase declaredNamespaces{
+    "more than %1 namespaces declared: the paper ends here"};
+inline constexpr Phrase declaredEntities{
+    "more entities than the renderer takes, longer ones, or one in itself: the paper ends here"};
+inline constexpr Phrase declaredAttributes{
+    "more than %1 attributes in the document type: nothing behind this was checked"};
 
 // UnknownMethod
 inline constexpr Phrase noDocument{"no document is called %1"};

@@ -1,10 +1,14 @@
-// Encoding, XML, and where each tag and attribute stands.
+// XML, and where each tag and attribute stands.
 #include "companions/check/job.h"
 
-#include <QStringDecoder>
-#include <QXmlStreamReader>
+#include "app/entities.h"
+#include "companions/check/encoding.h"
+#include "companions/check/xmlerrors.h"
+
+#include <expat.h>
 
 #include <algorithm>
+#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -15,6 +19,17 @@ namespace {
 // What the renderer takes at most; see docs/reliability.md.
 constexpr qsizetype deepestElement = 1024;
 constexpr qsizetype mostNamespaces = 64;
+
+// The parser compares what a document type declares for an element with each other.
+constexpr int mostDeclaredAttributes = 1024;
+
+// Entities may make so many times of a job what it is, once that is so many bytes: beyond both they
+// are longer than the renderer takes.
+constexpr float mostAmplified = 2;
+constexpr unsigned long long longestUnlimited = 2'097'152;
+
+// In front of the text it keeps the parser from taking anything else for a mark or an encoding.
+constexpr QByteArrayView byteOrderMark = "\xEF\xBB\xBF";
 
 bool isNamespaceDeclaration(QStringView name)
 {
@@ -33,175 +48,63 @@ bool isName(QStringView name)
     return !name.isEmpty() && begins(name.front()) && std::all_of(name.begin(), name.end(), goesOn);
 }
 
-/// A text in one line.
-QString inOneLine(QString text)
-{
-    for (QChar &c : text) {
-        if (!c.isPrint() && !c.isSurrogate())
-            c = u' ';
-    }
-    return text.simplified();
-}
-
-bool isBlank(QChar c) { return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r'; }
-
-/// Finds lines and columns of offsets, fastest when they are asked for in rising order.
+/// Finds lines and columns of bytes that are asked for in rising order.
 class Places
 {
 public:
-    explicit Places(const QString &document)
+    explicit Places(QByteArrayView document)
         : text(document)
     {
     }
 
-    Place of(qsizetype offset)
+    Place of(qsizetype byte)
     {
-        if (offset < lineStart) {
-            at = 0;
-            line = 1;
-            lineStart = 0;
+        for (; at < byte; ++at) {
+            const auto c = static_cast<unsigned char>(text[at]);
+            if (c == '\n')
+                place = {place.line + 1, 1};
+            else if (c < 0x80U || c >= 0xC0U) // no further byte of a character
+                place.column += c < 0xF0U ? 1 : 2;
         }
-        for (; at < offset && at < text.size(); ++at) {
-            if (text[at] == u'\n') {
-                ++line;
-                lineStart = at + 1;
-            }
-        }
-        return {line, offset - lineStart + 1};
+        return place;
     }
 
 private:
-    const QString &text;
-    qsizetype at = 0;
-    qsizetype line = 1;
-    qsizetype lineStart = 0;
+    QByteArrayView text;
+    qsizetype at = byteOrderMark.size();
+    Place place;
 };
 
-/// The name of the encoding in an XML declaration; empty when it names none.
-QByteArray namedEncoding(const QByteArray &bytes)
-{
-    const QByteArray head = bytes.left(256);
-    if (!head.startsWith("<?xml"))
-        return {};
-    const QByteArray declaration = head.left(head.indexOf("?>"));
-    const qsizetype name = declaration.indexOf("encoding");
-    if (name < 0)
-        return {};
-    const QByteArray rest = declaration.mid(name + 8).trimmed();
-    if (!rest.startsWith('='))
-        return {};
-    const QByteArray value = rest.mid(1).trimmed();
-    return value.isEmpty() ? value : value.mid(1, value.indexOf(value.front(), 1) - 1);
-}
-
-/// Whether the bytes of a job do not say what the encoding that it names would.
-bool inAnother(QStringConverter::Encoding marked, const QByteArray &name, const QByteArray &bytes)
-{
-    const QByteArray upper = name.toUpper();
-    switch (marked) {
-    case QStringConverter::Utf8:
-        return upper != "UTF-8" && upper != "UTF8";
-    case QStringConverter::Utf16LE:
-        return upper != "UTF-16" && upper != "UTF-16LE";
-    case QStringConverter::Utf16BE:
-        return !(upper == "UTF-16" && bytes.startsWith("\xFE\xFF")) && upper != "UTF-16BE";
-    default:
-        return upper != "UTF-32";
-    }
-}
-
-/// How many bytes at the beginning of a text are UTF-8.
-qsizetype validPrefix(const QByteArray &bytes)
-{
-    qsizetype at = 0;
-    while (at < bytes.size()) {
-        const qsizetype feed = bytes.indexOf('\n', at);
-        const qsizetype end = feed < 0 ? bytes.size() : feed + 1;
-        if (!QByteArrayView(bytes).sliced(at, end - at).isValidUtf8())
-            break;
-        at = end;
-    }
-    // Of the first line that is not, character by character.
-    for (qsizetype length = 1; at + length <= bytes.size() && length <= 4;) {
-        if (QByteArrayView(bytes).sliced(at, length).isValidUtf8()) {
-            at += length;
-            length = 1;
-        } else {
-            ++length;
-        }
-    }
-    return at;
-}
-
-/// Where the first bytes stand that are wrong, in the text that they were decoded to.
-qsizetype firstWrong(const QString &text, const char *encoding, const QByteArray &bytes)
-{
-    if (qstrcmp(encoding, "UTF-8") == 0)
-        return QString::fromUtf8(bytes.first(validPrefix(bytes))).size();
-    return std::max<qsizetype>(text.indexOf(QChar::ReplacementCharacter), 0);
-}
-
-/// The text of a job; what its encoding has wrong is noted.
-QString decoded(const QByteArray &bytes, QList<Fault> &faults)
-{
-    const auto marked = QStringConverter::encodingForData(bytes, u'<');
-    const QByteArray head =
-        marked ? QString(QStringDecoder(*marked)(bytes.left(1024))).toUtf8() : bytes.left(256);
-    const QByteArray name = namedEncoding(head);
-    // The renderer starts anew with the encoding that is named, unless it does not know it.
-    if (marked && QStringDecoder(name.constData()).isValid() && inAnother(*marked, name, bytes)) {
-        faults.append({Code::Encoding, {}, worded(Code::Encoding, phrase::otherEncoding)});
-        return {};
-    }
-    QStringDecoder decoder = marked ? QStringDecoder(*marked)
-                                    : QStringDecoder(name.isEmpty() ? "UTF-8" : name.constData());
-    if (!decoder.isValid()) {
-        const QString unknown = inOneLine(QString::fromLatin1(name));
-        faults.append(
-            {Code::Encoding, {}, worded(Code::Encoding, filled(phrase::unknownEncoding, unknown))});
-        return {};
-    }
-    QString text = decoder(bytes);
-    if (decoder.hasError()) {
-        Places places(text);
-        faults.append({Code::Encoding, places.of(firstWrong(text, decoder.name(), bytes)),
-                       worded(Code::Encoding,
-                              filled(phrase::wrongBytes, QString::fromLatin1(decoder.name())))});
-    }
-    return text;
-}
-
-/// An attribute's name and value in a start tag of the file.
+/// An attribute in a start tag of the file.
 struct Spelt
 {
-    QStringView value;
+    QByteArrayView value;
     qsizetype offset = 0; // of the name
 };
 
-/// The attributes of a start tag that stands between two offsets, as they are spelt.
-QList<Spelt> speltAttributes(const QString &text, qsizetype start, qsizetype end)
+/// The attributes of a well-formed start tag, as they are spelt.
+QList<Spelt> speltAttributes(QByteArrayView tag)
 {
     QList<Spelt> attributes;
-    const auto skip = [&](auto fits) {
-        while (start < end && fits(text[start]))
-            ++start;
+    qsizetype at = 0;
+    const auto isBlank = [&] {
+        return tag[at] == ' ' || tag[at] == '\t' || tag[at] == '\n' || tag[at] == '\r';
     };
-    skip([](QChar c) { return !isBlank(c); }); // the element's name
+    while (at < tag.size() && !isBlank()) // the element's name
+        ++at;
     for (;;) {
-        skip(isBlank);
-        const qsizetype name = start;
-        skip([](QChar c) { return c != u'=' && c != u'>'; });
-        if (start >= end || text[start] == u'>')
+        while (at < tag.size() && isBlank())
+            ++at;
+        const qsizetype name = at;
+        at = tag.indexOf('=', at) + 1;
+        if (at == 0)
             return attributes;
-        ++start;
-        skip(isBlank);
-        if (start >= end)
-            return attributes;
-        const QChar quote = text[start++];
-        const qsizetype value = start;
-        skip([quote](QChar c) { return c != quote; });
-        attributes.append({QStringView(text).mid(value, start - value), name});
-        ++start;
+        while (isBlank())
+            ++at;
+        const qsizetype value = at + 1;
+        at = tag.indexOf(tag[at], value);
+        attributes.append({tag.sliced(value, at - value), name});
+        ++at;
     }
 }
 
@@ -209,32 +112,34 @@ QList<Spelt> speltAttributes(const QString &text, qsizetype start, qsizetype end
 class Reader
 {
 public:
-    explicit Reader(const QString &document)
-        : text(document)
+    explicit Reader(const QString &text)
+        : document(byteOrderMark.toByteArray() + text.toUtf8())
         , places(document)
-        , xml(document)
+        , parser(XML_ParserCreate("UTF-8"))
     {
-        xml.setNamespaceProcessing(false);
+        Q_CHECK_PTR(parser);
+        XML_SetUserData(parser.get(), this);
+        XML_SetElementHandler(parser.get(), call<&Reader::readTag>, call<&Reader::closeTag>);
+        XML_SetProcessingInstructionHandler(parser.get(), call<&Reader::readInstruction>);
+        XML_SetXmlDeclHandler(parser.get(), call<&Reader::readDeclaration>);
+        XML_SetEntityDeclHandler(parser.get(), call<&Reader::readEntity>);
+        XML_SetAttlistDeclHandler(parser.get(), call<&Reader::readDeclaredAttribute>);
+        // Of the document type itself alone: nobody fetches what stands elsewhere.
+        XML_SetParamEntityParsing(parser.get(), XML_PARAM_ENTITY_PARSING_ALWAYS);
+        XML_SetBillionLaughsAttackProtectionMaximumAmplification(parser.get(), mostAmplified);
+        XML_SetBillionLaughsAttackProtectionActivationThreshold(parser.get(), longestUnlimited);
     }
 
     Job read()
     {
-        while (!xml.atEnd() && !stopped) {
-            const auto token = xml.readNext();
-            if (token == QXmlStreamReader::StartElement)
-                readTag();
-            else if (token == QXmlStreamReader::EndElement)
-                closeTag();
-            else if (token == QXmlStreamReader::ProcessingInstruction
-                     && !isName(xml.processingInstructionTarget()))
-                stop(Code::MalformedXml, worded(Code::MalformedXml, phrase::namelessInstruction));
-        }
-        if (xml.hasError()) {
-            // What a reader says over several lines is one finding.
-            QString what = inOneLine(xml.errorString());
-            while (what.endsWith(u'.'))
-                what.chop(1);
-            stop(Code::MalformedXml, worded(Code::MalformedXml, what));
+        const auto size = static_cast<int>(document.size());
+        const auto status = XML_Parse(parser.get(), document.constData(), size, XML_TRUE);
+        if (status != XML_STATUS_OK && !stopped) {
+            const Tag *innermost = open.isEmpty() ? nullptr : &job.tags[open.constLast().tag];
+            const auto error = XML_GetErrorCode(parser.get());
+            const qsizetype at = error == XML_ERROR_UNDEFINED_ENTITY ? undeclared() : offset();
+            const XmlFault fault = faultIn(document, error, at, innermost);
+            stopAtMalformed(places.of(fault.offset), fault.words);
         }
         return job;
     }
@@ -246,78 +151,166 @@ private:
         qsizetype namespaces; // declared by it
     };
 
-    void readTag()
+    /// An operation as the parser calls it, as long as nothing has stopped the reader.
+    template<auto operation, typename... Arguments>
+    static void call(void *reader, Arguments... arguments)
+    {
+        auto *self = static_cast<Reader *>(reader);
+        if (!self->stopped)
+            (self->*operation)(arguments...);
+    }
+
+    /// The first byte of what the parser has come to; of what stands in an entity, the reference.
+    [[nodiscard]] qsizetype offset() const
+    {
+        return std::max<qsizetype>(XML_GetCurrentByteIndex(parser.get()), byteOrderMark.size());
+    }
+
+    /// Where in the start tag that the parser has come to the first reference to nothing stands;
+    /// it says itself no more than the tag.
+    [[nodiscard]] qsizetype undeclared() const
+    {
+        static const QStringList predefined = {u"amp"_s, u"apos"_s, u"gt"_s, u"lt"_s, u"quot"_s};
+        const QByteArrayView tag = QByteArrayView(document).sliced(offset());
+        if (!tag.startsWith('<'))
+            return offset();
+        char quote = 0;
+        for (qsizetype i = 0; i < tag.size() && (quote != 0 || tag[i] != '>'); ++i) {
+            if (quote == tag[i])
+                quote = 0;
+            else if (quote == 0 && (tag[i] == '"' || tag[i] == '\''))
+                quote = tag[i];
+            if (tag[i] != '&')
+                continue;
+            const QByteArrayView behind = tag.sliced(i + 1);
+            const QString name = QString::fromUtf8(behind.first(behind.indexOf(';')));
+            if (!name.startsWith(u'#') && !predefined.contains(name) && !entities.isDeclared(name))
+                return offset() + i;
+        }
+        return offset();
+    }
+
+    void readTag(const char *name, const char **attributes)
     {
         if (!open.isEmpty())
             job.tags[open.constLast().tag].holdsOthers = true;
-        QStringList names = {xml.qualifiedName().toString()};
-        for (const QXmlStreamAttribute &attribute : xml.attributes())
-            names.append(attribute.qualifiedName().toString());
-        for (const QString &name : names) {
-            if (!isName(name))
-                return stop(Code::MalformedXml,
-                            worded(Code::MalformedXml, filled(phrase::noName, inOneLine(name))));
-        }
-
-        const qsizetype end = xml.characterOffset();
-        const bool spelt = end > 0 && end <= text.size() && text[end - 1] == u'>';
-        const qsizetype start =
-            spelt ? std::max<qsizetype>(text.lastIndexOf(u'<', end - 1), 0) : end;
+        const qsizetype start = offset();
         Tag tag;
-        tag.name = xml.qualifiedName().toString();
+        tag.name = QString::fromUtf8(name);
         tag.place = places.of(start);
+        if (!isName(tag.name))
+            return stopAtMalformed(tag.place, filled(phrase::noName, tag.name));
 
-        // A tag that comes out of an entity is spelt elsewhere.
-        const QList<Spelt> spellings = spelt ? speltAttributes(text, start, end) : QList<Spelt>();
-        const QXmlStreamAttributes attributes = xml.attributes();
-        qsizetype declared = 0;
-        for (qsizetype i = 0; i < attributes.size(); ++i) {
-            JobAttribute attribute{attributes[i].qualifiedName().toString(),
-                                   attributes[i].value().toString(), tag.place};
-            if (isNamespaceDeclaration(attribute.name)) {
-                ++declared;
-                continue;
-            }
-            QStringView spelling = attribute.value;
-            if (spellings.size() == attributes.size()) {
-                spelling = spellings[i].value;
-                attribute.place = places.of(spellings[i].offset);
-            }
-            for (const QStringView value : {QStringView(attribute.value), spelling}) {
-                attribute.lineBreak |= value.contains(u'\n') || value.contains(u'\r');
-                attribute.tab |= value.contains(u'\t');
-            }
-            tag.attributes.append(attribute);
-        }
+        const qsizetype declared = readAttributes(tag, start, attributes);
+        if (stopped)
+            return;
         open.append({job.tags.size(), declared});
         namespaces += declared;
-        const Place place = tag.place;
         if (open.size() > deepestElement)
-            stop(Code::Limit,
-                 worded(Code::Limit, QString::number(deepestElement), phrase::nestedElements),
-                 place);
+            stopAtLimit(tag.place,
+                        filled(phrase::nestedElements, QString::number(deepestElement)));
         else if (namespaces > mostNamespaces)
-            stop(Code::Limit,
-                 worded(Code::Limit, QString::number(mostNamespaces), phrase::declaredNamespaces),
-                 place);
+            stopAtLimit(tag.place,
+                        filled(phrase::declaredNamespaces, QString::number(mostNamespaces)));
         else
             job.tags.append(std::move(tag));
     }
 
-    void closeTag() { namespaces -= open.takeLast().namespaces; }
-
-    void stop(Code code, const QString &what, std::optional<Place> place = {})
+    /// Adds its attributes to a tag, and counts the namespaces among them.
+    qsizetype readAttributes(Tag &tag, qsizetype start, const char **attributes)
     {
-        job.faults.append({code, place ? *place : places.of(xml.characterOffset()), what});
-        stopped = true;
+        QList<Spelt> spellings;
+        if (document[start] == '<') // a tag that comes out of an entity is spelt elsewhere
+            spellings = speltAttributes(
+                QByteArrayView(document).sliced(start, XML_GetCurrentByteCount(parser.get())));
+        qsizetype declared = 0;
+        for (qsizetype i = 0; attributes[2 * i]; ++i) {
+            JobAttribute attribute{QString::fromUtf8(attributes[2 * i]),
+                                   QString::fromUtf8(attributes[2 * i + 1]), tag.place};
+            QByteArrayView spelling = attributes[2 * i + 1];
+            if (i < spellings.size()) { // what the document type adds stands behind those
+                spelling = spellings[i].value;
+                attribute.place = places.of(start + spellings[i].offset);
+            }
+            if (!isName(attribute.name)) {
+                stopAtMalformed(attribute.place, filled(phrase::noName, attribute.name));
+                break;
+            }
+            if (isNamespaceDeclaration(attribute.name)) {
+                ++declared;
+                continue;
+            }
+            for (const QByteArrayView value : {QByteArrayView(attributes[2 * i + 1]), spelling}) {
+                attribute.lineBreak |= value.contains('\n') || value.contains('\r');
+                attribute.tab |= value.contains('\t');
+            }
+            tag.attributes.append(attribute);
+        }
+        return declared;
     }
 
-    const QString &text;
+    void closeTag(const char * /*name*/) { namespaces -= open.takeLast().namespaces; }
+
+    void readInstruction(const char *target, const char * /*data*/)
+    {
+        if (!isName(QString::fromUtf8(target)))
+            stopAtMalformed(places.of(offset()), phrase::namelessInstruction);
+    }
+
+    void readDeclaration(const char *version, const char * /*encoding*/, int /*standalone*/)
+    {
+        if (version && qstrcmp(version, "1.0") != 0)
+            stopAtMalformed(places.of(offset()),
+                            filled(phrase::otherVersion, QString::fromUtf8(version)));
+    }
+
+    void readEntity(const char *name, int isParameter, const char *text, int length,
+                    const char * /*base*/, const char * /*systemId*/, const char * /*publicId*/,
+                    const char * /*notation*/)
+    {
+        const QString prefix = isParameter != 0 ? u"%"_s : QString();
+        if (!entities.declare(prefix + QString::fromUtf8(name), QString::fromUtf8(text, length)))
+            stopAtLimit(places.of(offset()), phrase::declaredEntities);
+    }
+
+    void readDeclaredAttribute(const char * /*element*/, const char * /*name*/,
+                               const char * /*type*/, const char * /*value*/, int /*required*/)
+    {
+        if (++declaredAttributes > mostDeclaredAttributes)
+            stopAtLimit(places.of(offset()), filled(phrase::declaredAttributes,
+                                                    QString::number(mostDeclaredAttributes)));
+    }
+
+    void stopAtMalformed(Place place, const QString &words)
+    {
+        stop(Code::MalformedXml, place, worded(Code::MalformedXml, words));
+    }
+
+    void stopAtLimit(Place place, const QString &words)
+    {
+        stop(Code::Limit, place, worded(Code::Limit, words));
+    }
+
+    void stop(Code code, Place place, const QString &text)
+    {
+        job.faults.append({code, place, text});
+        stopped = true;
+        XML_StopParser(parser.get(), XML_FALSE);
+    }
+
+    struct Free
+    {
+        void operator()(XML_Parser finished) const { XML_ParserFree(finished); }
+    };
+
+    const QByteArray document; // in UTF-8, with a mark in front
     Places places;
-    QXmlStreamReader xml;
+    std::unique_ptr<std::remove_pointer_t<XML_Parser>, Free> parser;
     Job job;
     QList<Open> open;
+    Entities entities;
     qsizetype namespaces = 0;
+    int declaredAttributes = 0;
     bool stopped = false;
 };
 

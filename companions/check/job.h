@@ -55,7 +55,7 @@ struct Job
     QList<Fault> faults;
 };
 
-/// Reads a job. Bytes of any kind can be given.
+/// Reads a job. Bytes of any kind can be given, up to half a gigabyte.
 Job readJob(const QByteArray &bytes);
 
 } // namespace korvel::check

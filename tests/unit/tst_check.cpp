@@ -136,37 +136,37 @@ QList<Case> casesOfTheJob()
     return {
         {"malformed-xml",
          "no end tag",                                                                 {"<job><method name=\"printSold\"/>^", {}},
-         {"error: Premature end of document: nothing behind this was checked [malformed-xml]"}                                                                                    },
+         {"error: <job> of line 1 is not closed: nothing behind this was checked [malformed-xml]"}                                                                                },
         {"malformed-xml",
-         "an end tag of another element",                                              {"<job>\n<method name=\"printSold\"/>\n</other>^", {}},
-         {"error: Opening and ending tag mismatch: nothing behind this was checked "
+         "an end tag of another element",                                              {"<job>\n<method name=\"printSold\"/>\n^</other>", {}},
+         {"error: </other> where <job> of line 1 must be closed: nothing behind this was checked "
           "[malformed-xml]"}                                                                                                                                                      },
         {"malformed-xml",
-         "a second root",                                                              {"<job><method name=\"printSold\"/></job>\n<job/>^", {}},
-         {"error: Extra content at end of document: nothing behind this was checked "
+         "a second root",                                                              {"<job><method name=\"printSold\"/></job>\n^<job/>", {}},
+         {"error: a second root; one element must hold all others: nothing behind this was checked "
           "[malformed-xml]"}                                                                                                                                                      },
         {"malformed-xml",
-         "no XML at all",                                                              {"h^ello", {}},
-         {"error: Start tag expected: nothing behind this was checked [malformed-xml]"}                                                                                           },
+         "no XML at all",                                                              {"^hello", {}},
+         {"error: a text outside the root: nothing behind this was checked [malformed-xml]"}                                                                                      },
         {"malformed-xml",
          "nothing at all",                                                             {"^", {}},
-         {"error: Premature end of document: nothing behind this was checked [malformed-xml]"}                                                                                    },
+         {"error: there is no element: nothing behind this was checked [malformed-xml]"}                                                                                          },
         {"malformed-xml",
-         "a value without quotes",                                                     {kitchen("<receipe number=3^/>"), {}},
-         {"error: Expected ''' or '\"', but got '[0-9]': nothing behind this was checked "
+         "a value without quotes",                                                     {kitchen("<receipe number=^3/>"), {}},
+         {"error: a value without quotes: nothing behind this was checked [malformed-xml]"}                                                                                       },
+        {"malformed-xml",
+         "an ampersand that begins no reference",                                      {kitchen("<receipe number=\"1\" name=\"Fish ^& chips\"/>"), {}},
+         {"error: \"&\" begins no reference; write &amp;: nothing behind this was checked "
           "[malformed-xml]"}                                                                                                                                                      },
         {"malformed-xml",
-         "an ampersand that begins no reference",                                      {kitchen("<receipe number=\"1\" name=\"Fish & ^chips\"/>"), {}},
-         {"error: Expected '#' or '[a-zA-Z]', but got ' ': nothing behind this was checked "
-          "[malformed-xml]"}                                                                                                                                                      },
+         "an opening mark in a value",                                                 {kitchen("<receipe number=\"1\" name=\"^<b\"/>"), {}},
+         {"error: \"<\" in a value; write &lt;, or end the value with its quote: nothing behind "
+          "this was checked [malformed-xml]"}                                                                                                                                     },
         {"malformed-xml",
-         "an opening mark in a value",                                                 {kitchen("<receipe number=\"1\" name=\"<^b\"/>"), {}},
-         {"error: Unexpected '<': nothing behind this was checked [malformed-xml]"}                                                                                               },
-        {"malformed-xml",
-         "what stands before the error is checked",                                    {kitchen("^<recipe/></kitchen>^"), {}},
+         "what stands before the error is checked",                                    {kitchen("^<recipe/>^</kitchen>"), {}},
          {"error: no document knows <recipe>: nothing is printed; did you mean \"receipe\"? "
           "[unknown-element]",
-          "error: Opening and ending tag mismatch: nothing behind this was checked "
+          "error: </kitchen> where <job> of line 1 must be closed: nothing behind this was checked "
           "[malformed-xml]"}                                                                                                                                                      },
         {"malformed-xml",
          "declaration, comments, sections, instructions and a document type",          {"<?xml version=\"1.0\"?>\n<!DOCTYPE job>\n<!-- <receipe/> -->\n"
@@ -238,8 +238,8 @@ QList<Case> casesOfTheJob()
          "the method holds what it prints",                                            {"<method name=\"printPartialOrder\">" + item + "</method>", {}},
          {}                                                                                                                                                                       },
         {"no-method",
-         "what cannot be read may have had one",                                       {"<job></other>^", {}},
-         {"error: Opening and ending tag mismatch: nothing behind this was checked "
+         "what cannot be read may have had one",                                       {"<job>^</other>", {}},
+         {"error: </other> where <job> of line 1 must be closed: nothing behind this was checked "
           "[malformed-xml]"}                                                                                                                                                      },
 
         {"unknown-method",
