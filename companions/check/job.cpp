@@ -216,19 +216,21 @@ private:
             job.tags.append(std::move(tag));
     }
 
-    /// Adds its attributes to a tag, and counts the namespaces among them.
+    /// Adds its attributes to a tag, and counts the namespaces among them. Those that the document
+    /// type would add the renderer does not print.
     qsizetype readAttributes(Tag &tag, qsizetype start, const char **attributes)
     {
         QList<Spelt> spellings;
         if (document[start] == '<') // a tag that comes out of an entity is spelt elsewhere
             spellings = speltAttributes(
                 QByteArrayView(document).sliced(start, XML_GetCurrentByteCount(parser.get())));
+        const qsizetype count = XML_GetSpecifiedAttributeCount(parser.get()) / 2;
         qsizetype declared = 0;
-        for (qsizetype i = 0; attributes[2 * i]; ++i) {
+        for (qsizetype i = 0; i < count; ++i) {
             JobAttribute attribute{QString::fromUtf8(attributes[2 * i]),
                                    QString::fromUtf8(attributes[2 * i + 1]), tag.place};
             QByteArrayView spelling = attributes[2 * i + 1];
-            if (i < spellings.size()) { // what the document type adds stands behind those
+            if (!spellings.isEmpty()) {
                 spelling = spellings[i].value;
                 attribute.place = places.of(start + spellings[i].offset);
             }

@@ -1032,10 +1032,10 @@ private slots:
             << QStringList{"5:31"};
         QTest::newRow("a start tag and an end tag")
             << root + "<receipe number=\"1\" name=\"a)\"></receipe></job>" << QStringList{"3:21"};
-        QTest::newRow("an attribute that the document type adds stands at the tag")
-            << "<!DOCTYPE job [<!ATTLIST receipe name CDATA \"a)\">]>\n" + root
-                   + " <receipe number=\"1\"/></job>"
-            << QStringList{"4:2"};
+        QTest::newRow("beside what the document type would add")
+            << "<!DOCTYPE job [<!ATTLIST receipe town CDATA \"1\">]>\n" + root
+                   + " <receipe number=\"1\" name=\"a)\"/></job>"
+            << QStringList{"4:22"};
         QTest::newRow("far down") << root + QByteArray(5000, '\n') + QByteArray(3000, ' ') + wrong
                                          + "</job>"
                                   << QStringList{"5003:3021"};
@@ -1054,6 +1054,32 @@ private slots:
             found.append(QString("%1:%2").arg(finding.place.line).arg(finding.place.column));
         }
         QCOMPARE(found, places);
+    }
+
+    /// What the document type would add to an element, the renderer does not see: it is missing.
+    void attributesOfTheDocumentType()
+    {
+        class Counter : public QXmlDefaultHandler
+        {
+        public:
+            int attributes = 0;
+
+            bool startElement(const QString &, const QString &, const QString &name,
+                              const QXmlAttributes &all) override
+            {
+                attributes += name == "receipe" ? all.count() : 0;
+                return true;
+            }
+        };
+        QByteArray job = "<!DOCTYPE job [<!ATTLIST receipe name CDATA \"a)\">]>"
+                         + kitchen("<receipe number=\"1\"/>");
+        QCOMPARE(shown(check::checkJob(job, nullptr)),
+                 QStringList{"1:91: warning: <receipe> has no \"name\": its place prints empty "
+                             "[missing-attribute]"});
+        QBuffer device(&job);
+        Counter counter;
+        JobGuard(counter).parse(device);
+        QCOMPARE(counter.attributes, 1);
     }
 
     /// A tag out of an entity stands where the entity is used: in its line, at least.
