@@ -21,12 +21,13 @@ struct AmountText
 };
 
 /// Digits with one mark, behind the last three digits' groups; a currency sign or code beside them.
+/// No part of the pattern gives back what it took, or long values would be tried in every division.
 AmountText amountIn(const QString &value)
 {
     static const QRegularExpression amount(
-        uR"(^\s*(?:\p{Sc}|[A-Z]{3})?\s*[+-]?\s*(?:\p{Sc}\s*)?)"
-        uR"((?:\d+|(?=\.\d)|\d{1,3}(?:[.,'\x{2019}\x{a0}\x{202f} ]\d{3})+)(?:([.,])(\d*))?)"
-        uR"(\s*-?\s*(?:\p{Sc}|[A-Z]{3})?\s*$)"_s);
+        uR"(^\s*+(?:\p{Sc}|[A-Z]{3})?+\s*+[+-]?+\s*+(?:\p{Sc}\s*+)?+)"
+        uR"((?:\d++|(?=\.\d)|\d{1,3}(?:[.,'\x{2019}\x{a0}\x{202f} ]\d{3}(?!\d))++))"
+        uR"((?:([.,])(\d*+))?+\s*+-?+\s*+(?:\p{Sc}|[A-Z]{3})?+\s*+$)"_s);
     const auto match = amount.match(value);
     AmountText result;
     result.isNumber = match.hasMatch();

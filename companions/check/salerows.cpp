@@ -18,7 +18,8 @@ using vocabulary::Value;
 /// A number of the job that the printer or the renderer reads: a sign, digits, a point or comma.
 QRegularExpressionMatch plainNumber(const QString &value)
 {
-    static const QRegularExpression number(u"^\\s*([+-]?)0*([0-9]*)(?:[.,]([0-9]*?)0*)?\\s*$"_s);
+    static const QRegularExpression number(
+        u"^\\s*+([+-]?+)0*+([0-9]*+)(?:[.,]((?:0*+[1-9])*+)0*+)?+\\s*+$"_s);
     const auto match = number.match(value);
     const bool hasDigit =
         std::any_of(value.begin(), value.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });

@@ -384,6 +384,8 @@ QString nearest(QStringView misspelt, const QStringList &names)
     for (const QString &name : names) {
         if (name.compare(misspelt, Qt::CaseInsensitive) == 0)
             return name;
+        if (std::abs(name.size() - misspelt.size()) >= fewest)
+            continue; // each step changes the length by one at most
         if (const qsizetype count = steps(misspelt, name); count < fewest) {
             fewest = count;
             best = name;

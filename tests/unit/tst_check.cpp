@@ -1537,15 +1537,6 @@ private slots:
         QVERIFY2(oneLine, qPrintable(finding.text));
     }
 
-    /// Each of many attributes that nobody reads is found, and what the item lacks.
-    void manyUnknownAttributes()
-    {
-        QByteArray tag = "<receipe";
-        for (int i = 0; i < 5000; ++i)
-            tag += attribute(qPrintable("prise" + QString::number(i)), "1");
-        QCOMPARE(check::checkJob(fullOrder(tag + "/>"), nullptr).size(), 5001);
-    }
-
     /// A text of the job is shown as it stands, even where it looks like a place in a wording.
     void placesOfWordingsInTheJob()
     {
@@ -1563,6 +1554,73 @@ private slots:
             "\"price\" of a sale row is \"%1\", no number: 0 is registered",
         };
         QCOMPARE(texts, expected);
+    }
+
+    // Checking takes time in proportion to the job: what grows with its square ends with none of
+    // these.
+
+    void manyAttributes()
+    {
+        const auto numbered = [](const char *name) {
+            QByteArray attributes;
+            for (int i = 0; i < 80'000; ++i)
+                attributes += attribute(name + QByteArray::number(i), "1");
+            return attributes;
+        };
+        QCOMPARE(codesIn(receipt("<headers" + numbered("line") + "/>")), QStringList());
+        QCOMPARE(codesIn(receipt("<total price=\"1.00\"" + numbered("prise") + "/>")).size(),
+                 80'000);
+        QCOMPARE(codesIn(report("<cancelledsummary number=\"80000\" totals=\"1.00\""
+                                + numbered("serial") + numbered("total") + numbered("tax") + "/>")),
+                 QStringList());
+    }
+
+    void longValues_data()
+    {
+        QTest::addColumn<QByteArray>("job");
+        QTest::addColumn<QStringList>("codes");
+        const auto row = [](const char *what, const QByteArray &job, const QStringList &codes) {
+            QTest::newRow(what) << job << codes;
+        };
+        const auto total = [](const QByteArray &price) {
+            return receipt("<total" + attribute("price", price) + "/>");
+        };
+        const auto sale = [](const QByteArray &number, const QByteArray &price) {
+            return fiscal("<receipe department=\"1\" name=\"x\"" + attribute("number", number)
+                          + attribute("price", price) + "/>");
+        };
+        constexpr int length = 1'000'000;
+        const QByteArray zeros(length, '0');
+        const QByteArray blanks(length, ' ');
+
+        row("an amount behind blanks", total(blanks + "1.00"), {});
+        row("blanks, and no amount", total(blanks + 'x'), {"amount"});
+        row("blanks behind an amount, and no end", total("1.00" + blanks + 'x'), {"amount"});
+        row("digits", total(QByteArray(length, '1')), {});
+        row("digits, and no amount", total(QByteArray(length, '1') + 'x'), {"amount"});
+        row("thousands", total('1' + QByteArray(",234").repeated(length / 4)), {});
+        row("thousands, and no amount", total('1' + QByteArray(",234").repeated(length / 4) + 'x'),
+            {"amount"});
+        row("zeros that are registered", sale(zeros + '1', zeros + "1.50" + zeros), {});
+        row("zeros, and no number", sale(zeros + 'x', "0." + zeros + 'x'),
+            {"fiscal-quantity", "fiscal-amount"});
+        row("blanks in a sale row", sale('1' + blanks + 'x', '1' + blanks + 'x'),
+            {"fiscal-quantity", "fiscal-amount"});
+        row("an address of commas",
+            receipt("<customer name=\"x\"" + attribute("deliveryaddress", QByteArray(length, ','))
+                    + "/>"),
+            {});
+        row("a name of an element", receipt('<' + QByteArray(length, 'x') + "/>"),
+            {"unknown-element"});
+        row("a name of a method", documentOf(QByteArray(length, 'x').constData(), ""),
+            {"unknown-method"});
+    }
+
+    void longValues()
+    {
+        QFETCH(QByteArray, job);
+        QFETCH(QStringList, codes);
+        QCOMPARE(codesIn(job), codes);
     }
 
     /// A summary order knows no element, and no setting of it matters.
