@@ -127,7 +127,7 @@ inline bool open(QFile &file, const QString &path, QIODevice::OpenMode mode)
 /// The user's home folder, without a slash at its end; the root folder when HOME does not say.
 inline QString home()
 {
-    const QString path = fromBytes(qgetenv("HOME"));
+    QString path = fromBytes(qgetenv("HOME"));
     if (path.startsWith(QChar(QChar::ByteOrderMark))) // which cleaning may drop
         return path;
     return path.isEmpty() ? QDir::homePath() : QDir::cleanPath(path);
