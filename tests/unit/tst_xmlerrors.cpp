@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+namespace check = korvel::check;
+
 namespace {
 
 /// What is wrong with a job, behind the place: "2:5: words". A job is read up to one fault at most.
@@ -12,7 +14,7 @@ QString faultIn(const QByteArray &job, const QByteArray &code = "malformed-xml")
     if (read.faults.isEmpty())
         return {};
     const check::Fault &fault = read.faults.first();
-    if (read.faults.size() != 1 || fault.code != QLatin1String(code))
+    if (read.faults.size() != 1 || check::infoOf(fault.code).name != QLatin1String(code))
         return "not one of " + code;
     return QString("%1:%2: %3").arg(fault.place.line).arg(fault.place.column).arg(fault.text);
 }
