@@ -1,122 +1,57 @@
-// What jobs and settings files may say: methods, elements, attributes and settings, in tables.
+// The tables of the vocabulary, to be gone through and searched.
 #pragma once
+
+#include "vocabulary/attributes.h"
+#include "vocabulary/methods.h"
 
 #include <QList>
 #include <QString>
 
-/**
- * The one list of the names that jobs and settings use, with what each does. The checker judges by
- * it, the schema is written from it, the settings editor shows its help, and the reference pages
- * are compared with it. The engine does not use it; a test prints a job for each row instead.
- */
-namespace vocabulary {
+#include <iterator>
 
-/// The documents, one bit each, in the order of the methods' table.
-enum Document : unsigned {
-    KitchenOrder = 1U << 0U,
-    FullOrder = 1U << 1U,
-    Receipt = 1U << 2U,
-    Invoice = 1U << 3U,
-    DeliveryNote = 1U << 4U,
-    FiscalReceipt = 1U << 5U,
-    SummaryOrder = 1U << 6U,
-    SummaryReceipt = 1U << 7U,
-    SummaryInvoice = 1U << 8U,
-    SummaryFiscalReceipt = 1U << 9U,
-    PeriodReport = 1U << 10U,
-    SoldItems = 1U << 11U,
-    Statement = 1U << 12U,
-};
+namespace korvel::vocabulary {
 
-/// Any number of documents.
-using Documents = unsigned;
-
-struct Method
+/// The rows of a table.
+template<typename Row>
+class Rows
 {
-    QLatin1StringView name; // as jobs ask for it
-    Document document;
-    QLatin1StringView title; // of the document, to people: "kitchen order"
-    QLatin1StringView group; // of the settings, below "korvel"
+public:
+    template<std::size_t count>
+    constexpr explicit Rows(const Row (&table)[count])
+        : first(std::begin(table))
+        , last(std::end(table))
+    {
+    }
+
+    [[nodiscard]] constexpr const Row *begin() const { return first; }
+    [[nodiscard]] constexpr const Row *end() const { return last; }
+    [[nodiscard]] constexpr qsizetype size() const { return last - first; }
+    constexpr const Row &operator[](qsizetype i) const { return first[i]; }
+
+private:
+    const Row *first;
+    const Row *last;
 };
 
-/// What an attribute's value is to the document that reads it.
-enum class Value {
-    Text,            // printed as it is
-    Amount,          // printed as it is; people read it as an amount of money
-    RegisteredPrice, // read as a number and sent in hundredths, to be registered
-    RegisteredText,  // sent to be registered
-    RegisteredCount, // likewise, a quantity
-    VariantQuantity, // read as a number, printed as a sign
-    Address,         // printed in lines, parted at commas
-    Kept,            // read, not printed by this printer
-    Unread,          // not read, though jobs often carry it
-};
-
-/// An element as some documents know it. Others have a row of their own or ignore it.
-struct Element
-{
-    QLatin1StringView name;
-    Documents documents;
-    QLatin1StringView setting; // that switches it on; empty when nothing does
-    bool anyAttribute;         // prints attributes of any name, in the order of the job
-    QLatin1StringView meaning;
-};
-
-/// An attribute of an element, in some of the documents that know the element.
-struct Attribute
-{
-    QLatin1StringView element;
-    Documents documents;
-    QLatin1StringView name;
-    Value value;
-    QLatin1StringView setting; // that switches it on, beside the element's; empty when nothing does
-};
-
-/// How the text of a setting is read.
-enum class Kind {
-    Number, // a whole number; anything else counts as 0
-    Switch, // on when it is exactly "true"
-    Text,
-};
-
-struct Setting
-{
-    QLatin1StringView key; // in its group
-    Kind kind;
-    QLatin1StringView unit;
-    Documents documents; // that read it and print by it; none when nothing depends on it
-    const char *meaning; // in ASCII; catalogues have it in the context "vocabulary"
-};
-
-/// The settings of the group "language", which are not a document's.
-struct LanguageSetting
-{
-    QLatin1StringView key; // below "korvel.language."
-    const char *meaning;   // as of a Setting
-};
-
-// All rows, each table in the order of the reference pages.
-const QList<Method> &methods();
-const QList<Element> &elements();
-const QList<Attribute> &attributes();
-const QList<Setting> &settings();
-const QList<LanguageSetting> &languageSettings();
+// Each table in the order of the reference pages.
+constexpr Rows<Method> methods() { return Rows(method::rows); }
+constexpr Rows<Element> elements() { return Rows(element::rows); }
+constexpr Rows<Attribute> attributes() { return Rows(attribute::rows); }
+constexpr Rows<Setting> settings() { return Rows(key::rows); }
+constexpr Rows<LanguageSetting> languageSettings() { return Rows(language::rows); }
 
 /// The method of that name; null when there is none.
 const Method *findMethod(QAnyStringView name);
-
-/// The method that prints a document.
-const Method &methodOf(Document document);
 
 /// The row of an element in one document; null when the document ignores it.
 const Element *findElement(QAnyStringView name, Document document);
 
 /// Whether an element is one of those that all documents with text lines share.
-bool isShared(const Element &element);
+bool isShared(const Element &row);
 
 /// Whether a job may do without an attribute: it has a switch, or no place of its own on the paper.
 /// What `printers` names is printed with `headers`, if there are any.
-bool isOptional(const Attribute &attribute);
+bool isOptional(const Attribute &row);
 
 /// The attributes of an element in one document, those of anyAttribute not among them.
 QList<Attribute> attributesOf(QAnyStringView element, Document document);
@@ -137,4 +72,6 @@ QString titlesOf(Documents documents);
  */
 QString nearest(QStringView misspelt, const QStringList &names);
 
-} // namespace vocabulary
+} // namespace korvel::vocabulary
+
+namespace vocabulary = korvel::vocabulary;

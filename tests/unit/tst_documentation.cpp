@@ -702,7 +702,7 @@ private slots:
     void settingsOfTheVocabulary()
     {
         const QList<QStringList> rows = rowsOf(settingsPage, "key", "## Keys of a document");
-        const QList<vocabulary::Setting> &settings = vocabulary::settings();
+        const auto settings = vocabulary::settings();
         QCOMPARE(rows.size(), settings.size());
         for (qsizetype i = 0; i < rows.size(); ++i) {
             const QString key = settings[i].key;
