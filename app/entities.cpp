@@ -1,12 +1,16 @@
 // What the entities of a job's DTD may expand to: counted, never expanded.
 #include "app/entities.h"
 
+#include "vocabulary/limits.h"
+
 #include <algorithm>
+
+namespace limit = korvel::vocabulary::limit;
 
 bool Entities::declare(const QString &name, const QString &text)
 {
     declaredText += text.size();
-    if (texts.size() >= mostDeclared || declaredText > longestText)
+    if (texts.size() >= limit::mostEntities || declaredText > limit::longestEntities)
         return false;
     texts.insert(name, text);
 
@@ -19,19 +23,19 @@ bool Entities::declare(const QString &name, const QString &text)
         total += expansion.text;
         references += expansion.references;
     }
-    return total <= longestText && references <= longestText;
+    return total <= limit::longestEntities && references <= limit::longestEntities;
 }
 
 bool Entities::refer(const QString &name)
 {
     const Expansion expansion = expansions.value(name);
     referred += expansion.text + expansion.references;
-    return referred <= longestReferred;
+    return referred <= limit::longestReferences;
 }
 
 Entities::Expansion Entities::expand(const QString &name, QHash<QString, Expansion> &known) const
 {
-    constexpr qint64 tooMuch = longestText + 1;
+    constexpr qint64 tooMuch = limit::longestEntities + 1;
 
     if (const auto found = known.constFind(name); found != known.cend())
         return *found;

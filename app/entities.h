@@ -13,10 +13,6 @@
 class Entities
 {
 public:
-    static constexpr qint64 mostDeclared = 64;
-    static constexpr qint64 longestText = 4096;          // of all together, fully expanded
-    static constexpr qint64 longestReferred = 1'048'576; // of all references in a job
-
     /// Takes note of an entity and its text; false when the job's entities are too many or too
     /// long, or refer to themselves.
     bool declare(const QString &name, const QString &text);
@@ -32,7 +28,7 @@ public:
     bool refer(const QString &name);
 
 private:
-    /// What one reference comes to. Both are counted up to just beyond longestText.
+    /// What one reference comes to. Both are counted up to just beyond the limit of a text.
     struct Expansion
     {
         qint64 text = 0;       // characters

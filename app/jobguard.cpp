@@ -1,6 +1,8 @@
 // Limits on a job's XML: nesting, entities, and the stack that the reader uses.
 #include "app/jobguard.h"
 
+#include "vocabulary/limits.h"
+
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
@@ -9,6 +11,8 @@
 #include <utility>
 
 #include <sys/resource.h>
+
+namespace limit = korvel::vocabulary::limit;
 
 namespace {
 
@@ -70,7 +74,7 @@ private:
             ended = !entities.refer(reference);
         } else if (inReference && c != QChar(EndOfData)) {
             reference += c;
-            inReference = reference.size() <= Entities::longestText;
+            inReference = reference.size() <= limit::longestEntities;
         }
         return ended ? QChar(EndOfDocument) : c;
     }
@@ -107,7 +111,7 @@ bool JobGuard::endDocument() { return content.endDocument(); }
 bool JobGuard::startElement(const QString &namespaceUri, const QString &localName,
                             const QString &qName, const QXmlAttributes &attributes)
 {
-    return ++depth <= deepestElement
+    return ++depth <= limit::deepestElement
            && content.startElement(namespaceUri, localName, qName, attributes);
 }
 
@@ -120,7 +124,7 @@ bool JobGuard::endElement(const QString &namespaceUri, const QString &localName,
 
 bool JobGuard::startPrefixMapping(const QString & /*prefix*/, const QString & /*uri*/)
 {
-    return ++prefixes <= mostPrefixes;
+    return ++prefixes <= limit::mostNamespaces;
 }
 
 bool JobGuard::endPrefixMapping(const QString & /*prefix*/)

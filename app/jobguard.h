@@ -12,16 +12,14 @@ class QIODevice;
  * near. A job that goes beyond one ends there, as one with malformed XML would: what was printed
  * before stands, and nothing is said.
  *
- * The limits: 1,024 elements nested in each other; 64 namespace declarations in force, which the
- * reader compares with each other for every element; entities as Entities counts them; and a third
- * of the stack for what the reader nests on its own, such as the groups of a content model.
+ * The limits are those of vocabulary/limits.h: elements nested in each other; namespaces declared,
+ * which the reader compares with each other for every element; entities as Entities counts them;
+ * and a third of the stack for what the reader nests on its own, such as the groups of a content
+ * model.
  */
 class JobGuard : public QXmlDefaultHandler
 {
 public:
-    static constexpr int deepestElement = 1024;
-    static constexpr int mostPrefixes = 64;
-
     /// @param handler receives the job's start, end and elements; belongs to the caller
     explicit JobGuard(QXmlContentHandler &handler);
 

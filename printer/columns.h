@@ -1,6 +1,8 @@
 // Texts padded and cut to the width of a column, in characters (UTF-16 units).
 #pragma once
 
+#include "vocabulary/limits.h"
+
 #include <QChar>
 #include <QString>
 
@@ -8,11 +10,12 @@
 
 namespace columns {
 
-// Wider than any paper: nothing is padded further, whatever a slip in the settings says.
-inline constexpr qint64 widestPad = 65536;
-
-/// A width from the settings as one that can be padded to: below 0 it counts as 0.
-inline qint64 padWidth(qint64 width) { return std::clamp<qint64>(width, 0, widestPad); }
+/// A width from the settings as one that can be padded to: below 0 it counts as 0, and a slip does
+/// not pad without end.
+inline qint64 padWidth(qint64 width)
+{
+    return std::clamp<qint64>(width, 0, korvel::vocabulary::limit::widestPad);
+}
 
 /// A text padded on the left to a width; a longer one is kept whole.
 inline QString right(const QString &text, qint64 width, QChar fill = u' ')

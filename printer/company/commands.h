@@ -1,6 +1,8 @@
 // The command language of the fiscal printer: every command once, what it does and its bytes.
 #pragma once
 
+#include "vocabulary/paper.h"
+
 #include <QLatin1StringView>
 
 namespace commands {
@@ -8,7 +10,7 @@ namespace commands {
 using namespace Qt::Literals::StringLiterals;
 
 // Characters in a line of the paper.
-inline constexpr int lineWidth = 32;
+inline constexpr int lineWidth = korvel::vocabulary::lineWidth;
 
 // A printed line: opener, text, closer. The printer centres nothing itself: the spaces of a
 // centred line stand between the opener and the text.
