@@ -5,6 +5,7 @@
 #include "config/configuration.h"
 #include "config/path.h"
 #include "printer/company/companyprinterdriver.h"
+#include "vocabulary/settings.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -14,6 +15,10 @@
 #include <new>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace group = korvel::vocabulary::group;
+namespace language = korvel::vocabulary::language;
+using korvel::vocabulary::pathOf;
 
 namespace {
 
@@ -26,8 +31,8 @@ void silence(QtMsgType /*type*/, const QMessageLogContext & /*context*/, const Q
 /// untranslated.
 void loadTranslation(QTranslator &translator, const KVConfiguration &settings)
 {
-    const QString baseDir = settings.getStrValue(u"korvel.language.basedir"_s);
-    QString file = settings.getStrValue(u"korvel.language.file"_s);
+    const QString baseDir = settings.getStrValue(pathOf(group::language, language::basedir));
+    QString file = settings.getStrValue(pathOf(group::language, language::file));
     if (file == "/"_L1)
         file = "/korvel_"_L1 + QLocale::system().name();
     if (const QString name = baseDir + file; !name.isEmpty())

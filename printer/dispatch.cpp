@@ -1,11 +1,19 @@
 // Which document method a job asks for, and the elements that all documents share.
 #include "printer/printerdriver.h"
 
+#include "vocabulary/attributes.h"
+#include "vocabulary/methods.h"
+
 #include <algorithm>
 #include <iostream>
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace attribute = korvel::vocabulary::attribute;
+namespace element = korvel::vocabulary::element;
+namespace method = korvel::vocabulary::method;
+using korvel::vocabulary::rowOf;
 
 namespace {
 
@@ -13,27 +21,26 @@ using Driver = PrinterDriver;
 
 struct Method
 {
-    QLatin1StringView name;         // as jobs ask for it
-    QLatin1StringView documentType; // whose layout settings apply
-    std::optional<bool> duplicate;  // what selecting it makes of the duplicate flag, if anything
+    QLatin1StringView name;        // as jobs ask for it
+    std::optional<bool> duplicate; // what selecting it makes of the duplicate flag, if anything
     void (Driver::*print)(const QString &, const QXmlAttributes &);
+    QLatin1StringView documentType = rowOf(method::rows, name).documentType; // of its settings
 };
 
-// The full order has a layout of its own, the pre-fiscal one; the statement shares the report's.
 constexpr Method methods[] = {
-    {"printPartialOrder"_L1,         "order"_L1,     {},    &Driver::printPartialOrder        },
-    {"printFullOrder"_L1,            "prefiscal"_L1, {},    &Driver::printFullOrder           },
-    {"printFullOrderReceipt"_L1,     "receipt"_L1,   {},    &Driver::printFullOrderReceipt    },
-    {"printFullOrderInvoice"_L1,     "invoice"_L1,   true,  &Driver::printFullOrderInvoice    },
-    {"printFullOrderDelivery"_L1,    "delivery"_L1,  {},    &Driver::printFullOrderDelivery   },
-    {"printFullOrderFiscal"_L1,      "fiscal"_L1,    false, &Driver::printFullOrderFiscal     },
-    {"printAbstractOrder"_L1,        "order"_L1,     {},    &Driver::printAbstractOrder       },
-    {"printAbstractOrderReceipt"_L1, "receipt"_L1,   {},    &Driver::printAbstractOrderReceipt},
-    {"printAbstractOrderInvoice"_L1, "invoice"_L1,   true,  &Driver::printAbstractOrderInvoice},
-    {"printAbstractOrderFiscal"_L1,  "fiscal"_L1,    false, &Driver::printAbstractOrderFiscal },
-    {"printReport"_L1,               "report"_L1,    {},    &Driver::printReport              },
-    {"printSold"_L1,                 "sold"_L1,      {},    &Driver::printSold                },
-    {"printStatementOfAccount"_L1,   "report"_L1,    {},    &Driver::printStatementOfAccount  },
+    {method::printPartialOrder,         {},    &Driver::printPartialOrder        },
+    {method::printFullOrder,            {},    &Driver::printFullOrder           },
+    {method::printFullOrderReceipt,     {},    &Driver::printFullOrderReceipt    },
+    {method::printFullOrderInvoice,     true,  &Driver::printFullOrderInvoice    },
+    {method::printFullOrderDelivery,    {},    &Driver::printFullOrderDelivery   },
+    {method::printFullOrderFiscal,      false, &Driver::printFullOrderFiscal     },
+    {method::printAbstractOrder,        {},    &Driver::printAbstractOrder       },
+    {method::printAbstractOrderReceipt, {},    &Driver::printAbstractOrderReceipt},
+    {method::printAbstractOrderInvoice, true,  &Driver::printAbstractOrderInvoice},
+    {method::printAbstractOrderFiscal,  false, &Driver::printAbstractOrderFiscal },
+    {method::printReport,               {},    &Driver::printReport              },
+    {method::printSold,                 {},    &Driver::printSold                },
+    {method::printStatementOfAccount,   {},    &Driver::printStatementOfAccount  },
 };
 
 /// The method of that name; null when there is none.
@@ -49,13 +56,13 @@ const Method *findMethod(const QString &name)
 bool PrinterDriver::startElement(const QString & /*namespaceUri*/, const QString & /*localName*/,
                                  const QString &qName, const QXmlAttributes &attributes)
 {
-    if (qName != "method"_L1) {
+    if (qName != element::method) {
         if (const Method *method = findMethod(currentMethod))
             (this->*method->print)(qName, attributes);
         return true;
     }
 
-    const QString name = attributes.value("name"_L1);
+    const QString name = attributes.value(attribute::name);
     const Method *method = findMethod(name);
     if (!method) {
         std::cout << "File Format Not Supported" << std::endl;
@@ -71,28 +78,28 @@ bool PrinterDriver::startElement(const QString & /*namespaceUri*/, const QString
 
 bool PrinterDriver::printSections(const QString &qName, const QXmlAttributes &attributes)
 {
-    if (qName == "printers"_L1) {
-        printerName = attributes.value("name"_L1);
-        printerCharSize = attributes.value("charsize"_L1);
-        printerAddress = attributes.value("ipaddress"_L1);
-        printerPort = attributes.value("port"_L1);
+    if (qName == element::printers) {
+        printerName = attributes.value(attribute::name);
+        printerCharSize = attributes.value(attribute::charsize);
+        printerAddress = attributes.value(attribute::ipaddress);
+        printerPort = attributes.value(attribute::port);
         initPrinter();
-    } else if (qName == "geometry"_L1) {
+    } else if (qName == element::geometry) {
         printGeometry(attributes);
-    } else if (qName == "headers"_L1) {
+    } else if (qName == element::headers) {
         printHeaders(attributes);
         printPrinterInfo();
-    } else if (qName == "logo"_L1) {
+    } else if (qName == element::logo) {
         printLogo();
-    } else if (qName == "company"_L1) {
+    } else if (qName == element::company) {
         printCompanyHeader(attributes);
-    } else if (qName == "receipt"_L1) {
+    } else if (qName == element::receipt) {
         printReceiptHeader(attributes);
-    } else if (qName == "invoice"_L1) {
+    } else if (qName == element::invoice) {
         printInvoiceHeader(attributes);
-    } else if (qName == "delivery"_L1) {
+    } else if (qName == element::delivery) {
         printDeliveryHeader(attributes);
-    } else if (qName == "orderinfo"_L1) {
+    } else if (qName == element::orderinfo) {
         printOrderInfo(attributes);
     } else {
         return false;

@@ -2,21 +2,27 @@
 #include "printer/printerdriver.h"
 
 #include "config/configuration.h"
+#include "vocabulary/attributes.h"
+#include "vocabulary/settings.h"
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace attribute = korvel::vocabulary::attribute;
+namespace element = korvel::vocabulary::element;
+namespace key = korvel::vocabulary::key;
 
 void PrinterDriver::printFullOrderFiscal(const QString &qName, const QXmlAttributes &attributes)
 {
     const auto value = [&](QLatin1StringView name) { return attributes.value(name); };
 
-    if (qName == "receipe"_L1) {
-        int width = settings->getStrValue(documentPrefix + "descriptionWidth"_L1).toInt();
+    if (qName == element::receipe) {
+        int width = settings->getStrValue(documentPrefix + key::descriptionWidth).toInt();
         if (width == 0)
             width = getPaperWidth();
         // A negative width leaves the name whole.
-        printRowFiscal(value("department"_L1), value("number"_L1), value("name"_L1).left(width),
-                       value("price"_L1));
-    } else if (qName == "total"_L1) {
+        printRowFiscal(value(attribute::department), value(attribute::number),
+                       value(attribute::name).left(width), value(attribute::price));
+    } else if (qName == element::total) {
         printRowFiscal(qName, attributes);
     }
 }
@@ -26,9 +32,10 @@ void PrinterDriver::printAbstractOrderFiscal(const QString &qName, const QXmlAtt
     const auto value = [&](QLatin1StringView name) { return attributes.value(name); };
 
     // Each line is registered once, whatever its own number says.
-    if (qName == "receipe_type"_L1)
-        printRowFiscal(value("department"_L1), u"1"_s, value("name"_L1), value("price"_L1));
-    else if (qName == "total"_L1)
+    if (qName == element::receipe_type)
+        printRowFiscal(value(attribute::department), u"1"_s, value(attribute::name),
+                       value(attribute::price));
+    else if (qName == element::total)
         printRowFiscal(qName, attributes);
 }
 

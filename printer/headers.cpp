@@ -3,6 +3,9 @@
 #include "printer/printerdriver.h"
 
 #include "config/configuration.h"
+#include "vocabulary/attributes.h"
+#include "vocabulary/limits.h"
+#include "vocabulary/settings.h"
 
 #include <QStringTokenizer>
 
@@ -10,10 +13,11 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
+namespace attribute = korvel::vocabulary::attribute;
+namespace key = korvel::vocabulary::key;
+namespace limit = korvel::vocabulary::limit;
 
-// Longer than any margin: one that a slip in the settings made longer is cut back to it.
-constexpr int longestMargin = 65536;
+namespace {
 
 /// A line of a label and an attribute's value that a setting switches on.
 struct InfoLine
@@ -24,12 +28,12 @@ struct InfoLine
 };
 
 constexpr InfoLine orderInfoLines[] = {
-    {&Layout::printDate,   QT_TRANSLATE_NOOP("PrinterDriver", "Date:"),   "date"_L1  },
-    {&Layout::printTime,   QT_TRANSLATE_NOOP("PrinterDriver", "Time:"),   "time"_L1  },
-    {&Layout::printTable,  QT_TRANSLATE_NOOP("PrinterDriver", "Table:"),  "table"_L1 },
-    {&Layout::printWaiter, QT_TRANSLATE_NOOP("PrinterDriver", "Waiter:"), "waiter"_L1},
-    {&Layout::printNote,   QT_TRANSLATE_NOOP("PrinterDriver", "Note:"),   "note"_L1  },
-    {&Layout::printCredit, QT_TRANSLATE_NOOP("PrinterDriver", "Credit:"), "credit"_L1},
+    {&Layout::printDate,   QT_TRANSLATE_NOOP("PrinterDriver", "Date:"),   attribute::date  },
+    {&Layout::printTime,   QT_TRANSLATE_NOOP("PrinterDriver", "Time:"),   attribute::time  },
+    {&Layout::printTable,  QT_TRANSLATE_NOOP("PrinterDriver", "Table:"),  attribute::table },
+    {&Layout::printWaiter, QT_TRANSLATE_NOOP("PrinterDriver", "Waiter:"), attribute::waiter},
+    {&Layout::printNote,   QT_TRANSLATE_NOOP("PrinterDriver", "Note:"),   attribute::note  },
+    {&Layout::printCredit, QT_TRANSLATE_NOOP("PrinterDriver", "Credit:"), attribute::credit},
 };
 
 } // namespace
@@ -38,8 +42,8 @@ void PrinterDriver::printGeometry(const QXmlAttributes & /*attributes*/)
 {
     if (!layout.printGeometry)
         return;
-    const int margin = settings->getStrValue(documentPrefix + "topMargin"_L1).toInt();
-    for (int line = 0; line < std::min(margin, longestMargin); ++line)
+    const int margin = settings->getStrValue(documentPrefix + key::topMargin).toInt();
+    for (int line = 0; line < std::min(margin, limit::longestMargin); ++line)
         println(QString());
 }
 
@@ -75,19 +79,19 @@ void PrinterDriver::printCompanyHeader(const QXmlAttributes &attributes)
 void PrinterDriver::printReceiptHeader(const QXmlAttributes &attributes)
 {
     // Unlike the next two, this label brings its own blank.
-    println(1, tr("Serial Number: ") + attributes.value("serialnumber"_L1));
+    println(1, tr("Serial Number: ") + attributes.value(attribute::serialnumber));
     printSeparatorLine();
 }
 
 void PrinterDriver::printInvoiceHeader(const QXmlAttributes &attributes)
 {
-    printLabelled(tr("Invoice Number:"), attributes.value("serialnumber"_L1));
+    printLabelled(tr("Invoice Number:"), attributes.value(attribute::serialnumber));
     printSeparatorLine();
 }
 
 void PrinterDriver::printDeliveryHeader(const QXmlAttributes &attributes)
 {
-    printLabelled(tr("Delivery Number:"), attributes.value("serialnumber"_L1));
+    printLabelled(tr("Delivery Number:"), attributes.value(attribute::serialnumber));
     printSeparatorLine();
 }
 
@@ -98,7 +102,7 @@ void PrinterDriver::printOrderInfo(const QXmlAttributes &attributes)
         if (layout.*setting)
             printLabelled(tr(label), attributes.value(attribute));
     if (layout.printCredit)
-        credit = attributes.value("credit"_L1);
+        credit = attributes.value(attribute::credit);
     printSeparatorLine();
 }
 
@@ -107,17 +111,17 @@ void PrinterDriver::printCustomerHeader(const QXmlAttributes &attributes)
     if (!layout.printCustomer)
         return;
     println(tr("CUSTOMER"));
-    println(1, attributes.value("name"_L1));
+    println(1, attributes.value(attribute::name));
     if (layout.printBillingAddress)
-        printAddress(attributes.value("billingaddress"_L1));
+        printAddress(attributes.value(attribute::billingaddress));
     if (layout.printDeliveryAddress)
-        printAddress(attributes.value("deliveryaddress"_L1));
+        printAddress(attributes.value(attribute::deliveryaddress));
     if (layout.printTelephone)
-        printLabelled(tr("Telephone:"), attributes.value("telephone"_L1));
+        printLabelled(tr("Telephone:"), attributes.value(attribute::telephone));
     if (layout.printLicenseNumber)
-        printLabelled(tr("License Number:"), attributes.value("licensenumber"_L1));
+        printLabelled(tr("License Number:"), attributes.value(attribute::licensenumber));
     if (layout.printFiscalCode)
-        printLabelled(tr("Fiscal Code:"), attributes.value("fiscalcode"_L1));
+        printLabelled(tr("Fiscal Code:"), attributes.value(attribute::fiscalcode));
     printSeparatorLine();
 }
 

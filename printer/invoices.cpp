@@ -1,7 +1,14 @@
 // Invoices with their tax block, full and summary; delivery notes.
 #include "printer/printerdriver.h"
 
+#include "vocabulary/attributes.h"
+#include "vocabulary/columns.h"
+
 using namespace Qt::Literals::StringLiterals;
+
+namespace attribute = korvel::vocabulary::attribute;
+namespace element = korvel::vocabulary::element;
+namespace style = korvel::vocabulary::style;
 
 void PrinterDriver::printFullOrderInvoice(const QString &qName, const QXmlAttributes &attributes)
 {
@@ -10,13 +17,14 @@ void PrinterDriver::printFullOrderInvoice(const QString &qName, const QXmlAttrib
 
     const auto value = [&](QLatin1StringView name) { return attributes.value(name); };
 
-    if (qName == "customer"_L1) {
+    if (qName == element::customer) {
         printCustomerHeader(attributes);
-    } else if (qName == "receipe"_L1) {
+    } else if (qName == element::receipe) {
         printColumnsHeader(titles().number, titles().description, titles().price, titles().amount);
-        println(descriptionRow(value("number"_L1), value("name"_L1), value("price"_L1),
-                               value("totalPrice"_L1), u'.', u"qdpt"_s));
-    } else if (qName == "totals"_L1) {
+        println(descriptionRow(value(attribute::number), value(attribute::name),
+                               value(attribute::price), value(attribute::totalPrice), u'.',
+                               style::qdpt));
+    } else if (qName == element::totals) {
         printTaxBlock(attributes);
     }
 }
@@ -29,20 +37,20 @@ void PrinterDriver::printAbstractOrderInvoice(const QString &qName,
 
     const auto value = [&](QLatin1StringView name) { return attributes.value(name); };
 
-    if (qName == "customer"_L1) {
+    if (qName == element::customer) {
         printCustomerHeader(attributes);
-    } else if (qName == "receipe_type"_L1) {
+    } else if (qName == element::receipe_type) {
         printColumnsHeader(titles().number, titles().description, {}, titles().price);
-        println(descriptionRow(value("number"_L1), value("name"_L1), {}, value("price"_L1), u'.',
-                               u"qxdpt"_s));
-    } else if (qName == "totals"_L1) {
+        println(descriptionRow(value(attribute::number), value(attribute::name), {},
+                               value(attribute::price), u'.', style::qxdpt));
+    } else if (qName == element::totals) {
         printTaxBlock(attributes);
     }
 }
 
 void PrinterDriver::printFullOrderDelivery(const QString &qName, const QXmlAttributes &attributes)
 {
-    if (qName == "customer"_L1)
+    if (qName == element::customer)
         printCustomerHeader(attributes);
     else
         printPartialOrder(qName, attributes);
@@ -52,14 +60,14 @@ void PrinterDriver::printFullOrderDelivery(const QString &qName, const QXmlAttri
 void PrinterDriver::printTaxBlock(const QXmlAttributes &attributes)
 {
     const auto row = [&](const QString &label, QLatin1StringView name) {
-        println(descriptionRow({}, label, {}, attributes.value(name), u'.', u"qdpt"_s));
+        println(descriptionRow({}, label, {}, attributes.value(name), u'.', style::qdpt));
     };
 
     setBold();
     println(QString());
-    row(tr("Taxable"), "taxable"_L1);
-    row(tr("TaxRate"), "taxrate"_L1);
-    row(tr("Tax"), "tax"_L1);
-    row(tr("TOTAL"), "total"_L1);
+    row(tr("Taxable"), attribute::taxable);
+    row(tr("TaxRate"), attribute::taxrate);
+    row(tr("Tax"), attribute::tax);
+    row(tr("TOTAL"), attribute::total);
     setCharSize();
 }

@@ -1,7 +1,14 @@
 // Lists: sold items, and a customer's statement of account.
 #include "printer/printerdriver.h"
 
+#include "vocabulary/attributes.h"
+#include "vocabulary/columns.h"
+
 using namespace Qt::Literals::StringLiterals;
+
+namespace attribute = korvel::vocabulary::attribute;
+namespace element = korvel::vocabulary::element;
+namespace style = korvel::vocabulary::style;
 
 namespace {
 
@@ -34,10 +41,10 @@ void PrinterDriver::printSold(const QString &qName, const QXmlAttributes &attrib
 
     const auto value = [&](QLatin1StringView name) { return attributes.value(name); };
 
-    if (qName == "receipe"_L1) {
+    if (qName == element::receipe) {
         setBold();
-        println(descriptionRow(value("quantity"_L1), value("description"_L1), {},
-                               value("amount"_L1), u'.', u"qxdpt"_s));
+        println(descriptionRow(value(attribute::quantity), value(attribute::description), {},
+                               value(attribute::amount), u'.', style::qxdpt));
         setCharSize();
     }
 }
@@ -49,13 +56,14 @@ void PrinterDriver::printStatementOfAccount(const QString &qName, const QXmlAttr
 
     const auto value = [&](QLatin1StringView name) { return attributes.value(name); };
 
-    if (qName == "statement_list"_L1) {
+    if (qName == element::statement_list) {
         setBold();
         println(descriptionRow(tr("Date"), tr("Description"), tr("Amount"), {}, u' ',
-                               u"date-amount-type"_s));
+                               style::dateAmountType));
         reset(); // where other documents set the character size
-    } else if (qName == "statement"_L1) {
-        println(descriptionRow(value("date"_L1) + ": "_L1, translatedType(value("type"_L1)),
-                               value("amount"_L1), {}, u'.', u"date-amount-type"_s));
+    } else if (qName == element::statement) {
+        println(descriptionRow(value(attribute::date) + ": "_L1,
+                               translatedType(value(attribute::type)), value(attribute::amount), {},
+                               u'.', style::dateAmountType));
     }
 }

@@ -1,7 +1,14 @@
 // Orders: the kitchen order without prices, the full order, the summary order that prints nothing.
 #include "printer/printerdriver.h"
 
+#include "vocabulary/attributes.h"
+#include "vocabulary/columns.h"
+
 using namespace Qt::Literals::StringLiterals;
+
+namespace attribute = korvel::vocabulary::attribute;
+namespace element = korvel::vocabulary::element;
+namespace style = korvel::vocabulary::style;
 
 void PrinterDriver::printPartialOrder(const QString &qName, const QXmlAttributes &attributes)
 {
@@ -12,20 +19,22 @@ void PrinterDriver::printPartialOrder(const QString &qName, const QXmlAttributes
 
     // "receipe" is the spelling that jobs use. The title line is for back ends whose
     // printSections() leaves the order information to this document.
-    if (qName == "customer"_L1) {
+    if (qName == element::customer) {
         printCustomerHeader(attributes);
-    } else if (qName == "orderinfo"_L1) {
+    } else if (qName == element::orderinfo) {
         setBold();
-        println(descriptionRow(tr("Num"), tr("Description"), {}, {}, u' ', u"qd"_s));
-    } else if (qName == "receipe"_L1) {
+        println(descriptionRow(tr("Num"), tr("Description"), {}, {}, u' ', style::qd));
+    } else if (qName == element::receipe) {
         setCharSize();
-        println(descriptionRow(value("number"_L1), value("name"_L1), {}, {}, u'.', u"qd"_s));
-    } else if (qName == "otherreceipe"_L1) {
+        println(descriptionRow(value(attribute::number), value(attribute::name), {}, {}, u'.',
+                               style::qd));
+    } else if (qName == element::otherreceipe) {
         setCharSize(1);
-        println(descriptionRow(value("number"_L1), value("name"_L1), {}, {}, u'.', u"qd"_s));
-    } else if (qName == "variant"_L1) {
-        println(descriptionRow(value("number"_L1), variantDescription(attributes), {}, {}, u'.',
-                               u"qd"_s));
+        println(descriptionRow(value(attribute::number), value(attribute::name), {}, {}, u'.',
+                               style::qd));
+    } else if (qName == element::variant) {
+        println(descriptionRow(value(attribute::number), variantDescription(attributes), {}, {},
+                               u'.', style::qd));
     }
 }
 
@@ -36,19 +45,21 @@ void PrinterDriver::printFullOrder(const QString &qName, const QXmlAttributes &a
 
     const auto value = [&](QLatin1StringView name) { return attributes.value(name); };
 
-    if (qName == "customer"_L1) {
+    if (qName == element::customer) {
         printCustomerHeader(attributes);
-    } else if (qName == "receipe"_L1 && !value("name"_L1).startsWith(u'=')) {
+    } else if (qName == element::receipe && !value(attribute::name).startsWith(u'=')) {
         printColumnsHeader(titles().number, titles().description, titles().price, titles().amount);
-        println(descriptionRow(value("number"_L1), value("name"_L1), value("price"_L1),
-                               value("totalPrice"_L1), u'.', u"qdpt"_s));
-    } else if (qName == "variant"_L1) {
-        println(descriptionRow(value("number"_L1), variantDescription(attributes),
-                               value("price"_L1), value("totalPrice"_L1), u'.', u"qdpt"_s));
-    } else if (qName == "total"_L1) {
+        println(descriptionRow(value(attribute::number), value(attribute::name),
+                               value(attribute::price), value(attribute::totalPrice), u'.',
+                               style::qdpt));
+    } else if (qName == element::variant) {
+        println(descriptionRow(value(attribute::number), variantDescription(attributes),
+                               value(attribute::price), value(attribute::totalPrice), u'.',
+                               style::qdpt));
+    } else if (qName == element::total) {
         println(QString());
         setBold();
-        println(descriptionRow({}, tr("TOTAL"), {}, value("price"_L1), u'.', u"qdpt"_s));
+        println(descriptionRow({}, tr("TOTAL"), {}, value(attribute::price), u'.', style::qdpt));
     }
 }
 
@@ -61,7 +72,7 @@ void PrinterDriver::printAbstractOrder(const QString & /*qName*/,
 /// number), '+' for one added (1), else the quantity as the job gives it.
 QString PrinterDriver::variantDescription(const QXmlAttributes &attributes) const
 {
-    const QString quantity = attributes.value("quantity"_L1);
+    const QString quantity = attributes.value(attribute::quantity);
     bool isNumber = false;
     const double parsed = quantity.toDouble(&isNumber);
     const double number = isNumber ? parsed : 0;
@@ -70,5 +81,5 @@ QString PrinterDriver::variantDescription(const QXmlAttributes &attributes) cons
         mark = u"-"_s;
     else if (number == 1.0)
         mark = u"+"_s;
-    return mark + u' ' + attributes.value("name"_L1);
+    return mark + u' ' + attributes.value(attribute::name);
 }

@@ -2,8 +2,12 @@
 #include "printer/printerdriver.h"
 
 #include "printer/columns.h"
+#include "vocabulary/attributes.h"
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace attribute = korvel::vocabulary::attribute;
+namespace element = korvel::vocabulary::element;
 using columns::left;
 using columns::right;
 
@@ -15,7 +19,7 @@ void PrinterDriver::printReport(const QString &qName, const QXmlAttributes &attr
     const auto value = [&](QLatin1StringView name) { return attributes.value(name); };
 
     // "prefiscalssummary" and "totals" are the spellings that jobs use.
-    if (qName == "date"_L1) {
+    if (qName == element::date) {
         setBold();
         setCenterJustify();
         println(QString());
@@ -23,44 +27,45 @@ void PrinterDriver::printReport(const QString &qName, const QXmlAttributes &attr
         println(QString());
         setCharSize();
         print(0, tr("BeginDate: "));
-        println(value("begindate"_L1));
+        println(value(attribute::begindate));
         print(0, tr("EndDate: "));
-        println(value("enddate"_L1));
-    } else if (qName == "prefiscalssummary"_L1) {
+        println(value(attribute::enddate));
+    } else if (qName == element::prefiscalssummary) {
         printTitle(tr("PREFISCAL SUMMARY"));
-        printDotted(tr("Number"), value("number"_L1));
-        printDotted(tr("TOTAL"), value("total"_L1));
-    } else if (qName == "receiptssummary"_L1) {
+        printDotted(tr("Number"), value(attribute::number));
+        printDotted(tr("TOTAL"), value(attribute::total));
+    } else if (qName == element::receiptssummary) {
         printTitle(tr("RECEIPTS SUMMARY"));
-        printDotted(tr("Number"), value("number"_L1));
+        printDotted(tr("Number"), value(attribute::number));
         printSerials(attributes);
-        println(tr("Amount not paid: ") + value("notPaid"_L1));
-        println(tr("Cash: ") + value("cash"_L1));
-        println(tr("Credit Card: ") + value("creditCard"_L1));
-        println(tr("Bancomat: ") + value("bancomat"_L1));
-        println(tr("Other: ") + value("other"_L1));
-        printDotted(tr("TOTAL"), value("total"_L1));
+        println(tr("Amount not paid: ") + value(attribute::notPaid));
+        println(tr("Cash: ") + value(attribute::cash));
+        println(tr("Credit Card: ") + value(attribute::creditCard));
+        println(tr("Bancomat: ") + value(attribute::bancomat));
+        println(tr("Other: ") + value(attribute::other));
+        printDotted(tr("TOTAL"), value(attribute::total));
         println(QString());
         printSeparatorLine();
         println(right(tr("TAXRATE"), 6) + u' ' + right(tr("TAXABLE"), 10) + u' '
                 + right(tr("TAX"), 10) + u' ' + right(tr("AMOUNT"), 10));
-    } else if (qName == "taxrate_item"_L1) {
+    } else if (qName == element::taxrate_item) {
         // One character wider before its second column than the titles, and ends in a blank.
-        println(right(value("taxrate"_L1), 6) + "% "_L1 + right(value("taxable"_L1), 10) + u' '
-                + right(value("tax"_L1), 10) + u' ' + right(value("amount"_L1), 10) + u' ');
-    } else if (qName == "invoicessummary"_L1) {
+        println(right(value(attribute::taxrate), 6) + "% "_L1 + right(value(attribute::taxable), 10)
+                + u' ' + right(value(attribute::tax), 10) + u' '
+                + right(value(attribute::amount), 10) + u' ');
+    } else if (qName == element::invoicessummary) {
         printSeparatorLine();
         println(QString());
         printTitle(tr("INVOICES SUMMARY"));
-        printDotted(tr("Number"), value("number"_L1));
+        printDotted(tr("Number"), value(attribute::number));
         printSerials(attributes);
-        printDotted(tr("Taxable"), value("taxable"_L1));
-        printDotted(tr("Tax"), value("tax"_L1));
-        printDotted(tr("TOTAL"), value("total"_L1));
-    } else if (qName == "cancelledsummary"_L1) {
+        printDotted(tr("Taxable"), value(attribute::taxable));
+        printDotted(tr("Tax"), value(attribute::tax));
+        printDotted(tr("TOTAL"), value(attribute::total));
+    } else if (qName == element::cancelledsummary) {
         printTitle(tr("CANCELLED DOC SUMMARY"));
-        printDotted(tr("Number"), value("number"_L1));
-        printDotted(tr("TOTAL"), value("totals"_L1));
+        printDotted(tr("Number"), value(attribute::number));
+        printDotted(tr("TOTAL"), value(attribute::totals));
         setBold();
         println(QString());
         printCancelled(tr("SERIAL"), tr("TOTAL"), tr("TAXRATE"));
@@ -100,9 +105,9 @@ void PrinterDriver::printDotted(const QString &label, const QString &value)
 void PrinterDriver::printSerials(const QXmlAttributes &attributes)
 {
     printDottedLabel(tr("Serials"));
-    print(0, attributes.value("firstserial"_L1));
+    print(0, attributes.value(attribute::firstserial));
     print(0, u" - "_s);
-    println(attributes.value("lastserial"_L1));
+    println(attributes.value(attribute::lastserial));
 }
 
 /// A row of the cancelled documents.

@@ -2,10 +2,15 @@
 #include "printer/printerdriver.h"
 
 #include "printer/columns.h"
+#include "vocabulary/columns.h"
 
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace vocabulary = korvel::vocabulary;
+namespace style = vocabulary::style;
+using vocabulary::RowStyle;
 
 namespace {
 
@@ -13,50 +18,47 @@ using columns::cut;
 using columns::left;
 using columns::right;
 
-// A row and the widths it is laid out in: q, p and t of the columns, W of the line.
+// A row and the widths that it is laid out in: q, d, p and t of its columns.
 struct Row
 {
-    QString quantity, description, price, total;
+    const QString &quantity, &description, &price, &total;
     QChar fill;
-    qint64 q, p, t, W;
+    qint64 q, d, p, t;
 };
 
-struct RowStyle
+struct RowLayout
 {
-    QLatin1StringView name;
+    RowStyle style;
     QString (*lay)(const Row &);
 };
 
-// "qd" is two characters short of the line, "date-amount-type" three.
-constexpr RowStyle rowStyles[] = {
-    {"qdpt"_L1,
+constexpr RowLayout rowLayouts[] = {
+    {style::qdpt,
      [](const Row &r) -> QString {
-         return right(r.quantity, r.q) + u' '
-                + cut(r.description, r.W - r.q - r.p - r.t - 1, r.fill)
+         return right(r.quantity, r.q) + u' ' + cut(r.description, r.d, r.fill)
                 + right(r.price, r.p, r.fill) + right(r.total, r.t);
      }},
-    {"qxdpt"_L1,
+    {style::qxdpt,
      [](const Row &r) -> QString {
-         return right(r.quantity, r.q) + " x "_L1
-                + cut(r.description, r.W - r.q - r.p - r.t - 3, r.fill)
+         return right(r.quantity, r.q) + " x "_L1 + cut(r.description, r.d, r.fill)
                 + right(r.price, r.p, r.fill) + right(r.total, r.t);
      }},
-    {"qxdtDoubleLine"_L1,
+    {style::qxdtDoubleLine,
      [](const Row &r) -> QString {
-         return r.quantity + " x "_L1 + r.price + u'\n' + cut(r.description, r.W - r.t, r.fill)
+         return r.quantity + " x "_L1 + r.price + u'\n' + cut(r.description, r.d, r.fill)
                 + right(r.total, r.t, r.fill);
      }},
-    {"qxd"_L1,
+    {style::qxd,
      [](const Row &r) -> QString {
-         return right(r.quantity, r.q) + " x "_L1 + cut(r.description, r.W - r.q - 3, r.fill);
+         return right(r.quantity, r.q) + " x "_L1 + cut(r.description, r.d, r.fill);
      }},
-    {"qd"_L1,
+    {style::qd,
      [](const Row &r) -> QString {
-         return right(r.quantity, r.q) + u' ' + cut(r.description, r.W - r.q - 3);
+         return right(r.quantity, r.q) + u' ' + cut(r.description, r.d);
      }},
-    {"date-amount-type"_L1,
+    {style::dateAmountType,
      [](const Row &r) -> QString {
-         return left(r.quantity, 15) + cut(r.description, r.W - 15 - r.p - 3, r.fill)
+         return left(r.quantity, vocabulary::dateWidth) + cut(r.description, r.d, r.fill)
                 + right(r.price, r.p, r.fill);
      }},
 };
@@ -67,12 +69,16 @@ QString PrinterDriver::descriptionRow(const QString &quantity, const QString &de
                                       const QString &price, const QString &total, const QChar &fill,
                                       const QString &style) const
 {
-    const auto *const found = std::find_if(std::begin(rowStyles), std::end(rowStyles),
-                                           [&](const RowStyle &row) { return row.name == style; });
-    if (found == std::end(rowStyles))
+    const auto *const found =
+        std::find_if(std::begin(rowLayouts), std::end(rowLayouts),
+                     [&](const RowLayout &row) { return row.style.name == style; });
+    if (found == std::end(rowLayouts))
         return {};
-    return found->lay({quantity, description, price, total, fill, layout.quantityFieldWidth,
-                       layout.priceFieldWidth, layout.totalPriceFieldWidth, layout.paperWidth});
+    const qint64 q = layout.quantityFieldWidth;
+    const qint64 p = layout.priceFieldWidth;
+    const qint64 t = layout.totalPriceFieldWidth;
+    const qint64 rest = found->style.descriptionWidth(layout.paperWidth, q, p, t);
+    return found->lay({quantity, description, price, total, fill, q, rest, p, t});
 }
 
 /// Asked for with every item, printed with the first.
@@ -89,7 +95,7 @@ void PrinterDriver::printColumnsHeader(const QString &quantity, const QString &d
     if (!oneTime())
         return;
     setBold();
-    println(descriptionRow(quantity, description, price, total, u' ', u"qdpt"_s));
+    println(descriptionRow(quantity, description, price, total, u' ', style::qdpt));
     setCharSize();
 }
 

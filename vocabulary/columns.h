@@ -30,7 +30,7 @@ inline constexpr ColumnWidth columnWidths[] = {
 
 struct RowStyle
 {
-    QLatin1StringView name;
+    QStringView name;
     Columns columns;
     int beside; // characters of the line that neither these nor the description have
 
@@ -42,18 +42,25 @@ struct RowStyle
         return paper - beside - ((columns & Quantity) != 0 ? quantity : 0)
                - ((columns & Price) != 0 ? price : 0) - ((columns & Total) != 0 ? total : 0);
     }
+
+    /// The name, to ask the driver for a row of the style.
+    operator QString() const { return QString::fromRawData(name.data(), name.size()); }
 };
+
+/// Characters of a movement's date in a statement.
+inline constexpr int dateWidth = 15;
 
 namespace style {
 
 // "qd" is two characters short of the line, "date-amount-type" three.
 // clang-format off
-inline constexpr RowStyle qdpt          {"qdpt"_L1,             Quantity | Price | Total, 1};
-inline constexpr RowStyle qxdpt         {"qxdpt"_L1,            Quantity | Price | Total, 3};
-inline constexpr RowStyle qxdtDoubleLine{"qxdtDoubleLine"_L1,   Total,                    0};
-inline constexpr RowStyle qxd           {"qxd"_L1,              Quantity,                 3};
-inline constexpr RowStyle qd            {"qd"_L1,               Quantity,                 3};
-inline constexpr RowStyle dateAmountType{"date-amount-type"_L1, Price,                    18};
+inline constexpr RowStyle qdpt          {u"qdpt",             Quantity | Price | Total, 1};
+inline constexpr RowStyle qxdpt         {u"qxdpt",            Quantity | Price | Total, 3};
+inline constexpr RowStyle qxdtDoubleLine{u"qxdtDoubleLine",   Total,                    0};
+inline constexpr RowStyle qxd           {u"qxd",              Quantity,                 3};
+inline constexpr RowStyle qd            {u"qd",               Quantity,                 1 + 2};
+inline constexpr RowStyle dateAmountType{u"date-amount-type", Price,
+                                         dateWidth + 3};
 // clang-format on
 
 } // namespace style

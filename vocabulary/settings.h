@@ -3,16 +3,18 @@
 
 #include "vocabulary/documents.h"
 
-#include <QtGlobal>
+#include <QStringBuilder>
 
 namespace korvel::vocabulary {
 
 /// How the text of a setting is read.
 enum class Kind {
     Number, // a whole number; anything else counts as 0
-    Switch, // on when it is exactly "true"
+    Switch, // on when it is exactly `on`
     Text,
 };
+
+inline constexpr auto on = "true"_L1;
 
 struct Setting
 {
@@ -29,6 +31,13 @@ struct LanguageSetting
     QLatin1StringView key;
     const char *meaning; // as of a Setting
 };
+
+/// What a setting is looked up by, such as "korvel.language.file". Without a key it is what all of
+/// the group have in common, the point included.
+inline QString pathOf(QLatin1StringView group, QLatin1StringView key = {})
+{
+    return group::korvel % u'.' % group % u'.' % key;
+}
 
 namespace key {
 

@@ -2,6 +2,7 @@
 #include "companions/check/settingsfile.h"
 
 #include "config/tree.h"
+#include "vocabulary/settings.h"
 
 #include <QHash>
 
@@ -87,12 +88,12 @@ QList<SettingsFile::Entry> SettingsFile::entries() const
 
 QString SettingsFile::value(QLatin1StringView group, QLatin1StringView key) const
 {
-    return lookup(u"korvel."_s + group + u'.' + key);
+    return lookup(korvel::vocabulary::pathOf(group, key));
 }
 
 bool SettingsFile::isOn(QLatin1StringView group, QLatin1StringView key) const
 {
-    return value(group, key) == "true"_L1;
+    return value(group, key) == korvel::vocabulary::on;
 }
 
 int SettingsFile::number(QLatin1StringView group, QLatin1StringView key) const

@@ -2,10 +2,13 @@
 #include "printer/company/companyprinterdriver.h"
 
 #include "printer/company/commands.h"
+#include "vocabulary/methods.h"
 
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace method = korvel::vocabulary::method;
 
 namespace {
 
@@ -19,13 +22,13 @@ struct Section
 
 // The last row is for all other methods.
 constexpr Section sections[] = {
-    {"printAbstractOrderFiscal"_L1,  commands::openFiscal,   commands::closeFiscal  },
-    {"printFullOrderFiscal"_L1,      commands::openFiscal,   commands::closeFiscal  },
-    {"printAbstractOrderReceipt"_L1, commands::openReceipt,  commands::closeDocument},
-    {"printFullOrderReceipt"_L1,     commands::openReceipt,  commands::closeDocument},
-    {"printAbstractOrderInvoice"_L1, commands::openReceipt,  commands::closeDocument},
-    {"printFullOrderInvoice"_L1,     commands::openReceipt,  commands::closeDocument},
-    {""_L1,                          commands::openDocument, commands::closeDocument},
+    {method::printAbstractOrderFiscal,  commands::openFiscal,   commands::closeFiscal  },
+    {method::printFullOrderFiscal,      commands::openFiscal,   commands::closeFiscal  },
+    {method::printAbstractOrderReceipt, commands::openReceipt,  commands::closeDocument},
+    {method::printFullOrderReceipt,     commands::openReceipt,  commands::closeDocument},
+    {method::printAbstractOrderInvoice, commands::openReceipt,  commands::closeDocument},
+    {method::printFullOrderInvoice,     commands::openReceipt,  commands::closeDocument},
+    {{},                                commands::openDocument, commands::closeDocument},
 };
 
 const Section &sectionOf(const QString &method)
@@ -88,7 +91,8 @@ void CompanyPrinterDriver::println(unsigned indent, const QString &text)
     print(indent, text);
     print(0, commands::lineCloser);
 
-    constexpr unsigned framing = 7; // characters of opener and closer
+    constexpr auto framing =
+        static_cast<unsigned>(commands::lineOpener.size() + commands::lineCloser.size());
     const auto width = static_cast<unsigned>(getPaperWidth());
     const auto length = static_cast<unsigned>(pendingLine.size());
     if (justification == "center"_L1 && width + framing >= length)

@@ -1,5 +1,4 @@
-// The reference pages: they name what the code reads and nothing else, they say what the vocabulary
-// says, and their examples are real.
+// The reference pages: they say what the vocabulary says, and their examples are real.
 #include "companions/check/vocabulary.h"
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
@@ -21,15 +20,6 @@ using Names = QSet<QString>;
 
 QString textOf(const QString &path) { return QString::fromUtf8(bytesOf(top + path)); }
 
-/// The text of all C++ files of a folder, one after the other.
-QString sourcesOf(const QString &folder)
-{
-    QString text;
-    for (const QString &file : QDir(top + folder).entryList({"*.cpp"}, QDir::Files, QDir::Name))
-        text += textOf(folder + '/' + file);
-    return text;
-}
-
 /// What the first group of a pattern matches, everywhere in a text.
 Names matches(const QString &text, const char *pattern)
 {
@@ -39,122 +29,11 @@ Names matches(const QString &text, const char *pattern)
     return names;
 }
 
-/// Pairs of what the two groups of a pattern match.
-QMap<QString, QString> pairs(const QString &text, const char *pattern)
-{
-    QMap<QString, QString> result;
-    for (const auto &match : QRegularExpression(pattern).globalMatch(text))
-        result.insert(match.captured(1), match.captured(2));
-    return result;
-}
-
-Names keysOf(const QMap<QString, QString> &map) { return {map.keyBegin(), map.keyEnd()}; }
-
-Names valuesOf(const QMap<QString, QString> &map) { return {map.begin(), map.end()}; }
-
 QStringList sorted(const Names &names)
 {
     QStringList list = names.values();
     list.sort();
     return list;
-}
-
-// What the code reads.
-
-Names elementsIn(const QString &code) { return matches(code, R"re(qName [!=]= "(\w+)"_L1)re"); }
-
-/// Attributes asked for by name, those of the order information's table and of the tax block's.
-Names attributesIn(const QString &code)
-{
-    return matches(code, R"re(\bvalue\("(\w+)"_L1\))re")
-           + matches(code, R"re(QT_TRANSLATE_NOOP\("\w+", "[^"]*"\),\s*"(\w+)"_L1)re")
-           + matches(code, R"re(\brow\(tr\("\w+"\), "(\w+)"_L1\))re");
-}
-
-/// The document type of each method.
-QMap<QString, QString> methodTypes()
-{
-    return pairs(textOf("printer/dispatch.cpp"), R"re(\{"(print\w+)"_L1,\s*"(\w+)"_L1,)re");
-}
-
-/// The prefix of each document type.
-QMap<QString, QString> typePrefixes()
-{
-    return pairs(textOf("printer/layout.cpp"), R"re(\{"(\w+)"_L1,\s*"(korvel\.\w+\.)"_L1)re");
-}
-
-Names settingsInTheCode()
-{
-    return matches(textOf("printer/layout.cpp"), R"re(\{"(\w+)"_L1,\s*&Layout::\w+)re")
-           + matches(textOf("printer/layout.cpp"), R"re(\btext\("(\w+)"_L1\))re")
-           + matches(sourcesOf("printer"), R"re(documentPrefix \+ "(\w+)"_L1)re")
-           + matches(sourcesOf("app"), R"re(u"(korvel\.[\w.]+)"_s)re");
-}
-
-/// The bodies of the driver's operations by name; those of one name together.
-QMap<QString, QString> operations()
-{
-    static const QRegularExpression body(
-        R"re(^[\w ]+\bPrinterDriver::(\w+)\((?:[^{]*\{[^\n]*\}$|.*?^\}$))re",
-        QRegularExpression::MultilineOption | QRegularExpression::DotMatchesEverythingOption);
-    QMap<QString, QString> bodies;
-    for (const auto &match : body.globalMatch(sourcesOf("printer")))
-        bodies[match.captured(1)] += match.captured(0) + '\n';
-    return bodies;
-}
-
-/// Names of the operations that a piece of code calls, and of those that these call, but for the
-/// shared elements and the customer block, which have tables of their own.
-QStringList calledBy(const QString &code)
-{
-    const QMap<QString, QString> bodies = operations();
-    QStringList names;
-    QString rest = code;
-    while (!rest.isEmpty()) {
-        QString next;
-        for (const auto &[name, body] : bodies.toStdMap()) {
-            if (name != "printSections" && name != "printCustomerHeader" && !names.contains(name)
-                && rest.contains(QRegularExpression("(?<!:)\\b" + name + "\\("))) {
-                names.append(name);
-                next += body;
-            }
-        }
-        rest = next;
-    }
-    return names;
-}
-
-/// A piece of code and all that it calls.
-QString wholeCodeOf(QString code)
-{
-    for (const QString &name : calledBy(code))
-        code += operations().value(name);
-    return code;
-}
-
-/// The elements of a document and the attributes that it reads of each, but for those of shared
-/// elements and of the customer: "total: price".
-QStringList elementsOfDocument(const QString &method)
-{
-    static const QRegularExpression branch(R"re(qName == "(\w+)"_L1(.*?)(?=qName ==|^\}$))re",
-                                           QRegularExpression::MultilineOption
-                                               | QRegularExpression::DotMatchesEverythingOption);
-    const QMap<QString, QString> bodies = operations();
-    const Names shared = elementsIn(bodies.value("printSections"));
-    QStringList elements;
-    for (const QString &name : QStringList(method) + calledBy(bodies.value(method))) {
-        for (const auto &match : branch.globalMatch(bodies.value(name))) {
-            const QString element = match.captured(1);
-            if (shared.contains(element) || elements.contains(element + ':'))
-                continue;
-            Names attributes;
-            if (element != "customer")
-                attributes = attributesIn(wholeCodeOf(match.captured(2)));
-            elements.append((element + ": " + sorted(attributes).join(' ')).trimmed());
-        }
-    }
-    elements.sort();
-    return elements;
 }
 
 // What the pages say.
@@ -225,20 +104,6 @@ Page read(const QString &path)
 
 /// What a text says in backticks.
 Names quotedIn(const QString &text) { return matches(text, "`([^`]+)`"); }
-
-/// What a column of these tables says in backticks: of those whose first column is called so.
-Names quotedIn(const QList<Table> &tables, const QString &firstColumn, const QString &column)
-{
-    Names names;
-    for (const Table &table : tables) {
-        const qsizetype i = table.columns.indexOf(column);
-        if (table.columns.first() != firstColumn || i < 0)
-            continue;
-        for (const QStringList &row : table.rows)
-            names += quotedIn(row.value(i));
-    }
-    return names;
-}
 
 QString unquoted(QString text) { return text.remove('`'); }
 
@@ -442,135 +307,20 @@ QStringList expectedOf(const Block &block)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Names)
-
 class TestDocumentation : public QObject
 {
     Q_OBJECT
 
 private slots:
-    /// A pattern that no longer fits the code would find nothing and nothing would be missing.
-    void extractionFindsTheNames_data()
-    {
-        QTest::addColumn<Names>("names");
-        QTest::addColumn<int>("count");
-
-        QTest::newRow("elements") << elementsIn(sourcesOf("printer")) << 26;
-        QTest::newRow("attributes") << attributesIn(sourcesOf("printer")) << 38;
-        QTest::newRow("methods") << keysOf(methodTypes()) << 13;
-        QTest::newRow("document types") << keysOf(typePrefixes()) << 8;
-        QTest::newRow("settings") << settingsInTheCode() << 27;
-        QTest::newRow("attributes of the tax block")
-            << attributesIn(operations().value("printTaxBlock")) << 4;
-        QTest::newRow("elements of the report")
-            << elementsIn(operations().value("printReport")) << 6;
-    }
-
-    void extractionFindsTheNames()
-    {
-        QFETCH(Names, names);
-        QFETCH(int, count);
-        QVERIFY2(names.size() == count, qPrintable(sorted(names).join(' ')));
-    }
-
-    /// A name that the code reads in a way that the patterns do not know.
-    void everyNameInTheCodeIsOneOfThem()
-    {
-        const QString code = sourcesOf("printer");
-        Names known = elementsIn(code) + attributesIn(code) + settingsInTheCode();
-        known += keysOf(methodTypes()) + keysOf(typePrefixes());
-        known += {"true", "qdpt", "qxdpt", "qxdtDoubleLine", "qxd", "qd"};
-        QCOMPARE(sorted(matches(code, R"re("([A-Za-z]\w*)"_L1)re") - known), QStringList());
-    }
-
-    void pagesAndCodeNameTheSame_data()
-    {
-        QTest::addColumn<Names>("onThePage");
-        QTest::addColumn<Names>("inTheCode");
-        const QString code = sourcesOf("printer");
-        const QList<Table> jobTables = read(jobFormat).tables;
-        const QList<Table> settingTables = read(settingsPage).tables;
-
-        QTest::newRow("elements") << quotedIn(jobTables, "element", "element") + Names{"method"}
-                                  << elementsIn(code);
-        QTest::newRow("attributes") << quotedIn(jobTables, "element", "attributes")
-                                           + quotedIn(jobTables, "attribute", "attribute")
-                                    << attributesIn(code);
-        QTest::newRow("methods") << quotedIn(jobTables, "method", "method")
-                                 << keysOf(methodTypes());
-        QTest::newRow("settings") << quotedIn(settingTables, "key", "key") << settingsInTheCode();
-        QTest::newRow("prefixes") << quotedIn(settingTables, "group", "prefix of its keys")
-                                  << valuesOf(typePrefixes());
-        QTest::newRow("shared elements")
-            << sharedElements(jobTables) << elementsIn(operations().value("printSections"));
-        QTest::newRow("customer") << quotedIn(tablesUnder("### Customer"), "attribute", "attribute")
-                                  << attributesIn(operations().value("printCustomerHeader"));
-    }
-
-    void pagesAndCodeNameTheSame()
-    {
-        QFETCH(Names, onThePage);
-        QFETCH(Names, inTheCode);
-        QVERIFY2((inTheCode - onThePage).isEmpty(),
-                 qPrintable("not on the page: " + sorted(inTheCode - onThePage).join(' ')));
-        QVERIFY2((onThePage - inTheCode).isEmpty(),
-                 qPrintable("not in the code: " + sorted(onThePage - inTheCode).join(' ')));
-    }
-
-    void switchesAreSettings()
-    {
-        const QList<Table> tables = read(jobFormat).tables;
-        const Names switches = quotedIn(tables, "element", "switched on by")
-                               + quotedIn(tables, "attribute", "switched on by");
-        QCOMPARE(switches.size(), 15);
-        QCOMPARE(sorted(switches - settingsInTheCode()), QStringList());
-    }
-
-    void documentsReadWhatTheirTablesSay_data() { addMethods(); }
-
-    void documentsReadWhatTheirTablesSay()
-    {
-        const QString method = QTest::currentDataTag();
-        QStringList onThePage;
-        for (const Table &table : tablesAbout(method))
-            for (const QStringList &row : table.rows)
-                onThePage.append(
-                    unquoted(row[0] + ": " + sorted(quotedIn(row[1])).join(' ')).trimmed());
-        onThePage.sort();
-        QCOMPARE(onThePage, elementsOfDocument(method));
-    }
-
-    void switchesBelongToTheirLines()
-    {
-        const QString code = textOf("printer/headers.cpp");
-        const auto lines = pairs(
-            code,
-            "&Layout::(\\w+),\\s*QT_TRANSLATE_NOOP\\(\"\\w+\", \"[^\"]*\"\\),\\s*\"(\\w+)\"_L1");
-        const auto more = pairs(code, "if \\(layout\\.(\\w+)\\)\\s+\\w+\\((?:tr\\(\"[^\"]*\"\\), "
-                                      ")?attributes\\.value\\(\"(\\w+)\"_L1");
-        QStringList inTheCode = {"printCustomer name"};
-        for (const auto &map : {lines, more})
-            for (const auto &[setting, attribute] : map.toStdMap())
-                inTheCode.append(setting + ' ' + attribute);
-        inTheCode.sort();
-
-        QStringList onThePage;
-        for (const Table &table : read(jobFormat).tables)
-            for (const QStringList &row : table.rows)
-                if (table.columns.first() == "attribute")
-                    onThePage.append(unquoted(row[1] + ' ' + row[0]));
-        onThePage.sort();
-        QCOMPARE(onThePage, inTheCode);
-    }
-
     /// Its group of settings on both pages, and what opens and closes its section.
     void methodsAndGroups_data() { addMethods(); }
 
     void methodsAndGroups()
     {
         const QString method = QTest::currentDataTag();
-        const QString prefix = typePrefixes().value(methodTypes().value(method));
-        QVERIFY(!prefix.isEmpty());
+        const vocabulary::Method *known = vocabulary::findMethod(method);
+        QVERIFY(known);
+        const QString prefix = vocabulary::pathOf(known->group);
         bool inSettings = false;
         for (const Table &table : read(settingsPage).tables)
             for (const QStringList &row : table.rows)
@@ -899,15 +649,6 @@ private:
                                       QRegularExpression::MultilineOption));
     }
 
-    static QList<Table> tablesUnder(const QString &heading)
-    {
-        QList<Table> tables;
-        for (const Table &table : read(jobFormat).tables)
-            if (table.heading == heading)
-                tables.append(table);
-        return tables;
-    }
-
     /// The rows of the tables whose first column is called so, of those under a heading if given.
     static QList<QStringList> rowsOf(const QString &path, const QString &firstColumn,
                                      const QString &heading = {})
@@ -920,22 +661,11 @@ private:
         return rows;
     }
 
-    static Names sharedElements(const QList<Table> &tables)
-    {
-        Names names;
-        for (const Table &table : tables)
-            if (table.columns.contains("switched on by"))
-                names += quotedIn({table}, "element", "element");
-        return names;
-    }
-
     static void addMethods()
     {
         QTest::addColumn<int>("unused");
-        const QStringList methods = methodTypes().keys();
-        QCOMPARE(methods.size(), 13);
-        for (const QString &method : methods)
-            QTest::newRow(qPrintable(method)) << 0;
+        for (const vocabulary::Method &method : vocabulary::methods())
+            QTest::newRow(method.name.data()) << 0;
     }
 
     static void addPages()

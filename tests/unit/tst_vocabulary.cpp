@@ -45,22 +45,6 @@ QStringList column(const Rows &rows, QLatin1StringView Row::*member)
 
 // Names to try.
 
-/// The texts in the engine's sources: each name that it matches is one of them.
-QStringList textsOfTheEngine()
-{
-    static const QRegularExpression text("\"([^\"\\\\\\n]*)\"");
-    QStringList texts;
-    for (const char *folder : {"printer", "printer/company"}) {
-        const QDir sources(QString(KORVEL_SOURCE_DIR "/") + folder);
-        for (const QString &file : sources.entryList({"*.cpp", "*.h"}, QDir::Files)) {
-            const QString code = QString::fromUtf8(bytesOf(sources.filePath(file)));
-            for (const auto &match : text.globalMatch(code))
-                texts.append(match.captured(1));
-        }
-    }
-    return sorted(texts);
-}
-
 QStringList namesOfTheVocabulary()
 {
     return sorted(column(vocabulary::methods(), &Method::name)
@@ -70,15 +54,12 @@ QStringList namesOfTheVocabulary()
                   + column(vocabulary::settings(), &Setting::key));
 }
 
-/// All names of the engine and of the vocabulary, these in other letter cases, and invented ones.
+/// All names of the vocabulary, these in other letter cases, and invented ones.
 const QStringList &names()
 {
     static const QStringList all = [] {
         QStringList result = {"foo", "item", "recipe", "x_method", "printNothing"};
-        for (const QString &name : textsOfTheEngine() + namesOfTheVocabulary()) {
-            static const QRegularExpression valid("^[A-Za-z_][\\w.-]*$");
-            if (!valid.match(name).hasMatch())
-                continue;
+        for (const QString &name : namesOfTheVocabulary()) {
             const QChar first = name.front();
             result += {name, name.toUpper(), name.toLower(),
                        (first.isUpper() ? first.toLower() : first.toUpper()) + name.mid(1)};
@@ -327,23 +308,6 @@ class TestVocabulary : public QObject
     Q_OBJECT
 
 private slots:
-    /// Names that are tried come from the sources; a pattern that finds none would prove nothing.
-    void namesOfTheVocabularyAreTried()
-    {
-        const QStringList texts = textsOfTheEngine();
-        for (const Method &row : vocabulary::methods())
-            QVERIFY2(texts.contains(row.name), row.name.data());
-        for (const Element &row : vocabulary::elements())
-            QVERIFY2(texts.contains(row.name), row.name.data());
-        for (const Attribute &row : vocabulary::attributes())
-            QVERIFY2(texts.contains(row.name), row.name.data());
-        for (const Setting &row : vocabulary::settings())
-            QVERIFY2(texts.contains(row.key), row.key.data());
-        QVERIFY(names().contains("PRINTSOLD"));
-        QVERIFY(names().contains("Receipe"));
-        QVERIFY(names().contains("paperwidth"));
-    }
-
     void rowsFitTogether()
     {
         QStringList keys;
