@@ -36,6 +36,24 @@ constexpr InfoLine orderInfoLines[] = {
     {&Layout::printCredit, QT_TRANSLATE_NOOP("PrinterDriver", "Credit:"), attribute::credit},
 };
 
+/// One line for each field of a comma-separated address, up to the first empty field. A field of
+/// blanks is not empty.
+void printAddress(PrinterDriver &printer, const QString &address)
+{
+    for (const QStringView field : qTokenize(address, u',')) {
+        if (field.isEmpty())
+            return;
+        printer.println(1, field.trimmed().toString());
+    }
+}
+
+/// A line of a label and a value, each after a blank.
+void printLabelled(PrinterDriver &printer, const QString &label, const QString &value)
+{
+    printer.print(1, label);
+    printer.println(1, value);
+}
+
 } // namespace
 
 void PrinterDriver::printGeometry(const QXmlAttributes & /*attributes*/)
@@ -85,13 +103,13 @@ void PrinterDriver::printReceiptHeader(const QXmlAttributes &attributes)
 
 void PrinterDriver::printInvoiceHeader(const QXmlAttributes &attributes)
 {
-    printLabelled(tr("Invoice Number:"), attributes.value(attribute::serialnumber));
+    printLabelled(*this, tr("Invoice Number:"), attributes.value(attribute::serialnumber));
     printSeparatorLine();
 }
 
 void PrinterDriver::printDeliveryHeader(const QXmlAttributes &attributes)
 {
-    printLabelled(tr("Delivery Number:"), attributes.value(attribute::serialnumber));
+    printLabelled(*this, tr("Delivery Number:"), attributes.value(attribute::serialnumber));
     printSeparatorLine();
 }
 
@@ -100,7 +118,7 @@ void PrinterDriver::printOrderInfo(const QXmlAttributes &attributes)
     setCharSize();
     for (const auto &[setting, label, attribute] : orderInfoLines)
         if (layout.*setting)
-            printLabelled(tr(label), attributes.value(attribute));
+            printLabelled(*this, tr(label), attributes.value(attribute));
     if (layout.printCredit)
         credit = attributes.value(attribute::credit);
     printSeparatorLine();
@@ -113,32 +131,14 @@ void PrinterDriver::printCustomerHeader(const QXmlAttributes &attributes)
     println(tr("CUSTOMER"));
     println(1, attributes.value(attribute::name));
     if (layout.printBillingAddress)
-        printAddress(attributes.value(attribute::billingaddress));
+        printAddress(*this, attributes.value(attribute::billingaddress));
     if (layout.printDeliveryAddress)
-        printAddress(attributes.value(attribute::deliveryaddress));
+        printAddress(*this, attributes.value(attribute::deliveryaddress));
     if (layout.printTelephone)
-        printLabelled(tr("Telephone:"), attributes.value(attribute::telephone));
+        printLabelled(*this, tr("Telephone:"), attributes.value(attribute::telephone));
     if (layout.printLicenseNumber)
-        printLabelled(tr("License Number:"), attributes.value(attribute::licensenumber));
+        printLabelled(*this, tr("License Number:"), attributes.value(attribute::licensenumber));
     if (layout.printFiscalCode)
-        printLabelled(tr("Fiscal Code:"), attributes.value(attribute::fiscalcode));
+        printLabelled(*this, tr("Fiscal Code:"), attributes.value(attribute::fiscalcode));
     printSeparatorLine();
-}
-
-/// One line for each field of a comma-separated address, up to the first empty field. A field of
-/// blanks is not empty.
-void PrinterDriver::printAddress(const QString &address)
-{
-    for (const QStringView field : qTokenize(address, u',')) {
-        if (field.isEmpty())
-            return;
-        println(1, field.trimmed().toString());
-    }
-}
-
-/// A line of a label and a value, each after a blank.
-void PrinterDriver::printLabelled(const QString &label, const QString &value)
-{
-    print(1, label);
-    println(1, value);
 }

@@ -10,6 +10,27 @@ namespace attribute = korvel::vocabulary::attribute;
 namespace element = korvel::vocabulary::element;
 namespace style = korvel::vocabulary::style;
 
+namespace {
+
+/// The rows that close an invoice. Their values are the job's: nothing is computed.
+void printTaxBlock(PrinterDriver &printer, const QXmlAttributes &attributes)
+{
+    const auto row = [&](const QString &label, QLatin1StringView name) {
+        printer.println(
+            printer.descriptionRow({}, label, {}, attributes.value(name), u'.', style::qdpt));
+    };
+
+    printer.setBold();
+    printer.println(QString());
+    row(PrinterDriver::tr("Taxable"), attribute::taxable);
+    row(PrinterDriver::tr("TaxRate"), attribute::taxrate);
+    row(PrinterDriver::tr("Tax"), attribute::tax);
+    row(PrinterDriver::tr("TOTAL"), attribute::total);
+    printer.setCharSize();
+}
+
+} // namespace
+
 void PrinterDriver::printFullOrderInvoice(const QString &qName, const QXmlAttributes &attributes)
 {
     if (printSections(qName, attributes))
@@ -25,7 +46,7 @@ void PrinterDriver::printFullOrderInvoice(const QString &qName, const QXmlAttrib
                                value(attribute::price), value(attribute::totalPrice), u'.',
                                style::qdpt));
     } else if (qName == element::totals) {
-        printTaxBlock(attributes);
+        printTaxBlock(*this, attributes);
     }
 }
 
@@ -44,7 +65,7 @@ void PrinterDriver::printAbstractOrderInvoice(const QString &qName,
         println(descriptionRow(value(attribute::number), value(attribute::name), {},
                                value(attribute::price), u'.', style::qxdpt));
     } else if (qName == element::totals) {
-        printTaxBlock(attributes);
+        printTaxBlock(*this, attributes);
     }
 }
 
@@ -54,20 +75,4 @@ void PrinterDriver::printFullOrderDelivery(const QString &qName, const QXmlAttri
         printCustomerHeader(attributes);
     else
         printPartialOrder(qName, attributes);
-}
-
-/// The rows that close an invoice. Their values are the job's: nothing is computed.
-void PrinterDriver::printTaxBlock(const QXmlAttributes &attributes)
-{
-    const auto row = [&](const QString &label, QLatin1StringView name) {
-        println(descriptionRow({}, label, {}, attributes.value(name), u'.', style::qdpt));
-    };
-
-    setBold();
-    println(QString());
-    row(tr("Taxable"), attribute::taxable);
-    row(tr("TaxRate"), attribute::taxrate);
-    row(tr("Tax"), attribute::tax);
-    row(tr("TOTAL"), attribute::total);
-    setCharSize();
 }

@@ -10,6 +10,26 @@ namespace attribute = korvel::vocabulary::attribute;
 namespace element = korvel::vocabulary::element;
 namespace style = korvel::vocabulary::style;
 
+namespace {
+
+/// A variant's mark and name. The mark is '-' for a variant left out (-1, and whatever is no
+/// number), '+' for one added (1), else the quantity as the job gives it.
+QString variantDescription(const QXmlAttributes &attributes)
+{
+    const QString quantity = attributes.value(attribute::quantity);
+    bool isNumber = false;
+    const double parsed = quantity.toDouble(&isNumber);
+    const double number = isNumber ? parsed : 0;
+    QString mark = quantity;
+    if (number == -1.0 || number == 0.0)
+        mark = u"-"_s;
+    else if (number == 1.0)
+        mark = u"+"_s;
+    return mark + u' ' + attributes.value(attribute::name);
+}
+
+} // namespace
+
 void PrinterDriver::printPartialOrder(const QString &qName, const QXmlAttributes &attributes)
 {
     if (printSections(qName, attributes))
@@ -66,20 +86,4 @@ void PrinterDriver::printFullOrder(const QString &qName, const QXmlAttributes &a
 void PrinterDriver::printAbstractOrder(const QString & /*qName*/,
                                        const QXmlAttributes & /*attributes*/)
 {
-}
-
-/// A variant's mark and name. The mark is '-' for a variant left out (-1, and whatever is no
-/// number), '+' for one added (1), else the quantity as the job gives it.
-QString PrinterDriver::variantDescription(const QXmlAttributes &attributes) const
-{
-    const QString quantity = attributes.value(attribute::quantity);
-    bool isNumber = false;
-    const double parsed = quantity.toDouble(&isNumber);
-    const double number = isNumber ? parsed : 0;
-    QString mark = quantity;
-    if (number == -1.0 || number == 0.0)
-        mark = u"-"_s;
-    else if (number == 1.0)
-        mark = u"+"_s;
-    return mark + u' ' + attributes.value(attribute::name);
 }

@@ -315,15 +315,4 @@ private:
     };
     const Titles &titles();
     std::optional<Titles> translatedTitles; // looked up with the first item
-
-    // What several documents, or several elements of one, print alike.
-    void printAddress(const QString &address);
-    void printLabelled(const QString &label, const QString &value);
-    [[nodiscard]] QString variantDescription(const QXmlAttributes &attributes) const;
-    void printTaxBlock(const QXmlAttributes &attributes);
-    void printTitle(const QString &title);
-    void printDottedLabel(const QString &label);
-    void printDotted(const QString &label, const QString &value);
-    void printSerials(const QXmlAttributes &attributes);
-    void printCancelled(const QString &serial, const QString &total, const QString &taxRate);
 };

@@ -11,6 +11,59 @@ namespace element = korvel::vocabulary::element;
 using columns::left;
 using columns::right;
 
+namespace {
+
+/// A title, bold and centred between empty lines.
+void printTitle(PrinterDriver &printer, const QString &title)
+{
+    printer.setBold();
+    printer.setCenterJustify();
+    printer.println(QString());
+    printer.println(title);
+    printer.setCharSize();
+    printer.println(QString());
+}
+
+/// A label with dots up to 15 characters before the paper's width; a longer label is kept whole.
+QString dotted(const QString &label, const Layout &layout)
+{
+    return left(label, qint64(layout.paperWidth) - 15, u'.');
+}
+
+void printDotted(PrinterDriver &printer, const Layout &layout, const QString &label,
+                 const QString &value)
+{
+    printer.print(0, dotted(label, layout));
+    printer.println(value);
+}
+
+/// The first and the last serial number of the documents issued.
+void printSerials(PrinterDriver &printer, const Layout &layout, const QXmlAttributes &attributes)
+{
+    printer.print(0, dotted(PrinterDriver::tr("Serials"), layout));
+    printer.print(0, attributes.value(attribute::firstserial));
+    printer.print(0, u" - "_s);
+    printer.println(attributes.value(attribute::lastserial));
+}
+
+/// The cancelled documents, in rows under their titles. They follow the first two attributes, three
+/// attributes each.
+void printCancelled(PrinterDriver &printer, const QXmlAttributes &attributes)
+{
+    const auto row = [&](const QString &serial, const QString &total, const QString &taxRate) {
+        printer.print(0, left(serial, 10));
+        printer.print(0, left(total, 11));
+        printer.println(left(taxRate, 10));
+    };
+    const auto at = [&](int i) { return i < attributes.count() ? attributes.value(i) : QString(); };
+
+    row(PrinterDriver::tr("SERIAL"), PrinterDriver::tr("TOTAL"), PrinterDriver::tr("TAXRATE"));
+    for (int i = 2; i < attributes.count(); i += 3)
+        row(at(i), at(i + 1), at(i + 2));
+}
+
+} // namespace
+
 void PrinterDriver::printReport(const QString &qName, const QXmlAttributes &attributes)
 {
     if (printSections(qName, attributes))
@@ -31,19 +84,19 @@ void PrinterDriver::printReport(const QString &qName, const QXmlAttributes &attr
         print(0, tr("EndDate: "));
         println(value(attribute::enddate));
     } else if (qName == element::prefiscalssummary) {
-        printTitle(tr("PREFISCAL SUMMARY"));
-        printDotted(tr("Number"), value(attribute::number));
-        printDotted(tr("TOTAL"), value(attribute::total));
+        printTitle(*this, tr("PREFISCAL SUMMARY"));
+        printDotted(*this, layout, tr("Number"), value(attribute::number));
+        printDotted(*this, layout, tr("TOTAL"), value(attribute::total));
     } else if (qName == element::receiptssummary) {
-        printTitle(tr("RECEIPTS SUMMARY"));
-        printDotted(tr("Number"), value(attribute::number));
-        printSerials(attributes);
+        printTitle(*this, tr("RECEIPTS SUMMARY"));
+        printDotted(*this, layout, tr("Number"), value(attribute::number));
+        printSerials(*this, layout, attributes);
         println(tr("Amount not paid: ") + value(attribute::notPaid));
         println(tr("Cash: ") + value(attribute::cash));
         println(tr("Credit Card: ") + value(attribute::creditCard));
         println(tr("Bancomat: ") + value(attribute::bancomat));
         println(tr("Other: ") + value(attribute::other));
-        printDotted(tr("TOTAL"), value(attribute::total));
+        printDotted(*this, layout, tr("TOTAL"), value(attribute::total));
         println(QString());
         printSeparatorLine();
         println(right(tr("TAXRATE"), 6) + u' ' + right(tr("TAXABLE"), 10) + u' '
@@ -56,65 +109,18 @@ void PrinterDriver::printReport(const QString &qName, const QXmlAttributes &attr
     } else if (qName == element::invoicessummary) {
         printSeparatorLine();
         println(QString());
-        printTitle(tr("INVOICES SUMMARY"));
-        printDotted(tr("Number"), value(attribute::number));
-        printSerials(attributes);
-        printDotted(tr("Taxable"), value(attribute::taxable));
-        printDotted(tr("Tax"), value(attribute::tax));
-        printDotted(tr("TOTAL"), value(attribute::total));
+        printTitle(*this, tr("INVOICES SUMMARY"));
+        printDotted(*this, layout, tr("Number"), value(attribute::number));
+        printSerials(*this, layout, attributes);
+        printDotted(*this, layout, tr("Taxable"), value(attribute::taxable));
+        printDotted(*this, layout, tr("Tax"), value(attribute::tax));
+        printDotted(*this, layout, tr("TOTAL"), value(attribute::total));
     } else if (qName == element::cancelledsummary) {
-        printTitle(tr("CANCELLED DOC SUMMARY"));
-        printDotted(tr("Number"), value(attribute::number));
-        printDotted(tr("TOTAL"), value(attribute::totals));
+        printTitle(*this, tr("CANCELLED DOC SUMMARY"));
+        printDotted(*this, layout, tr("Number"), value(attribute::number));
+        printDotted(*this, layout, tr("TOTAL"), value(attribute::totals));
         setBold();
         println(QString());
-        printCancelled(tr("SERIAL"), tr("TOTAL"), tr("TAXRATE"));
-        // The documents follow the first two attributes, three attributes each.
-        const auto at = [&](int i) {
-            return i < attributes.count() ? attributes.value(i) : QString();
-        };
-        for (int i = 2; i < attributes.count(); i += 3)
-            printCancelled(at(i), at(i + 1), at(i + 2));
+        printCancelled(*this, attributes);
     }
-}
-
-/// A title, bold and centred between empty lines.
-void PrinterDriver::printTitle(const QString &title)
-{
-    setBold();
-    setCenterJustify();
-    println(QString());
-    println(title);
-    setCharSize();
-    println(QString());
-}
-
-/// A label, and dots up to 15 characters before the paper's width; a longer label is kept whole.
-void PrinterDriver::printDottedLabel(const QString &label)
-{
-    print(0, left(label, qint64(layout.paperWidth) - 15, u'.'));
-}
-
-void PrinterDriver::printDotted(const QString &label, const QString &value)
-{
-    printDottedLabel(label);
-    println(value);
-}
-
-/// The first and the last serial number of the documents issued.
-void PrinterDriver::printSerials(const QXmlAttributes &attributes)
-{
-    printDottedLabel(tr("Serials"));
-    print(0, attributes.value(attribute::firstserial));
-    print(0, u" - "_s);
-    println(attributes.value(attribute::lastserial));
-}
-
-/// A row of the cancelled documents.
-void PrinterDriver::printCancelled(const QString &serial, const QString &total,
-                                   const QString &taxRate)
-{
-    print(0, left(serial, 10));
-    print(0, left(total, 11));
-    println(left(taxRate, 10));
 }
