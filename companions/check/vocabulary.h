@@ -26,7 +26,6 @@ public:
     [[nodiscard]] constexpr const Row *begin() const { return first; }
     [[nodiscard]] constexpr const Row *end() const { return last; }
     [[nodiscard]] constexpr qsizetype size() const { return last - first; }
-    constexpr const Row &operator[](qsizetype i) const { return first[i]; }
 
 private:
     const Row *first;

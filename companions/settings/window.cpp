@@ -33,38 +33,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// The sample job of a document, among the program's resources.
-struct Sample
-{
-    QLatin1StringView file;
-    const char *title; // of the document
-};
-
-// In the order of the methods of the vocabulary.
-// clang-format off
-constexpr Sample samples[] = {
-    {"kitchen-order"_L1,          QT_TRANSLATE_NOOP("documents", "kitchen order")},
-    {"full-order"_L1,             QT_TRANSLATE_NOOP("documents", "full order")},
-    {"receipt"_L1,                QT_TRANSLATE_NOOP("documents", "receipt")},
-    {"invoice"_L1,                QT_TRANSLATE_NOOP("documents", "invoice")},
-    {"delivery-note"_L1,          QT_TRANSLATE_NOOP("documents", "delivery note")},
-    {"fiscal-receipt"_L1,         QT_TRANSLATE_NOOP("documents", "fiscal receipt")},
-    {"order-summary"_L1,          QT_TRANSLATE_NOOP("documents", "summary order")},
-    {"receipt-summary"_L1,        QT_TRANSLATE_NOOP("documents", "summary receipt")},
-    {"invoice-summary"_L1,        QT_TRANSLATE_NOOP("documents", "summary invoice")},
-    {"fiscal-receipt-summary"_L1, QT_TRANSLATE_NOOP("documents", "summary fiscal receipt")},
-    {"period-report"_L1,          QT_TRANSLATE_NOOP("documents", "period report")},
-    {"sold-items"_L1,             QT_TRANSLATE_NOOP("documents", "sold items")},
-    {"statement"_L1,              QT_TRANSLATE_NOOP("documents", "statement of account")},
-};
-// clang-format on
-
-constexpr int receiptSample = 2; // shown first
-
 /// A document's title as the chooser shows it.
-QString titleOf(const Sample &sample)
+QString titleOf(const vocabulary::Method &method)
 {
-    QString title = QCoreApplication::translate("documents", sample.title);
+    QString title = QCoreApplication::translate("documents", method.title.data());
     title[0] = title[0].toUpper();
     return title;
 }
@@ -126,8 +98,8 @@ void SettingsWindow::buildPanes()
     auto *label = new QLabel(tr("&Document:"));
     jobs = new QComboBox;
     jobs->setObjectName(u"jobs"_s);
-    for (const Sample &sample : samples)
-        jobs->addItem(titleOf(sample));
+    for (const vocabulary::Method &method : vocabulary::methods())
+        jobs->addItem(titleOf(method), QString(method.name));
     jobs->insertSeparator(jobs->count());
     jobs->addItem(tr("Job file …"));
     label->setBuddy(jobs);
@@ -158,9 +130,9 @@ void SettingsWindow::buildPanes()
     panes->setChildrenCollapsible(false);
     setCentralWidget(panes);
 
-    jobs->setCurrentIndex(receiptSample);
-    lastJob = receiptSample;
-    job = resource(u"jobs/"_s + samples[receiptSample].file + u".xml"_s);
+    lastJob = jobs->findData(QString(vocabulary::method::printFullOrderReceipt));
+    jobs->setCurrentIndex(lastJob);
+    job = resource(u"jobs/"_s + methodAt(lastJob)->sample + u".xml"_s);
     connect(jobs, &QComboBox::activated, this, &SettingsWindow::chooseJob);
 }
 
@@ -315,14 +287,20 @@ void SettingsWindow::edited()
     pause.start();
 }
 
+/// The method whose sample stands in a row of the chooser; null for the row of job files.
+const vocabulary::Method *SettingsWindow::methodAt(int row) const
+{
+    return vocabulary::findMethod(jobs->itemData(row).toString());
+}
+
 /// Opens the group that the shown document reads.
 void SettingsWindow::openGroup()
 {
-    if (lastJob >= static_cast<int>(std::size(samples)))
+    const vocabulary::Method *method = methodAt(lastJob);
+    if (!method)
         return; // the user's own job
-    const QString group = vocabulary::methods()[lastJob].group;
     for (QTreeWidgetItemIterator row(view); *row; ++row) {
-        if ((*row)->text(0) == group && (*row)->childCount() > 0) {
+        if ((*row)->text(0) == method->group && (*row)->childCount() > 0) {
             view->expandRecursively(view->indexFromItem(*row));
             view->scrollToItem(*row, QAbstractItemView::PositionAtTop);
             return;
@@ -341,12 +319,13 @@ void SettingsWindow::refresh()
 
 void SettingsWindow::chooseJob(int index)
 {
-    if (index >= static_cast<int>(std::size(samples))) {
+    const vocabulary::Method *method = methodAt(index);
+    if (!method) {
         chooseJobFile();
         return;
     }
     lastJob = index;
-    job = resource(u"jobs/"_s + samples[index].file + u".xml"_s);
+    job = resource(u"jobs/"_s + method->sample + u".xml"_s);
     openGroup();
     refresh();
 }

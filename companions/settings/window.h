@@ -17,6 +17,10 @@ class QSplitter;
 class QTreeWidget;
 class QVBoxLayout;
 
+namespace korvel::vocabulary {
+struct Method;
+}
+
 /**
  * Edits one settings file, and shows what the renderer makes of it before anything is saved.
  *
@@ -56,6 +60,7 @@ private:
     void tell(const QString &text);
     bool ask(const QString &question, const QStringList &details, const QString &goOn);
     void offerSample();
+    [[nodiscard]] const korvel::vocabulary::Method *methodAt(int row) const;
     void openGroup();
     void edited();
     void refresh();

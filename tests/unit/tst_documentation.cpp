@@ -452,17 +452,18 @@ private slots:
     void settingsOfTheVocabulary()
     {
         const QList<QStringList> rows = rowsOf(settingsPage, "key", "## Keys of a document");
-        const auto settings = vocabulary::settings();
-        QCOMPARE(rows.size(), settings.size());
-        for (qsizetype i = 0; i < rows.size(); ++i) {
-            const QString key = settings[i].key;
-            QCOMPARE(rows[i][0], inBackticks(key));
-            QCOMPARE(key + ": " + rows[i][1], key + ": " + settings[i].unit);
-            QVERIFY2(kindOf(rows[i][1]) == settings[i].kind, qPrintable(key));
-            QVERIFY2((rows[i][2] == "off") == (settings[i].kind == vocabulary::Kind::Switch),
+        QCOMPARE(rows.size(), vocabulary::settings().size());
+        auto cells = rows.begin();
+        for (const vocabulary::Setting &setting : vocabulary::settings()) {
+            const QString key = setting.key;
+            const QStringList row = *cells++;
+            QCOMPARE(row[0], inBackticks(key));
+            QCOMPARE(key + ": " + row[1], key + ": " + setting.unit);
+            QVERIFY2(kindOf(row[1]) == setting.kind, qPrintable(key));
+            QVERIFY2((row[2] == "off") == (setting.kind == vocabulary::Kind::Switch),
                      qPrintable(key));
-            QVERIFY2(documentsIn(rows[i][3]) == settings[i].documents, qPrintable(key));
-            QCOMPARE(key + ": " + rows[i][4], key + ": " + settings[i].meaning);
+            QVERIFY2(documentsIn(row[3]) == setting.documents, qPrintable(key));
+            QCOMPARE(key + ": " + row[4], key + ": " + setting.meaning);
         }
     }
 
