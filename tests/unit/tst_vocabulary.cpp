@@ -544,6 +544,56 @@ private slots:
         QCOMPARE(sorted(kept), QStringList({"charsize", "ipaddress", "port"}));
     }
 
+    /// A figure fits as long as its column is wide, and makes the line longer beyond; nothing else
+    /// does at the width of a column.
+    void figuresInColumns_data() { attribute_data(); }
+
+    void figuresInColumns()
+    {
+        QFETCH(const Method *, method);
+        QFETCH(const Element *, element);
+        QFETCH(const Attribute *, row);
+        const Till till(*method, everythingOn());
+        const auto printed = [&](int length) {
+            auto attributes = plainAttributes(*element, method->document);
+            attributes.insert(row->name, QString(length, '5'));
+            return till.lines(shownTag(*element, attributes)).join(QString()).size();
+        };
+        for (const vocabulary::ColumnWidth &some : vocabulary::columnWidths) {
+            const int width = everythingOff.value(some.setting).toInt();
+            QVERIFY2((printed(width) == printed(1) && printed(width + 1) == printed(1) + 1)
+                         == (row->column == some.column),
+                     some.setting.data());
+        }
+    }
+
+    /// A document's rows of items have the room for the description that their style says.
+    void itemRows_data() { addMethods(); }
+
+    void itemRows()
+    {
+        QFETCH(const Method *, method);
+        const Till till(*method, everythingOn());
+        QStringList expected;
+        QStringList rooms;
+        for (const vocabulary::ItemRows &rows : vocabulary::itemRows)
+            if ((rows.documents & method->document) != 0)
+                expected.append(QString::number(rows.style.descriptionWidth(50, 4, 8, 9)));
+        for (const char *name : {"receipe", "receipe_type", "statement"}) {
+            const Element *element = vocabulary::findElement(name, method->document);
+            if (!element)
+                continue;
+            auto attributes = plainAttributes(*element, method->document);
+            for (const char *text : {"name", "description", "type"})
+                if (attributes.contains(text))
+                    attributes.insert(text, QString(100, 'Q'));
+            const QString printed = till.lines(tag(name, attributes)).join(QString());
+            if (!printed.startsWith("=R")) // which the printer lays out
+                rooms.append(QString::number(printed.count('Q')));
+        }
+        QCOMPARE(rooms, expected);
+    }
+
     /// The settings that change a job of all elements of a document.
     void settings_data() { addMethods(); }
 
@@ -588,6 +638,19 @@ private slots:
         const Element *element = vocabulary::findElement(sample.element, method->document);
         QVERIFY(element);
         QVERIFY(sample.attribute.isEmpty() || element->anyAttribute || rowOf(sample));
+    }
+
+    /// Each method's own sample asks for it, and there are no others.
+    void samplesOfMethods()
+    {
+        QStringList files;
+        for (const Method &row : vocabulary::methods()) {
+            files.append(row.sample + QLatin1StringView(".xml"));
+            const QByteArray job = bytesOf(KORVEL_SOURCE_DIR "/examples/jobs/" + files.last());
+            QVERIFY2(job.contains("<method name=\"" + QByteArray(row.name.data()) + "\"/>"),
+                     row.name.data());
+        }
+        QCOMPARE(QDir(KORVEL_SOURCE_DIR "/examples/jobs").entryList(QDir::Files), sorted(files));
     }
 
     /// Amounts look like amounts in them, and nothing else does.
