@@ -4,6 +4,7 @@
 #include "app/entities.h"
 #include "companions/check/encoding.h"
 #include "companions/check/xmlerrors.h"
+#include "vocabulary/limits.h"
 
 #include <expat.h>
 
@@ -16,9 +17,7 @@ namespace korvel::check {
 
 namespace {
 
-// What the renderer takes at most; see docs/reliability.md.
-constexpr qsizetype deepestElement = 1024;
-constexpr qsizetype mostNamespaces = 64;
+namespace limit = korvel::vocabulary::limit;
 
 // The parser compares what a document type declares for an element with each other.
 constexpr int mostDeclaredAttributes = 1024;
@@ -206,12 +205,12 @@ private:
             return;
         open.append({job.tags.size(), declared});
         namespaces += declared;
-        if (open.size() > deepestElement)
+        if (open.size() > limit::deepestElement)
             stopAtLimit(tag.place,
-                        filled(phrase::nestedElements, QString::number(deepestElement)));
-        else if (namespaces > mostNamespaces)
+                        filled(phrase::nestedElements, QString::number(limit::deepestElement)));
+        else if (namespaces > limit::mostNamespaces)
             stopAtLimit(tag.place,
-                        filled(phrase::declaredNamespaces, QString::number(mostNamespaces)));
+                        filled(phrase::declaredNamespaces, QString::number(limit::mostNamespaces)));
         else
             job.tags.append(std::move(tag));
     }
