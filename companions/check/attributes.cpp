@@ -13,6 +13,8 @@ namespace {
 using vocabulary::Attribute;
 using vocabulary::Element;
 using vocabulary::Value;
+namespace element = vocabulary::element;
+namespace name = vocabulary::attribute;
 
 /// Whether an attribute that is printed in a line is missing. Without settings, nobody knows
 /// whether what has a switch is printed.
@@ -25,24 +27,25 @@ bool isMissing(const Context &context, const Tag &tag, const Attribute &row)
 
 void noteMissing(Context &context, const Tag &tag, const QStringList &missing)
 {
-    const bool isMark = tag.name == "variant"_L1 && missing == QStringList(u"quantity"_s);
+    const bool isMark = tag.name == element::variant && missing == QStringList(name::quantity);
     context.note(tag.place, Code::MissingAttribute, tag.name, quoted(missing),
                  isMark                ? phrase::leftOut
                  : missing.size() == 1 ? phrase::emptyPlace
                                        : phrase::emptyPlaces);
 }
 
-void checkPrinted(Context &context, const Tag &tag, Value kind, const JobAttribute &attribute)
+void checkPrinted(Context &context, const Tag &tag, const Attribute &row,
+                  const JobAttribute &attribute)
 {
     checkText(context, tag, attribute);
-    if (kind == Value::Amount)
+    if (row.value == Value::Amount)
         checkAmount(context, attribute);
-    else if (kind == Value::Address)
+    else if (row.value == Value::Address)
         checkAddress(context, attribute);
-    else if (kind == Value::VariantQuantity)
+    else if (row.value == Value::VariantQuantity)
         checkVariantQuantity(context, attribute);
     if (context.settings)
-        checkWidth(context, tag, attribute);
+        checkWidth(context, row, attribute);
 }
 
 /// An attribute that the document knows.
@@ -59,7 +62,7 @@ void checkKnown(Context &context, const Tag &tag, const Attribute &row, bool ded
                      filled(phrase::attributeNotPrinted, row.name), row.setting,
                      context.method->group);
     } else {
-        checkPrinted(context, tag, row.value, *attribute);
+        checkPrinted(context, tag, row, *attribute);
     }
 }
 
@@ -91,8 +94,8 @@ void checkCancelled(Context &context, const Tag &tag)
     const auto nameAt = [&](qsizetype i) {
         return i < tag.attributes.size() ? tag.attributes[i].name : QString();
     };
-    const bool headed = (nameAt(0) == "number"_L1 && nameAt(1) == "totals"_L1)
-                        || (nameAt(0) == "totals"_L1 && nameAt(1) == "number"_L1);
+    const bool headed = (nameAt(0) == name::number && nameAt(1) == name::totals)
+                        || (nameAt(0) == name::totals && nameAt(1) == name::number);
     if (!headed) {
         context.note(tag.place, Code::CancelledList, phrase::listBeginsWrong);
         return;
@@ -103,7 +106,7 @@ void checkCancelled(Context &context, const Tag &tag)
                      filled(phrase::listNotInThrees, QString::number(listed)));
         return;
     }
-    const JobAttribute *number = tag.find(u"number");
+    const JobAttribute *number = tag.find(name::number);
     bool isNumber = false;
     const int count = number->value.toInt(&isNumber);
     if (isNumber && count != listed / 3)
@@ -130,7 +133,7 @@ void checkAttributes(Context &context, const Tag &tag, const Element &element)
     if (!missing.isEmpty())
         noteMissing(context, tag, missing);
     checkOthers(context, tag, element, known);
-    if (tag.name == "cancelledsummary"_L1)
+    if (tag.name == element::cancelledsummary)
         checkCancelled(context, tag);
 }
 

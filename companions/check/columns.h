@@ -8,8 +8,6 @@
 
 namespace korvel::check {
 
-inline constexpr int printerWidth = 32; // characters of a line of the paper
-
 /**
  * Whether the columns of the documents leave room for their descriptions.
  *

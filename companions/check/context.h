@@ -79,6 +79,6 @@ void checkRegistered(Context &context, vocabulary::Value kind, const JobAttribut
 // columns.cpp
 
 /// A figure beside the column that the settings give it; they must be given.
-void checkWidth(Context &context, const Tag &tag, const JobAttribute &attribute);
+void checkWidth(Context &context, const vocabulary::Attribute &row, const JobAttribute &attribute);
 
 } // namespace korvel::check

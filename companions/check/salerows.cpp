@@ -58,7 +58,7 @@ QLatin1StringView endOfCommand(const JobAttribute &attribute)
         return phrase::lineBreak;
     if (attribute.value.contains(u')'))
         return phrase::parenthesis;
-    if (attribute.name != "name"_L1 && attribute.value.contains(u'/'))
+    if (attribute.name != vocabulary::attribute::name && attribute.value.contains(u'/'))
         return phrase::slash;
     return {};
 }
@@ -92,8 +92,8 @@ void checkComplete(Context &context, const Tag &tag, const QList<Attribute> &kno
     }
     if (!lacking.isEmpty())
         context.note(tag.place, Code::FiscalIncomplete, quoted(lacking),
-                     lacking.constLast() == "price"_L1 ? phrase::zeroRegistered
-                                                       : phrase::maybeRefused);
+                     lacking.constLast() == vocabulary::attribute::price ? phrase::zeroRegistered
+                                                                         : phrase::maybeRefused);
 }
 
 void checkRegistered(Context &context, Value kind, const JobAttribute &attribute)

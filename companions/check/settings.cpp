@@ -4,6 +4,7 @@
 #include "companions/check/settingsfile.h"
 #include "companions/check/vocabulary.h"
 #include "companions/check/words.h"
+#include "vocabulary/paper.h"
 
 #include <QHash>
 
@@ -33,7 +34,7 @@ Finding about(const SettingsFile::Entry &entry, Code code, const Words &...words
 QStringList keysOf(QStringView group)
 {
     QStringList keys;
-    if (group == "language"_L1) {
+    if (group == vocabulary::group::language) {
         for (const vocabulary::LanguageSetting &row : vocabulary::languageSettings())
             keys.append(row.key);
     } else {
@@ -49,14 +50,14 @@ QString whyUnread(const SettingsFile::Entry &entry)
 {
     if (entry.groups.isEmpty())
         return phrase::outsideKorvel;
-    if (!entry.searched || entry.groups.constFirst() != "korvel"_L1)
+    if (!entry.searched || entry.groups.constFirst() != vocabulary::group::korvel)
         return phrase::otherTopGroup;
     if (entry.groups.size() > 2)
         return filled(phrase::misplaced, phrase::unclosedGroup);
     if (entry.groups.size() < 2)
         return filled(phrase::misplaced, QString());
 
-    QStringList groups = {u"language"_s};
+    QStringList groups = {vocabulary::group::language};
     for (const Method &method : vocabulary::methods())
         groups.append(method.group);
     const QString &group = entry.groups.constLast();
@@ -76,16 +77,16 @@ void checkValue(const SettingsFile::Entry &entry, QList<Finding> &findings)
         return;
     bool isNumber = false;
     const int number = entry.value.toInt(&isNumber);
-    if (setting->kind == Kind::Switch && entry.value != "true"_L1 && entry.value != "false"_L1)
+    if (setting->kind == Kind::Switch && entry.value != vocabulary::on && entry.value != "false"_L1)
         findings.append(about(entry, Code::NotTrue, entry.key, quoted(entry.value)));
     if (setting->kind == Kind::Number && !isNumber)
         findings.append(about(entry, Code::NotANumber, entry.key, quoted(entry.value)));
     const auto documents = vocabulary::documentsOf(entry.groups.constLast());
-    if (entry.key == "paperWidth"_L1 && (setting->documents & documents) != 0
-        && number > printerWidth)
+    if (entry.key == vocabulary::key::paperWidth && (setting->documents & documents) != 0
+        && number > vocabulary::lineWidth)
         findings.append(
             about(entry, Code::Columns,
-                  filled(phrase::widePaper, entry.value, QString::number(printerWidth))));
+                  filled(phrase::widePaper, entry.value, QString::number(vocabulary::lineWidth))));
 }
 
 } // namespace

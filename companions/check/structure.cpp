@@ -15,34 +15,16 @@ namespace {
 using vocabulary::Documents;
 using vocabulary::Element;
 using vocabulary::Method;
-
-/// Documents that read an element and print nothing for it.
-struct Silence
-{
-    QLatin1StringView element;
-    Documents documents;
-};
-
-constexpr Documents everywhere = ~0U;
-constexpr Documents fiscal = vocabulary::FiscalReceipt | vocabulary::SummaryFiscalReceipt;
-
-constexpr Silence silences[] = {
-    {"printers"_L1, everywhere},
-    {"logo"_L1,     everywhere},
-    {"total"_L1,    fiscal    },
-};
+namespace attribute = vocabulary::attribute;
+namespace element = vocabulary::element;
 
 /// The documents that print something for an element.
 Documents printedIn(const QString &element)
 {
     Documents documents = 0;
     for (const Element &row : vocabulary::elements()) {
-        if (row.name == element)
+        if (row.name == element && row.prints)
             documents |= row.documents;
-    }
-    for (const Silence &row : silences) {
-        if (row.element == element)
-            documents &= ~row.documents;
     }
     return documents;
 }
@@ -56,7 +38,7 @@ bool isElement(const QString &name)
 /// False when the job ends at this method.
 bool checkMethod(Context &context, const Tag &tag)
 {
-    const JobAttribute *name = tag.find(u"name");
+    const JobAttribute *name = tag.find(attribute::name);
     if (!name) {
         context.note(tag.place, Code::UnknownMethod, phrase::noMethodName, QString());
         return false;
@@ -74,9 +56,9 @@ bool checkMethod(Context &context, const Tag &tag)
     if (context.method)
         context.note(tag.place, Code::SecondMethod, context.method->title);
     context.method = found;
-    for (const JobAttribute &attribute : tag.attributes) {
-        if (attribute.name != "name"_L1)
-            noteUnread(context, tag, attribute, {u"name"_s});
+    for (const JobAttribute &other : tag.attributes) {
+        if (other.name != attribute::name)
+            noteUnread(context, tag, other, {attribute::name});
     }
     return true;
 }
@@ -114,12 +96,12 @@ void checkIgnored(Context &context, const Tag &tag, bool isRoot)
 /// An element that the document knows.
 void checkElement(Context &context, const Tag &tag, const Element &element)
 {
-    if (context.method->document == vocabulary::FullOrder && tag.name == "receipe"_L1) {
-        const JobAttribute *name = tag.find(u"name");
+    if (context.method->document == vocabulary::FullOrder && tag.name == element::receipe) {
+        const JobAttribute *name = tag.find(attribute::name);
         if (name && name->value.startsWith(u'='))
             return; // left out on purpose
     }
-    const bool headers = tag.name == "headers"_L1;
+    const bool headers = tag.name == element::headers;
     if (context.isOff(element.setting) && !(headers && tag.attributes.isEmpty())) {
         context.note(tag.place, Code::SwitchedOff,
                      headers ? QString(phrase::onlyPrinterName)
@@ -133,7 +115,7 @@ void checkElement(Context &context, const Tag &tag, const Element &element)
 /// False when the job ends at this tag.
 bool checkTag(Context &context, const Tag &tag, bool isRoot)
 {
-    if (tag.name == "method"_L1)
+    if (tag.name == element::method)
         return checkMethod(context, tag);
     if (!context.method)
         checkBeforeMethod(context, tag, isRoot);

@@ -1,5 +1,6 @@
 // Texts that are printed in lines.
 #include "companions/check/context.h"
+#include "vocabulary/paper.h"
 
 #include <algorithm>
 
@@ -16,7 +17,7 @@ void checkText(Context &context, const Tag &tag, const JobAttribute &attribute)
     if (hasControl(attribute))
         context.note(attribute.place, Code::ControlCharacter,
                      filled(phrase::attributeHas, attribute.name, tag.name));
-    if (attribute.value.contains("TOTALE"_L1))
+    if (attribute.value.contains(vocabulary::reservedWord))
         context.note(attribute.place, Code::Totale, attribute.name, tag.name);
 }
 

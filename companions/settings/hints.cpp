@@ -131,7 +131,7 @@ QString meaningOf(const QTreeWidgetItem *row)
     QString text;
     if (path.size() == 2 && documents != 0) {
         text = u"<b>"_s + group + u"</b><br>"_s + readBy(documents);
-    } else if (path.size() == 3 && group == "language"_L1) {
+    } else if (path.size() == 3 && group == vocabulary::group::language) {
         for (const vocabulary::LanguageSetting &setting : vocabulary::languageSettings()) {
             if (path[2] == setting.key)
                 text = u"<b>"_s + path[2] + u"</b><br>"_s + translated(setting.meaning);

@@ -17,6 +17,9 @@ inline constexpr int lineWidth = korvel::vocabulary::lineWidth;
 inline constexpr auto lineOpener = "=\"/("_L1;
 inline constexpr auto lineCloser = " )\n"_L1;
 
+// How the printer's reserved word goes out: with a zero.
+inline constexpr auto reservedWordInPrint = "T0TALE"_L1;
+
 // Sections: what opens a document on the printer and what closes it. A fiscal document is opened by
 // two commands.
 inline constexpr auto openFiscal = "=K\n=C1\n"_L1;

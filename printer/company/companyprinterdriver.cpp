@@ -81,9 +81,11 @@ void CompanyPrinterDriver::endSection() { write(sectionOf(currentMethod).closing
 
 void CompanyPrinterDriver::print(unsigned indent, const QString &text)
 {
-    pendingLine +=
-        QString(indent, u' ')
-        + (text.contains("TOTALE"_L1) ? QString(text).replace("TOTALE"_L1, "T0TALE"_L1) : text);
+    using korvel::vocabulary::reservedWord;
+    pendingLine += QString(indent, u' ')
+                   + (text.contains(reservedWord)
+                          ? QString(text).replace(reservedWord, commands::reservedWordInPrint)
+                          : text);
 }
 
 void CompanyPrinterDriver::println(unsigned indent, const QString &text)
