@@ -136,6 +136,8 @@ constexpr Row rows[] = {
      "an end tag where no element is open"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.before.endsWith("<?"); }, 2,
      "\"<?\" without a name"_L1},
+    {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inRoot && at.before.endsWith("<!"); }, 2,
+     "\"<!\" begins no comment and no CDATA section"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.before.endsWith('<'); }, 1,
      "\"<\" begins no tag; write &lt;"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.isUnquoted(); }, 0,

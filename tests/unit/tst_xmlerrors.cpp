@@ -107,6 +107,7 @@ private slots:
         row("<job><!-- ^-- --></job>", "\"--\" in a comment; write a single -");
         row("<job>^<!-- </job>", "a comment without its \"-->\"");
         row("<job>^<?a </job>", "an instruction without its \"?>\"");
+        row("<job>^<!DOCTYPE job></job>", "\"<!\" begins no comment and no CDATA section");
         row("<job>^<? a?></job>", "\"<?\" without a name");
         row("<job>^<?a\u00b7 b?></job>", "an instruction has no name");
         row("<job>^<a\u00b7/></job>", "\"a\u00b7\" is no name");
