@@ -75,16 +75,4 @@ bool Config::loadStatements(std::streambuf &bytes)
     return closedByBrace;
 }
 
-void Config::loadFile(const QString &groupName, const QDomNode &parent)
-{
-    Tree body;
-    try {
-        Statements(*stream.rdbuf(), body).read();
-    } catch (const std::ios_base::failure &) {
-        return; // the file cannot be read any further
-    }
-    if (!groupName.isEmpty() && !parent.isNull())
-        document.add(groupName, body, parent);
-}
-
 } // namespace libconfig

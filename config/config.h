@@ -26,10 +26,12 @@ namespace libconfig {
  * Of either notation, a file's first 262,144 groups and 262,144 settings are read, nested up to
  * 1,000 levels, with names and values of 16,777,216 characters in all; the rest is read over.
  *
- * The bodies: config.cpp life cycle and look-up; cfgreader.cpp and xmlreader.cpp the two notations,
- * in; writers.cpp out; listview.cpp the view, in a target of its own (korvel::listview), so that
- * nothing else needs widgets. statements.h takes the brace notation apart, tree.h keeps what it
- * says, document.h makes the toolkit's tree of that for whoever asks for it.
+ * The bodies: config.cpp and cfgreader.cpp the brace notation in, and look-up by key; notations.cpp
+ * the choice of the notation; xmlreader.cpp the other one; writers.cpp both, out; dom.cpp whatever
+ * takes nodes of the toolkit's; listview.cpp the view, in a target of its own (korvel::listview),
+ * so that nothing else needs widgets. statements.h takes the brace notation apart, tree.h keeps
+ * what it says, document.h makes the toolkit's tree of that for whoever asks for it. A program that
+ * only reads the brace notation and looks keys up is linked without the toolkit's library of trees.
  */
 class Config
 {
@@ -189,6 +191,9 @@ public:
     void loadListView(const QTreeWidgetItem *item, QDomNode parent);
 
 protected:
+    /// Reads a file as constructor() does in the brace notation.
+    void readBraces(const QString &name);
+
     /// Names of a group's settings in the order in which they were first set; those that came
     /// another way are last, by name.
     [[nodiscard]] QStringList settingNames(const QDomElement &group) const;

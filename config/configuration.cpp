@@ -22,7 +22,7 @@ QString latin1(QString text)
 
 KVConfiguration::KVConfiguration()
 {
-    readFile(korvel::path::home() + "/.korvel/conf/korvel.conf"_L1, u"cfg"_s);
+    readBraces(korvel::path::home() + "/.korvel/conf/korvel.conf"_L1);
 }
 
 QString KVConfiguration::getStrValue(const QString &key) const

@@ -3,12 +3,12 @@
 #pragma once
 
 #include <QDomDocument>
-#include <QHash>
 #include <QString>
 #include <QStringList>
 
 #include <cstddef>
 #include <memory>
+#include <vector>
 
 namespace libconfig {
 
@@ -18,6 +18,9 @@ class Tree;
  * A pointer to the toolkit's document, which takes two kilobytes for a setting of nine bytes. It is
  * therefore made of what was read when it is asked for first; look-ups do without. From then on
  * the document alone counts, for whoever holds it may change it.
+ *
+ * The bodies: document.cpp what was read; dom.cpp whatever needs the toolkit's document, so that a
+ * program that only looks settings up is linked without that library.
  */
 class Document
 {
@@ -49,8 +52,11 @@ public:
     /// of its body. An empty one is not added.
     void add(const QString &groupName, const Tree &body, QDomNode parent);
 
-    /// What was read, as long as nobody has asked for the document; null from then on.
-    [[nodiscard]] const Tree *tree() const { return unmade.get(); }
+    /// What was read of a file, as long as nobody has asked for the document; null from then on.
+    [[nodiscard]] const Tree *tree() const;
+
+    /// The value of a key below the first element's first child; see Config::lookup().
+    [[nodiscard]] QString lookup(const QString &key) const;
 
     // The order of settings, of which the toolkit keeps none: attributes are in a hash.
 
@@ -65,21 +71,29 @@ public:
     [[nodiscard]] QStringList settingNames(const QDomElement &group) const;
 
 private:
-    void make();
-    QDomElement build(const QString &name, const Tree &read, QDomDocument &factory);
-
-    // The groups are held, so that none that is gone shares its identity with a new one.
-    struct Settings
+    /// The toolkit's document.
+    class Made
     {
-        QDomElement group;
-        QStringList names; // in the order in which they were first set
+    public:
+        Made() = default;
+        virtual ~Made() = default;
+        Q_DISABLE_COPY_MOVE(Made)
+        virtual void add(const QString &fileName, const Tree &read) = 0;
+        [[nodiscard]] virtual QString lookup(const QString &key) const = 0;
+    };
+    class Dom;
+
+    struct Read
+    {
+        QString fileName;
+        std::unique_ptr<Tree> tree;
     };
 
-    std::unique_ptr<QDomDocument> made;
-    std::unique_ptr<Tree> unmade;
-    QString unmadeName;                   // of the file that was read
-    QHash<const void *, Settings> orders; // by the identity of the group's element
-    bool isSet = false;                   // a file was read, or a document put in its place
+    [[nodiscard]] Dom &dom() const;
+
+    std::unique_ptr<Made> made;
+    std::vector<Read> unmade; // in the order of reading; none is empty but the first
+    bool isSet = false;       // a file was read, or a document put in its place
 };
 
 } // namespace libconfig

@@ -97,7 +97,10 @@ QLatin1StringView Tree::text(Text kept) const
     return {texts.data() + kept.offset, static_cast<qsizetype>(kept.length)};
 }
 
-QLatin1StringView Tree::Node::name() const { return tree->text(tree->groupList[group].name); }
+bool Tree::Node::isNamed(QStringView name) const
+{
+    return tree->text(tree->groupList[group].name) == name;
+}
 
 QString Tree::Node::value(QStringView setting) const
 {

@@ -72,7 +72,8 @@ public:
         {
         }
         [[nodiscard]] bool isNull() const { return group == none; }
-        [[nodiscard]] QLatin1StringView name() const;
+        [[nodiscard]] bool isGroup() const { return !isNull(); }
+        [[nodiscard]] bool isNamed(QStringView name) const;
         /// The value of a setting of this group; empty when there is none.
         [[nodiscard]] QString value(QStringView setting) const;
         [[nodiscard]] Node firstChild() const;
