@@ -27,6 +27,7 @@ struct Method
     QLatin1StringView documentType = rowOf(method::rows, name).documentType; // of its settings
 };
 
+// clang-format off
 constexpr Method methods[] = {
     {method::printPartialOrder,         {},    &Driver::printPartialOrder        },
     {method::printFullOrder,            {},    &Driver::printFullOrder           },
@@ -42,6 +43,7 @@ constexpr Method methods[] = {
     {method::printSold,                 {},    &Driver::printSold                },
     {method::printStatementOfAccount,   {},    &Driver::printStatementOfAccount  },
 };
+// clang-format on
 
 /// The method of that name; null when there is none.
 const Method *findMethod(const QString &name)

@@ -27,6 +27,7 @@ struct InfoLine
     QLatin1StringView attribute;
 };
 
+// clang-format off
 constexpr InfoLine orderInfoLines[] = {
     {&Layout::printDate,   QT_TRANSLATE_NOOP("PrinterDriver", "Date:"),   attribute::date  },
     {&Layout::printTime,   QT_TRANSLATE_NOOP("PrinterDriver", "Time:"),   attribute::time  },
@@ -35,6 +36,7 @@ constexpr InfoLine orderInfoLines[] = {
     {&Layout::printNote,   QT_TRANSLATE_NOOP("PrinterDriver", "Note:"),   attribute::note  },
     {&Layout::printCredit, QT_TRANSLATE_NOOP("PrinterDriver", "Credit:"), attribute::credit},
 };
+// clang-format on
 
 /// One line for each field of a comma-separated address, up to the first empty field. A field of
 /// blanks is not empty.

@@ -25,6 +25,7 @@ struct Setting
 };
 
 // Both tables are in the order in which the settings are read.
+// clang-format off
 constexpr Setting<int> numbers[] = {
     {key::quantityFieldWidth,   &Layout::quantityFieldWidth  },
     {key::priceFieldWidth,      &Layout::priceFieldWidth     },
@@ -52,6 +53,7 @@ constexpr Setting<bool> flags[] = {
     {key::printNote,            &Layout::printNote           },
     {key::openCashDrawer,       &Layout::openCashDrawer      },
 };
+// clang-format on
 
 } // namespace
 

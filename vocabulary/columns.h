@@ -22,11 +22,13 @@ struct ColumnWidth
     QLatin1StringView setting; // that says it
 };
 
+// clang-format off
 inline constexpr ColumnWidth columnWidths[] = {
     {Quantity, key::quantityFieldWidth  },
     {Price,    key::priceFieldWidth     },
     {Total,    key::totalPriceFieldWidth},
 };
+// clang-format on
 
 struct RowStyle
 {
@@ -72,11 +74,13 @@ struct ItemRows
     RowStyle style;
 };
 
+// clang-format off
 inline constexpr ItemRows itemRows[] = {
     {quantitiesOnly,                  style::qd            },
     {FullOrder | Invoice,             style::qdpt          },
     {Receipt | summaries | SoldItems, style::qxdpt         },
     {Statement,                       style::dateAmountType},
 };
+// clang-format on
 
 } // namespace korvel::vocabulary

@@ -76,6 +76,7 @@ struct DocumentType
     QLatin1StringView group; // of the settings, below "korvel"
 };
 
+// clang-format off
 inline constexpr DocumentType documentTypes[] = {
     {type::order,     group::doc         },
     {type::prefiscal, group::prefiscaldoc},
@@ -86,5 +87,6 @@ inline constexpr DocumentType documentTypes[] = {
     {type::report,    group::reportdoc   },
     {type::sold,      group::solddoc     },
 };
+// clang-format on
 
 } // namespace korvel::vocabulary

@@ -122,8 +122,7 @@ inline constexpr Phrase wrongBytes{"not %1: the bytes here print as a replacemen
 // Limit
 inline constexpr Phrase nestedElements{
     "more than %1 elements nested in each other: the paper ends here"};
-inline constexpr Phrase declaredNamespaces{
-    "more than %1 namespaces declared: the paper ends here"};
+inline constexpr Phrase declaredNamespaces{"more than %1 namespaces declared: the paper ends here"};
 inline constexpr Phrase declaredEntities{
     "more entities than the renderer takes, longer ones, or one in itself: the paper ends here"};
 inline constexpr Phrase declaredAttributes{

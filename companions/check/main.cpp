@@ -40,12 +40,12 @@ QString lineOf(const QString &file, const check::Finding &finding)
 QString jsonOf(const QString &file, const check::Finding &finding)
 {
     const QJsonObject object{
-        {u"file"_s,   file                                                 },
-        {u"line"_s,   finding.place.line                                   },
-        {u"column"_s, finding.place.column                                 },
-        {u"level"_s,  QString(check::levelName(infoOf(finding.code).level))},
-        {u"code"_s,   QString(infoOf(finding.code).name)                   },
-        {u"text"_s,   finding.text                                         },
+        {u"file"_s, file},
+        {u"line"_s, finding.place.line},
+        {u"column"_s, finding.place.column},
+        {u"level"_s, QString(check::levelName(infoOf(finding.code).level))},
+        {u"code"_s, QString(infoOf(finding.code).name)},
+        {u"text"_s, finding.text},
     };
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + u'\n';
 }

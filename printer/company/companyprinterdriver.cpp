@@ -21,6 +21,7 @@ struct Section
 };
 
 // The last row is for all other methods.
+// clang-format off
 constexpr Section sections[] = {
     {method::printAbstractOrderFiscal,  commands::openFiscal,   commands::closeFiscal  },
     {method::printFullOrderFiscal,      commands::openFiscal,   commands::closeFiscal  },
@@ -30,6 +31,7 @@ constexpr Section sections[] = {
     {method::printFullOrderInvoice,     commands::openReceipt,  commands::closeDocument},
     {{},                                commands::openDocument, commands::closeDocument},
 };
+// clang-format on
 
 const Section &sectionOf(const QString &method)
 {

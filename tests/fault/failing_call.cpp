@@ -39,6 +39,7 @@ struct Error
     int number;
 };
 
+// clang-format off
 constexpr Error errors[] = {
     {"EACCES", EACCES},
     {"EINTR",  EINTR },
@@ -47,6 +48,7 @@ constexpr Error errors[] = {
     {"ENOMEM", ENOMEM},
     {"ENOSPC", ENOSPC},
 };
+// clang-format on
 
 enum class Fault { None, Error, Short };
 

@@ -60,6 +60,7 @@ struct Style
     qint64 between; // characters beside the columns and the description
 };
 
+// clang-format off
 constexpr Style styles[] = {
     {"qdpt",             0, true,  true,  true,  1 },
     {"qxdpt",            0, true,  true,  true,  3 },
@@ -68,6 +69,7 @@ constexpr Style styles[] = {
     {"qd",               2, true,  false, false, 1 },
     {"date-amount-type", 3, false, true,  false, 15},
 };
+// clang-format on
 
 constexpr qint64 widest = 65536; // no column is padded further
 

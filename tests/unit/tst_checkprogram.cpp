@@ -444,11 +444,8 @@ private slots:
         VERIFY_ENDED(run, 0);
         const Desk desk;
         writeFile(desk.path("job.rng"), run.standardOutput);
-        for (const auto &[job, status] : QMap<QString, int>{
-                 {"clean.xml",   0},
-                 {"warning.xml", 3},
-                 {"error.xml",   3}
-        }.toStdMap())
+        for (const auto &[job, status] :
+             QMap<QString, int>{{"clean.xml", 0}, {"warning.xml", 3}, {"error.xml", 3}}.toStdMap())
             QCOMPARE(runProgram("xmllint", {"--noout", "--relaxng", "job.rng", job},
                                 {desk.folder.path(), {}, {}})
                          .status,
@@ -528,12 +525,12 @@ private slots:
         QCOMPARE(linesOf(texts.standardOutput).size(), 1);
         const QJsonObject object = QJsonDocument::fromJson(texts.standardOutput).object();
         const QJsonObject expected{
-            {"file",   "texts.xml"                                             },
-            {"line",   1                                                       },
-            {"column", 14                                                      },
-            {"level",  "error"                                                 },
-            {"code",   "unknown-method"                                        },
-            {"text",   QString::fromUtf8("no document is called \"\xC3\xA8\\\xF0\x9F\x8D\x95\" \": "
+            {"file", "texts.xml"},
+            {"line", 1},
+            {"column", 14},
+            {"level", "error"},
+            {"code", "unknown-method"},
+            {"text", QString::fromUtf8("no document is called \"\xC3\xA8\\\xF0\x9F\x8D\x95\" \": "
                                        "the job ends here")},
         };
         QCOMPARE(object, expected);
@@ -555,12 +552,8 @@ private slots:
         QCOMPARE(refused(run.standardOutput), QStringList());
 
         const QJsonObject line{
-            {"file",   "x"    },
-            {"line",   1      },
-            {"column", 1      },
-            {"level",  "error"},
-            {"code",   "limit"},
-            {"text",   "x"    },
+            {"file", "x"},      {"line", 1},       {"column", 1},
+            {"level", "error"}, {"code", "limit"}, {"text", "x"},
         };
         QByteArray wrong;
         const auto add = [&](const QJsonObject &object) {
@@ -600,12 +593,12 @@ private slots:
         QByteArray lines;
         for (const check::CodeInfo &row : check::codes()) {
             const QJsonObject line{
-                {"file",   "x"                                 },
-                {"line",   1                                   },
-                {"column", 1                                   },
-                {"level",  QString(check::levelName(row.level))},
-                {"code",   QString(row.name)                   },
-                {"text",   "x"                                 },
+                {"file", "x"},
+                {"line", 1},
+                {"column", 1},
+                {"level", QString(check::levelName(row.level))},
+                {"code", QString(row.name)},
+                {"text", "x"},
             };
             lines += QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
         }

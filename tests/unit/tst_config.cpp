@@ -623,10 +623,10 @@ private slots:
     void bracesCutAnywhere()
     {
         const std::pair<QString, QByteArray> settings[] = {
-            {"korvel.language.basedir",            "/opt/lang"},
-            {"korvel.language.file",               "/"        },
-            {"korvel.receiptdoc.descriptionWidth", "24"       },
-            {"korvel.receiptdoc.printLogo",        "true"     },
+            {"korvel.language.basedir", "/opt/lang"},
+            {"korvel.language.file", "/"},
+            {"korvel.receiptdoc.descriptionWidth", "24"},
+            {"korvel.receiptdoc.printLogo", "true"},
         };
         SettingsFile file("");
         for (qsizetype size = 0; size <= customary.size(); ++size) {

@@ -21,6 +21,7 @@ struct Method
 };
 
 // The full order reads the pre-fiscal layout and the statement of account that of the report.
+// clang-format off
 constexpr Method methods[] = {
     {"printPartialOrder",         "doc",          {}   },
     {"printFullOrder",            "prefiscaldoc", {}   },
@@ -36,6 +37,7 @@ constexpr Method methods[] = {
     {"printSold",                 "solddoc",      {}   },
     {"printStatementOfAccount",   "reportdoc",    {}   },
 };
+// clang-format on
 
 const QByteArrayList groups = {"doc",        "prefiscaldoc", "fiscaldoc", "receiptdoc",
                                "invoicedoc", "deliverydoc",  "reportdoc", "solddoc"};

@@ -149,6 +149,7 @@ constexpr vocabulary::Documents shared = withCustomer | receipts | vocabulary::P
                                          | vocabulary::SoldItems | vocabulary::Statement;
 
 // All documents read some settings that none prints by.
+// clang-format off
 const Phrase phrases[] = {
     {"all",                            0                        },
     {"shared",                         shared                   },
@@ -160,6 +161,7 @@ const Phrase phrases[] = {
     {"fiscal receipt alone",           vocabulary::FiscalReceipt},
     {"statement",                      vocabulary::Statement    },
 };
+// clang-format on
 
 /// The documents that a cell lists, parted by commas; what stands in parentheses is left out. No
 /// setting has all the bits that a cell gives with a word that is not understood.

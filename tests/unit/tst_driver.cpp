@@ -102,6 +102,7 @@ QList<Operation> operations()
     using OfFourTexts =
         void (Driver::*)(const QString &, const QString &, const QString &, const QString &);
 
+    // clang-format off
     return {
         {"getPaperWidth",             slotOf(&Driver::getPaperWidth)                           },
         {"reset",                     slotOf(&Driver::reset)                                   },
@@ -147,6 +148,7 @@ QList<Operation> operations()
         {"printStatementOfAccount",   slotOf(&Driver::printStatementOfAccount)                 },
         {"printDuplicate",            slotOf(&Driver::printDuplicate)                          },
     };
+    // clang-format on
 }
 
 } // namespace

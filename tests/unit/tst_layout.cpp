@@ -23,6 +23,7 @@ struct Number
     int Layout::*member;
 };
 
+// clang-format off
 constexpr Number numbers[] = {
     {"quantityFieldWidth",   &Layout::quantityFieldWidth  },
     {"priceFieldWidth",      &Layout::priceFieldWidth     },
@@ -30,6 +31,7 @@ constexpr Number numbers[] = {
     {"paperWidth",           &Layout::paperWidth          },
     {"paperRows",            &Layout::paperRows           },
 };
+// clang-format on
 
 struct Flag
 {
@@ -38,6 +40,7 @@ struct Flag
 };
 
 // In the order in which the members are declared.
+// clang-format off
 constexpr Flag flags[] = {
     {"printGeometry",        &Layout::printGeometry       },
     {"printHeader",          &Layout::printHeader         },
@@ -57,6 +60,7 @@ constexpr Flag flags[] = {
     {"printNote",            &Layout::printNote           },
     {"openCashDrawer",       &Layout::openCashDrawer      },
 };
+// clang-format on
 
 struct DocumentType
 {
@@ -65,6 +69,7 @@ struct DocumentType
     const char *prefix;
 };
 
+// clang-format off
 constexpr DocumentType documentTypes[] = {
     {"order",     "doc",          "korvel.doc."         },
     {"prefiscal", "prefiscaldoc", "korvel.prefiscaldoc."},
@@ -75,6 +80,7 @@ constexpr DocumentType documentTypes[] = {
     {"report",    "reportdoc",    "korvel.reportdoc."   },
     {"sold",      "solddoc",      "korvel.solddoc."     },
 };
+// clang-format on
 
 /// A device whose lines are no multiple of 32.
 class WideDriver : public RecordingDriver

@@ -188,9 +188,7 @@ private slots:
         const QStringList calls = {"println |01/02/2006:    " + column + "...50.00|"};
 
         QCOMPARE(RecordingDriver().callsOf("printStatementOfAccount", movement), calls);
-        const Catalogue catalogue({
-            {"Amount", "Importo"}
-        });
+        const Catalogue catalogue({{"Amount", "Importo"}});
         QCOMPARE(RecordingDriver().callsOf("printStatementOfAccount", movement), calls);
     }
 
@@ -232,13 +230,11 @@ private slots:
         QFETCH(QString, type);
         QFETCH(QString, column);
         const TemporaryHome home(settings);
-        const Catalogue catalogue({
-            {"sale",         "vendita"},
-            {"платёж", "Pagato" },
-            {"però",        "but"    },
-            {"Amount",       "Importo"},
-            {"refund",       "%1 %n"  }
-        });
+        const Catalogue catalogue({{"sale", "vendita"},
+                                   {"платёж", "Pagato"},
+                                   {"però", "but"},
+                                   {"Amount", "Importo"},
+                                   {"refund", "%1 %n"}});
         QCOMPARE(RecordingDriver().callsOf("printStatementOfAccount",
                                            "<statement date='sale' type='" + type
                                                + "' amount='refund'/>"),

@@ -17,12 +17,14 @@ struct Program
     QString path;
 };
 
+// clang-format off
 const QList<Program> programs = {
     {"korvel-check",    KORVEL_CHECK   },
     {"korvel-preview",  KORVEL_PREVIEW },
     {"korvel-print",    KORVEL_PRINT   },
     {"korvel-settings", KORVEL_SETTINGS},
 };
+// clang-format on
 
 const QString renderer = "korvel-print";
 

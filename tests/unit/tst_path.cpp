@@ -202,6 +202,7 @@ private slots:
         QTest::addColumn<int>("mode");
         QTest::addColumn<QString>("name");
 
+        // clang-format off
         const std::pair<const char *, QIODevice::OpenMode> modes[] = {
             {"to read",               QIODevice::ReadOnly                       },
             {"to write",              QIODevice::WriteOnly                      },
@@ -212,6 +213,7 @@ private slots:
             {"to empty, read, write", QIODevice::ReadWrite | QIODevice::Truncate},
             {"to write, as text",     QIODevice::WriteOnly | QIODevice::Text    },
         };
+        // clang-format on
         for (const auto &[what, mode] : modes)
             for (const char *name :
                  {"file", "missing", "folder", "folder/missing", "file/below", "missing/below",

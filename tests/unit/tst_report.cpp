@@ -349,14 +349,12 @@ private slots:
     void titlesFillTheirColumns()
     {
         const TemporaryHome home(reportSettings(R"(paperWidth = "40";)"));
-        const Catalogue catalogue({
-            {"TAXRATE", "IVA"  },
-            {"TAXABLE", "IMPON"},
-            {"TAX",     "IMP"  },
-            {"AMOUNT",  "TOT"  },
-            {"SERIAL",  "N"    },
-            {"TOTAL",   "T"    }
-        });
+        const Catalogue catalogue({{"TAXRATE", "IVA"},
+                                   {"TAXABLE", "IMPON"},
+                                   {"TAX", "IMP"},
+                                   {"AMOUNT", "TOT"},
+                                   {"SERIAL", "N"},
+                                   {"TOTAL", "T"}});
         RecordingDriver driver;
         QCOMPARE(driver.callsOf("printReport", "<receiptssummary/>").last(),
                  "println |   IVA      IMPON        IMP        TOT|");

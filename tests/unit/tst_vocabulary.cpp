@@ -83,6 +83,7 @@ QString namesThat(Holds holds)
 using Settings = QMap<QString, QString>;
 
 /// Columns with room between them, and every switch off.
+// clang-format off
 const Settings everythingOff = {
     {"quantityFieldWidth",   "4"    },
     {"priceFieldWidth",      "8"    },
@@ -93,6 +94,7 @@ const Settings everythingOff = {
     {"topMargin",            "2"    },
     {"descriptionWidth",     "20"   },
 };
+// clang-format on
 
 Settings everythingOn()
 {
@@ -234,6 +236,7 @@ struct Shown
 };
 
 // A number that stands for a variant's sign comes before its name, which is 5 here.
+// clang-format off
 const Shown shownValues[] = {
     {Value::Text,            "Zq8, Zq9", "^=\"/\\(.*Zq8, Zq9"                      },
     {Value::Amount,          "Zq8, Zq9", "^=\"/\\(.*Zq8, Zq9"                      },
@@ -249,6 +252,7 @@ const Shown shownValues[] = {
     {Value::Address,         "Zq8, Zq9", "^=\"/\\( Zq8 \\)"                        },
     {Value::Address,         "Zq8, Zq9", "^=\"/\\( Zq9 \\)"                        },
 };
+// clang-format on
 
 /// An attribute of a job of the sample shop, or an element without any.
 struct Sample
