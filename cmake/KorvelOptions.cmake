@@ -1,6 +1,7 @@
 # Compiler options: the product's targets link to korvel-options, the tests to korvel-warnings.
 
-set(KORVEL_SANITIZERS "" CACHE STRING "Sanitizers to build with, comma-separated (address,undefined)")
+set(KORVEL_SANITIZERS "" CACHE STRING
+    "Sanitizers to build with, comma-separated (address,undefined)")
 
 add_library(korvel-warnings INTERFACE)
 target_compile_options(korvel-warnings INTERFACE

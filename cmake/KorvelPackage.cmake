@@ -32,7 +32,8 @@ korvel_compress(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog.gz)
 
 # Packages of one version only fit each other.
 macro(korvel_package component name)
-    cmake_parse_arguments(package "" "SECTION;SYNOPSIS;DESCRIPTION" "DEPENDS;RECOMMENDS;SUGGESTS" ${ARGN})
+    cmake_parse_arguments(package
+        "" "SECTION;SYNOPSIS;DESCRIPTION" "DEPENDS;RECOMMENDS;SUGGESTS" ${ARGN})
     install(FILES
         ${PROJECT_SOURCE_DIR}/packaging/copyright
         ${KORVEL_COMPRESSED_DIR}/changelog.gz

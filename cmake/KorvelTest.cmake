@@ -6,8 +6,8 @@
 #                                          KORVEL_PRINT, and more targets, named the same way
 #   korvel_repeat_with_hash_seeds(name)    runs a test again with twenty seeds of the toolkit's hash
 #   korvel_add_fuzz_target(name libraries...)
-#                                          builds fuzz/fuzz_<name>.cpp and runs it on its corpus; with
-#                                          KORVEL_FUZZERS builds the fuzzer too
+#                                          builds fuzz/fuzz_<name>.cpp and runs it on its corpus;
+#                                          with KORVEL_FUZZERS builds the fuzzer too
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 find_program(LOCALEDEF localedef REQUIRED)
@@ -89,8 +89,8 @@ function(korvel_add_fuzz_target name)
     set_tests_properties(fuzz-${name} PROPERTIES ENVIRONMENT "${KORVEL_TEST_ENVIRONMENT}")
 endfunction()
 
-# Builds and tests tests/consumer, a project of its own, on the installed libraries; docs/add-a-printer.md
-# shows its sources.
+# Builds and tests tests/consumer, a project of its own, on the installed libraries;
+# docs/add-a-printer.md shows its sources.
 function(korvel_add_consumer_test)
     set(consumer ${PROJECT_SOURCE_DIR}/tests/consumer)
     set(work ${PROJECT_BINARY_DIR}/consumer)
