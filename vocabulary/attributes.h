@@ -28,6 +28,7 @@ struct Attribute
     Value value;
     QLatin1StringView setting = {}; // that switches it on, beside the element's, if anything does
     Column column = NoColumn;       // of a row, if it stands in one as a figure
+    QLatin1StringView meaning = {}; // to people, where it has a switch
 };
 
 namespace attribute {
@@ -81,19 +82,31 @@ inline constexpr Attribute rows[] = {
     {element::receipt,   shared, serialnumber, Value::Text                    },
     {element::invoice,   shared, serialnumber, Value::Text                    },
     {element::delivery,  shared, serialnumber, Value::Text                    },
-    {element::orderinfo, shared, date,         Value::Text,   key::printDate  },
-    {element::orderinfo, shared, time,         Value::Text,   key::printTime  },
-    {element::orderinfo, shared, table,        Value::Text,   key::printTable },
-    {element::orderinfo, shared, waiter,       Value::Text,   key::printWaiter},
-    {element::orderinfo, shared, note,         Value::Text,   key::printNote  },
-    {element::orderinfo, shared, credit,       Value::Amount, key::printCredit},
+    {element::orderinfo, shared, date,         Value::Text,
+     key::printDate, {}, "` Date: ` and the value"_L1},
+    {element::orderinfo, shared, time,         Value::Text,
+     key::printTime, {}, "` Time: ` and the value"_L1},
+    {element::orderinfo, shared, table,        Value::Text,
+     key::printTable, {}, "` Table: ` and the value"_L1},
+    {element::orderinfo, shared, waiter,       Value::Text,
+     key::printWaiter, {}, "` Waiter: ` and the value"_L1},
+    {element::orderinfo, shared, note,         Value::Text,
+     key::printNote, {}, "` Note: ` and the value"_L1},
+    {element::orderinfo, shared, credit,       Value::Amount,
+     key::printCredit, {}, "` Credit: ` and the value"_L1},
 
-    {element::customer, withCustomer, name,            Value::Text                              },
-    {element::customer, withCustomer, billingaddress,  Value::Address, key::printBillingAddress },
-    {element::customer, withCustomer, deliveryaddress, Value::Address, key::printDeliveryAddress},
-    {element::customer, withCustomer, telephone,       Value::Text,    key::printTelephone      },
-    {element::customer, withCustomer, licensenumber,   Value::Text,    key::printLicenseNumber  },
-    {element::customer, withCustomer, fiscalcode,      Value::Text,    key::printFiscalCode     },
+    {element::customer, withCustomer, name,            Value::Text,
+     {}, {}, "the line `CUSTOMER`, then the name"_L1},
+    {element::customer, withCustomer, billingaddress,  Value::Address,
+     key::printBillingAddress, {}, "a line for each part of the address"_L1},
+    {element::customer, withCustomer, deliveryaddress, Value::Address,
+     key::printDeliveryAddress, {}, "a line for each part of the address"_L1},
+    {element::customer, withCustomer, telephone,       Value::Text,
+     key::printTelephone, {}, "` Telephone: ` and the value"_L1},
+    {element::customer, withCustomer, licensenumber,   Value::Text,
+     key::printLicenseNumber, {}, "` License Number: ` and the value"_L1},
+    {element::customer, withCustomer, fiscalcode,      Value::Text,
+     key::printFiscalCode, {}, "` Fiscal Code: ` and the value"_L1},
 
     {element::receipe, quantitiesOnly, number,      Value::Text,            {}, Quantity},
     {element::receipe, quantitiesOnly, name,        Value::Text                         },

@@ -29,6 +29,7 @@ struct Setting
 struct LanguageSetting
 {
     QLatin1StringView key;
+    QLatin1StringView unit;
     const char *meaning; // as of a Setting
 };
 
@@ -145,8 +146,8 @@ inline constexpr auto file = "file"_L1;
 
 // clang-format off
 inline constexpr LanguageSetting rows[] = {
-    {basedir, QT_TRANSLATE_NOOP("vocabulary", "the folder of the catalogues")   },
-    {file,    QT_TRANSLATE_NOOP("vocabulary", "which catalogue; begins with `/`")},
+    {basedir, "path"_L1, QT_TRANSLATE_NOOP("vocabulary", "the folder of the catalogues")},
+    {file,    "text"_L1, QT_TRANSLATE_NOOP("vocabulary", "which catalogue; begins with `/`")},
 };
 // clang-format on
 
