@@ -641,18 +641,6 @@ private slots:
 
     // The page.
 
-    void pageListsAllCodes()
-    {
-        QList<QStringList> rows;
-        for (const check::CodeInfo &row : check::codes())
-            rows.append({'`' + QString(row.name) + '`', check::levelName(row.level), row.meaning,
-                         row.advice});
-        const QList<QStringList> onThePage = tableBelow("Codes");
-        for (qsizetype i = 0; i < std::min(rows.size(), onThePage.size()); ++i)
-            QCOMPARE(onThePage[i], rows[i]);
-        QCOMPARE(onThePage.size(), rows.size());
-    }
-
     void pageListsAllKeys()
     {
         const QJsonObject properties =

@@ -1,16 +1,13 @@
-// The reference pages: they say what the vocabulary says, and their examples are real.
+// The reference pages: nothing is missing, and their examples are real.
 #include "companions/check/vocabulary.h"
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QMap>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
-
-#include <algorithm>
 
 namespace {
 
@@ -38,16 +35,9 @@ QStringList sorted(const Names &names)
 
 // What the pages say.
 
-struct Table
-{
-    QString heading; // of the section that it stands in
-    QStringList columns;
-    QList<QStringList> rows;
-};
-
 struct Block
 {
-    QString heading;
+    QString heading;  // of the section that it stands in
     QString language; // "xml", "text", "stream", "conf" or none
     QString text;
     QString stream; // the last file with the ending .out that the page named before
@@ -56,7 +46,7 @@ struct Block
 
 struct Page
 {
-    QList<Table> tables;
+    QList<QStringList> rows; // of all tables, without their titles
     QList<Block> blocks;
 };
 
@@ -88,10 +78,8 @@ Page read(const QString &path)
         } else if (inBlock) {
             page.blocks.last().text += line + '\n';
         } else if (line.startsWith('|')) {
-            if (!inTable)
-                page.tables.append({heading, cellsOf(line), {}});
-            else if (!line.startsWith("|---"))
-                page.tables.last().rows.append(cellsOf(line));
+            if (inTable && !line.startsWith("|---"))
+                page.rows.append(cellsOf(line));
         } else if (line.startsWith('#')) {
             heading = line;
         } else if (const auto link = streamLink.match(line); link.hasMatch()) {
@@ -105,21 +93,9 @@ Page read(const QString &path)
 /// What a text says in backticks.
 Names quotedIn(const QString &text) { return matches(text, "`([^`]+)`"); }
 
-QString unquoted(QString text) { return text.remove('`'); }
-
 const QString jobFormat = "docs/job-format.md";
 const QString settingsPage = "docs/settings.md";
 const QString oddities = "docs/oddities.md";
-
-/// The tables of the section of job-format.md that is about a method.
-QList<Table> tablesAbout(const QString &method)
-{
-    QList<Table> tables;
-    for (const Table &table : read(jobFormat).tables)
-        if (table.heading.contains('`' + method + '`'))
-            tables.append(table);
-    return tables;
-}
 
 QStringList pages()
 {
@@ -127,124 +103,6 @@ QStringList pages()
     for (const QString &file : QDir(top + "docs").entryList({"*.md"}, QDir::Files, QDir::Name))
         paths.append("docs/" + file);
     return paths;
-}
-
-// What the vocabulary says, in the form of the pages.
-
-/// The documents that a page speaks of in a word, beside those that go by their title.
-struct Phrase
-{
-    const char *words;
-    vocabulary::Documents documents;
-};
-
-constexpr vocabulary::Documents fiscalReceipts =
-    vocabulary::FiscalReceipt | vocabulary::SummaryFiscalReceipt;
-constexpr vocabulary::Documents receipts = vocabulary::Receipt | vocabulary::SummaryReceipt;
-constexpr vocabulary::Documents invoices = vocabulary::Invoice | vocabulary::SummaryInvoice;
-constexpr vocabulary::Documents withCustomer = vocabulary::FullOrder | vocabulary::Receipt
-                                               | invoices | vocabulary::KitchenOrder
-                                               | vocabulary::DeliveryNote;
-constexpr vocabulary::Documents shared = withCustomer | receipts | vocabulary::PeriodReport
-                                         | vocabulary::SoldItems | vocabulary::Statement;
-
-// All documents read some settings that none prints by.
-// clang-format off
-const Phrase phrases[] = {
-    {"all",                            0                        },
-    {"shared",                         shared                   },
-    {"every document with text lines", shared                   },
-    {"with a customer",                withCustomer             },
-    {"receipts",                       receipts                 },
-    {"invoices",                       invoices                 },
-    {"fiscal receipts",                fiscalReceipts           },
-    {"fiscal receipt alone",           vocabulary::FiscalReceipt},
-    {"statement",                      vocabulary::Statement    },
-};
-// clang-format on
-
-/// The documents that a cell lists, parted by commas; what stands in parentheses is left out. No
-/// setting has all the bits that a cell gives with a word that is not understood.
-vocabulary::Documents documentsIn(const QString &cell)
-{
-    static const QRegularExpression inParentheses(" \\([^)]*\\)");
-    vocabulary::Documents documents = 0;
-    for (const QString &words : QString(cell).remove(inParentheses).split(", ")) {
-        bool found = false;
-        for (const Phrase &phrase : phrases) {
-            if (words == phrase.words) {
-                documents |= phrase.documents;
-                found = true;
-            }
-        }
-        for (const vocabulary::Method &method : vocabulary::methods()) {
-            if (words == method.title) {
-                documents |= method.document;
-                found = true;
-            }
-        }
-        if (!found)
-            return ~0U;
-    }
-    return documents;
-}
-
-QString inBackticks(const QString &name) { return '`' + name + '`'; }
-
-/// The attributes of an element that a document reads.
-QList<vocabulary::Attribute> readAttributes(const vocabulary::Element &element,
-                                            vocabulary::Document document)
-{
-    auto rows = vocabulary::attributesOf(element.name, document);
-    rows.removeIf([](const auto &row) { return row.value == vocabulary::Value::Unread; });
-    return rows;
-}
-
-/// Two elements have a table of their own for their attributes.
-QString attributesCell(const vocabulary::Element &element, vocabulary::Document document)
-{
-    if (element.name == "orderinfo")
-        return "the table below";
-    if (element.name == "customer")
-        return "as above";
-    QStringList names;
-    for (const vocabulary::Attribute &row : readAttributes(element, document))
-        names.append(inBackticks(row.name));
-    if (names.isEmpty())
-        return element.anyAttribute ? "every attribute, whatever its name" : "none";
-    if (element.anyAttribute)
-        names.append("then three attributes of any name for each document");
-    return names.join(", ");
-}
-
-/// What switches an element on, or its lines one by one.
-QString switchCell(const vocabulary::Element &element)
-{
-    if (!element.setting.isEmpty())
-        return inBackticks(element.setting);
-    const auto rows = readAttributes(element, vocabulary::Receipt);
-    const bool eachByItsOwn =
-        !rows.isEmpty() && std::all_of(rows.begin(), rows.end(), [](const auto &row) {
-            return !row.setting.isEmpty();
-        });
-    return eachByItsOwn ? "each line by its own" : "always";
-}
-
-/// The kind of a setting by its unit.
-vocabulary::Kind kindOf(const QString &unit)
-{
-    if (unit == "switch")
-        return vocabulary::Kind::Switch;
-    return unit == "text" ? vocabulary::Kind::Text : vocabulary::Kind::Number;
-}
-
-/// Rows of cells as lines: what a failing test shows.
-QStringList asLines(const QList<QStringList> &rows)
-{
-    QStringList lines;
-    for (const QStringList &cells : rows)
-        lines.append(cells.join(" | "));
-    return lines;
 }
 
 // Examples: a job and what the renderer makes of it.
@@ -314,186 +172,46 @@ class TestDocumentation : public QObject
     Q_OBJECT
 
 private slots:
-    /// Its group of settings on both pages, and what opens and closes its section.
-    void methodsAndGroups_data() { addMethods(); }
+    /// Its section has its title and the table of its elements, if it has any.
+    void everyMethodHasASection_data() { addMethods(); }
 
-    void methodsAndGroups()
-    {
-        const QString method = QTest::currentDataTag();
-        const vocabulary::Method *known = vocabulary::findMethod(method);
-        QVERIFY(known);
-        const QString prefix = vocabulary::pathOf(known->group);
-        bool inSettings = false;
-        for (const Table &table : read(settingsPage).tables)
-            for (const QStringList &row : table.rows)
-                if (table.columns.first() == "group" && quotedIn(row[2]).contains(method)) {
-                    QVERIFY(!inSettings);
-                    inSettings = true;
-                    QCOMPARE(row[0], '`' + prefix.chopped(1).section('.', 1) + '`');
-                    QCOMPARE(row[1], '`' + prefix + '`');
-                }
-        QVERIFY(inSettings);
-
-        for (const Table &table : read(jobFormat).tables)
-            for (const QStringList &row : table.rows)
-                if (table.columns.first() == "method" && row[0] == '`' + method + '`') {
-                    QCOMPARE(row[2], '`' + prefix.chopped(1).section('.', 1) + '`');
-                    QByteArray stream;
-                    render("<job><method name=\"" + method + "\"/></job>", &stream);
-                    const QString commands = linesOf(stream).join("`, `").remove("\\n");
-                    QCOMPARE('`' + commands + '`', row[3] + ", " + row[4]);
-                }
-    }
-
-    // The vocabulary has the rows of the pages, in their order and in their words.
-
-    void methodsOfTheVocabulary()
-    {
-        const QString text = textOf(jobFormat);
-        QList<QStringList> expected;
-        for (const vocabulary::Method &row : vocabulary::methods()) {
-            expected.append({inBackticks(row.name), row.title, inBackticks(row.group)});
-            const QString title = QString(row.title.front()).toUpper() + QString(row.title).mid(1);
-            const QString heading = "\n## " + title + ": " + inBackticks(row.name) + '\n';
-            QVERIFY2(text.count(heading) == 1, qPrintable(heading));
-        }
-        QList<QStringList> rows;
-        for (const QStringList &cells : rowsOf(jobFormat, "method"))
-            rows.append(cells.first(3));
-        QCOMPARE(asLines(rows), asLines(expected));
-    }
-
-    void groupsOfTheVocabulary()
-    {
-        QStringList groups;
-        for (const QStringList &cells : rowsOf(settingsPage, "group")) {
-            groups.append(unquoted(cells[0]));
-            QCOMPARE(cells[1], inBackticks("korvel." + groups.last() + '.'));
-            QCOMPARE(documentsIn(cells[2]), vocabulary::documentsOf(groups.last()));
-            Names methods;
-            for (const vocabulary::Method &row : vocabulary::methods())
-                if (row.group == groups.last())
-                    methods.insert(row.name);
-            QCOMPARE(sorted(quotedIn(cells[2])), sorted(methods));
-        }
-        for (const vocabulary::Method &row : vocabulary::methods())
-            QVERIFY2(groups.count(row.group) == 1, row.group.data());
-    }
-
-    /// The printer's name, which comes with the headers, has a row on the page alone.
-    void sharedElementsOfTheVocabulary()
-    {
-        QList<QStringList> expected;
-        for (const vocabulary::Element &row : vocabulary::elements())
-            if (vocabulary::isShared(row))
-                expected.append({inBackticks(row.name), attributesCell(row, vocabulary::Receipt),
-                                 switchCell(row), row.meaning});
-        QList<QStringList> rows = rowsOf(jobFormat, "element", "## Shared elements");
-        QCOMPARE(rows.removeIf(
-                     [](const QStringList &cells) { return cells.first() == "`headers`, then"; }),
-                 1);
-        QCOMPARE(asLines(rows), asLines(expected));
-    }
-
-    void elementsOfTheVocabulary_data() { addMethods(); }
-
-    void elementsOfTheVocabulary()
+    void everyMethodHasASection()
     {
         const vocabulary::Method *method = vocabulary::findMethod(QString(QTest::currentDataTag()));
         QVERIFY(method);
-        QList<QStringList> expected;
+        const QString title =
+            QString(method->title.front()).toUpper() + QString(method->title).mid(1);
+        const QString heading = "\n## " + title + ": `" + method->name + "`\n";
+        QVERIFY2(textOf(jobFormat).count(heading) == 1, qPrintable(heading));
+        bool hasElements = false; // the summary order has none
         for (const vocabulary::Element &row : vocabulary::elements())
-            if ((row.documents & method->document) != 0 && !vocabulary::isShared(row))
-                expected.append(
-                    {inBackticks(row.name), attributesCell(row, method->document), row.meaning});
-        QList<QStringList> rows;
-        for (const Table &table : tablesAbout(method->name))
-            rows += table.rows;
-        QCOMPARE(asLines(rows), asLines(expected));
+            hasElements =
+                hasElements
+                || ((row.documents & method->document) != 0 && !vocabulary::isShared(row));
+        const QString section = textOf(jobFormat).section(heading, 1).section("\n## ", 0, 0);
+        QCOMPARE(section.count("<!-- table: elements " + method->name + " -->"),
+                 hasElements ? 1 : 0);
     }
 
-    void attributesOfTheVocabulary_data()
+    /// What stands between the marks of a table is written by scripts/lint --update.
+    void otherTables_data()
     {
-        QTest::addColumn<QString>("heading");
-        QTest::addColumn<QString>("element");
-        QTest::newRow("orderinfo") << "## Shared elements"
-                                   << "orderinfo";
-        QTest::newRow("customer") << "### Customer"
-                                  << "customer";
+        QTest::addColumn<QString>("page");
+        QTest::newRow("methods") << jobFormat;
+        QTest::newRow("elements shared") << jobFormat;
+        QTest::newRow("attributes orderinfo") << jobFormat;
+        QTest::newRow("attributes customer") << jobFormat;
+        QTest::newRow("groups") << settingsPage;
+        QTest::newRow("settings") << settingsPage;
+        QTest::newRow("language settings") << settingsPage;
+        QTest::newRow("codes") << QString("docs/checks.md");
     }
 
-    void attributesOfTheVocabulary()
+    void otherTables()
     {
-        QFETCH(QString, heading);
-        QFETCH(QString, element);
-        const vocabulary::Element *row = vocabulary::findElement(element, vocabulary::Receipt);
-        QVERIFY(row);
-        QList<QStringList> expected;
-        for (const vocabulary::Attribute &attribute : readAttributes(*row, vocabulary::Receipt))
-            expected.append(
-                {inBackticks(attribute.name),
-                 inBackticks(attribute.setting.isEmpty() ? row->setting : attribute.setting)});
-        QList<QStringList> rows;
-        for (const QStringList &cells : rowsOf(jobFormat, "attribute", heading))
-            rows.append(cells.first(2));
-        QCOMPARE(asLines(rows), asLines(expected));
-    }
-
-    /// The tables of the documents have no column for switches, nor is one needed there.
-    void switchesOfTheVocabulary()
-    {
-        for (const vocabulary::Element &row : vocabulary::elements())
-            QVERIFY2(vocabulary::isShared(row) || row.setting.isEmpty() || row.name == "customer",
-                     row.name.data());
-        for (const vocabulary::Attribute &row : vocabulary::attributes())
-            QVERIFY2(row.setting.isEmpty() || row.element == "orderinfo"
-                         || row.element == "customer",
-                     row.name.data());
-    }
-
-    void settingsOfTheVocabulary()
-    {
-        const QList<QStringList> rows = rowsOf(settingsPage, "key", "## Keys of a document");
-        QCOMPARE(rows.size(), vocabulary::settings().size());
-        auto cells = rows.begin();
-        for (const vocabulary::Setting &setting : vocabulary::settings()) {
-            const QString key = setting.key;
-            const QStringList row = *cells++;
-            QCOMPARE(row[0], inBackticks(key));
-            QCOMPARE(key + ": " + row[1], key + ": " + setting.unit);
-            QVERIFY2(kindOf(row[1]) == setting.kind, qPrintable(key));
-            QVERIFY2((row[2] == "off") == (setting.kind == vocabulary::Kind::Switch),
-                     qPrintable(key));
-            QVERIFY2(documentsIn(row[3]) == setting.documents, qPrintable(key));
-            QCOMPARE(key + ": " + row[4], key + ": " + setting.meaning);
-        }
-    }
-
-    void languageSettingsOfTheVocabulary()
-    {
-        QList<QStringList> expected;
-        for (const vocabulary::LanguageSetting &row : vocabulary::languageSettings())
-            expected.append({inBackticks(QString("korvel.language.") + row.key), row.meaning});
-        QList<QStringList> rows;
-        for (const QStringList &cells : rowsOf(settingsPage, "key", "## Language"))
-            rows.append({cells.first(), cells.last()});
-        QCOMPARE(asLines(rows), asLines(expected));
-    }
-
-    /// A table of a kind that is compared above, under a heading that is not looked at there.
-    void noOtherTableHasRowsOfTheVocabulary()
-    {
-        const auto count = [](const QString &path, const QString &firstColumn) {
-            qsizetype tables = 0;
-            for (const Table &table : read(path).tables)
-                tables += table.columns.first() == firstColumn ? 1 : 0;
-            return tables;
-        };
-        QCOMPARE(count(jobFormat, "method"), 1);
-        QCOMPARE(count(jobFormat, "element"), 13); // the shared ones, all documents but one
-        QCOMPARE(count(jobFormat, "attribute"), 2);
-        QCOMPARE(count(settingsPage, "group"), 1);
-        QCOMPARE(count(settingsPage, "key"), 2);
+        QFETCH(QString, page);
+        QCOMPARE(textOf(page).count(QString("\n<!-- table: ") + QTest::currentDataTag() + " -->\n"),
+                 1);
     }
 
     void everyMethodHasAnExample_data() { addMethods(); }
@@ -587,11 +305,10 @@ private slots:
         QTest::addColumn<QString>("where");
         QTest::addColumn<QString>("tests");
         int count = 0;
-        for (const Table &table : read(oddities).tables)
-            for (const QStringList &row : table.rows) {
-                QCOMPARE(row.size(), 3);
-                QTest::addRow("%d: %s", ++count, qPrintable(row[0])) << row[1] << row[2];
-            }
+        for (const QStringList &row : read(oddities).rows) {
+            QCOMPARE(row.size(), 3);
+            QTest::addRow("%d: %s", ++count, qPrintable(row[0])) << row[1] << row[2];
+        }
         QVERIFY(count > 80);
     }
 
@@ -650,18 +367,6 @@ private:
                || test.contains(
                    QRegularExpression("^    void " + QRegularExpression::escape(name) + "\\(\\)",
                                       QRegularExpression::MultilineOption));
-    }
-
-    /// The rows of the tables whose first column is called so, of those under a heading if given.
-    static QList<QStringList> rowsOf(const QString &path, const QString &firstColumn,
-                                     const QString &heading = {})
-    {
-        QList<QStringList> rows;
-        for (const Table &table : read(path).tables)
-            if (table.columns.first() == firstColumn
-                && (heading.isEmpty() || table.heading == heading))
-                rows += table.rows;
-        return rows;
     }
 
     static void addMethods()
