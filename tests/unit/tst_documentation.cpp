@@ -363,10 +363,7 @@ private:
     {
         if (name.isEmpty())
             return false;
-        return test.contains('"' + name + '"')
-               || test.contains(
-                   QRegularExpression("^    void " + QRegularExpression::escape(name) + "\\(\\)",
-                                      QRegularExpression::MultilineOption));
+        return test.contains('"' + name + '"') || test.contains("\n    void " + name + "()");
     }
 
     static void addMethods()
