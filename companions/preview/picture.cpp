@@ -4,10 +4,12 @@
 #include <QBuffer>
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QGlyphRun>
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPolygon>
+#include <QRawFont>
 
 #include <algorithm>
 
@@ -75,6 +77,64 @@ qsizetype clusterLength(const QString &text, qsizetype at)
         ++end;
     return end - at;
 }
+
+/// Letters painted all at once: a painter takes long for each text, however short.
+class Letters
+{
+public:
+    explicit Letters(QPainter &rowPainter)
+        : painter(rowPainter)
+        , font(QRawFont::fromFont(rowPainter.font()))
+        , baseline((cell.height() - font.ascent() - font.descent()) / 2 + font.ascent())
+    {
+    }
+
+    /**
+     * Takes a letter that fills no more than its cell; false, and nothing done, for other
+     * characters and for what the font does not have.
+     */
+    bool add(QChar letter, QPoint cellAt, const QColor &colour)
+    {
+        quint32 glyph = 0;
+        int count = 1;
+        if (letter >= firstMark || !font.glyphIndexesForChars(&letter, 1, &glyph, &count)
+            || glyph == 0)
+            return false;
+        QPointF advance;
+        if (!font.advancesForGlyphIndexes(&glyph, &advance, 1))
+            return false;
+        if (colour != pen)
+            paint();
+        pen = colour;
+        glyphs.append(glyph);
+        positions.append(cellAt + QPointF((cell.width() - advance.x()) / 2, baseline));
+        return true;
+    }
+
+    void paint()
+    {
+        if (glyphs.isEmpty())
+            return;
+        QGlyphRun run;
+        run.setRawFont(font);
+        run.setGlyphIndexes(glyphs);
+        run.setPositions(positions);
+        painter.setPen(pen);
+        painter.drawGlyphRun({}, run);
+        glyphs.clear();
+        positions.clear();
+    }
+
+private:
+    static constexpr QChar firstMark = u'\u0300'; // what is before it, stands alone
+
+    QPainter &painter;
+    const QRawFont font;
+    const qreal baseline;
+    QColor pen;
+    QList<quint32> glyphs;
+    QList<QPointF> positions;
+};
 
 } // namespace
 
@@ -145,18 +205,23 @@ void Picture::paintRow(QPainter &painter, const PaperRow &row, int top) const
     QString text = row.text;
     if (text.size() > widest)
         text = text.first(widest - 1) + u'…';
-    for (qsizetype at = 0; at < text.size();) {
-        const qsizetype length = clusterLength(text, at);
+    Letters letters(painter);
+    for (qsizetype at = 0, length = 0; at < text.size(); at += length) {
+        length = clusterLength(text, at);
         const bool beyond = at + length > columns;
-        painter.setPen(beyond ? red : colourOf(row.kind));
+        const QColor colour = beyond ? red : colourOf(row.kind);
         // Behind the paper's edge rather than on its margin, so that nobody takes it for printed.
         const auto left =
             static_cast<int>(margin + (beyond ? margin + cell.width() : 0) + at * cell.width());
+        if (length == 1 && (text.at(at) == u' ' || letters.add(text.at(at), {left, top}, colour)))
+            continue;
+        letters.paint(); // what overlaps does so from left to right
+        painter.setPen(colour);
         painter.drawText(QRect(left, top, static_cast<int>(length) * cell.width(), cell.height()),
                          Qt::AlignCenter | Qt::TextDontClip | Qt::TextSingleLine,
                          text.sliced(at, length));
-        at += length;
     }
+    letters.paint();
 }
 
 QImage Picture::toImage() const
