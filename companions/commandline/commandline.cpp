@@ -87,12 +87,23 @@ Output::Output() { failed = !file.open(stdout, QIODevice::WriteOnly); }
 
 Output &Output::operator<<(const QString &text)
 {
-    failed = failed || file.write(text.toUtf8()) < 0;
+    constexpr qsizetype block = 32'768;
+    pending += text;
+    if (pending.size() >= block)
+        writePending();
     return *this;
+}
+
+void Output::writePending()
+{
+    if (!pending.isEmpty())
+        failed = failed || file.write(pending.toUtf8()) < 0;
+    pending.resize(0);
 }
 
 int Output::end(int status)
 {
+    writePending();
     failed = failed || !file.flush();
     return failed ? trouble(u"cannot write to standard output"_s) : status;
 }

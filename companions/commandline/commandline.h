@@ -52,7 +52,10 @@ public:
     int end(int status);
 
 private:
+    void writePending();
+
     QFile file;
+    QString pending; // is converted and written a block at a time
     bool failed = false;
 };
 
