@@ -5,7 +5,9 @@
 #include "printer/company/commands.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
+#include <utility>
 
 namespace preview {
 
@@ -25,7 +27,7 @@ struct Form
 {
     Kind kind;
     const Part *parts;
-    qsizetype count;
+    std::size_t count;
 };
 
 constexpr Part lineParts[] = {
@@ -51,8 +53,11 @@ constexpr Form forms[] = {
     {Kind::Deduction, deductionParts, std::size(deductionParts)},
 };
 
-/// A command without a text. The bytes that open a document close it too: sortSections() tells
-/// them apart.
+// Every command begins with this byte.
+constexpr char commandStart = '=';
+
+/// A command without a text. The bytes that open a document close it too: sortSection() tells them
+/// apart.
 struct Mark
 {
     Kind kind;
@@ -80,16 +85,20 @@ QByteArrayView slice(QByteArrayView stream, qsizetype offset, qsizetype length)
 /// How many bytes of `expected` stand at an offset of the stream.
 qsizetype commonBytes(QByteArrayView stream, qsizetype offset, QByteArrayView expected)
 {
-    const QByteArrayView found = slice(stream, offset, expected.size());
-    return std::mismatch(found.begin(), found.end(), expected.begin(), expected.end()).first
-           - found.begin();
+    const qsizetype most = std::min(stream.size() - offset, expected.size());
+    qsizetype common = 0;
+    while (common < most && stream[offset + common] == expected[common])
+        ++common;
+    return common;
 }
 
-/// A try to read a command.
+/// A try to read a command: the mark or the form that fits, or the form that fits best.
 struct Match
 {
-    Command command;
-    qsizetype end = 0; // behind the last byte that fits
+    const Mark *mark = nullptr;
+    const Form *form = nullptr;
+    std::array<QByteArrayView, std::size(saleRowParts)> texts; // behind each piece of the form
+    qsizetype end = 0;                                         // behind the last byte that fits
     bool whole = false;
     bool begun = false; // the first piece at least is there
 };
@@ -134,9 +143,9 @@ qsizetype endOfField(QByteArrayView stream, qsizetype start, QByteArrayView clos
 Match match(const Form &form, QByteArrayView stream, qsizetype offset)
 {
     Match result;
-    result.command.kind = form.kind;
+    result.form = &form;
     result.end = offset;
-    for (qsizetype i = 0; i < form.count; ++i) {
+    for (std::size_t i = 0; i < form.count; ++i) {
         const Part &part = form.parts[i];
         const QByteArrayView bytes = bytesOf(part.bytes);
         const qsizetype fitting = commonBytes(stream, result.end, bytes);
@@ -157,7 +166,7 @@ Match match(const Form &form, QByteArrayView stream, qsizetype offset)
         } else {
             result.end = endOfField(stream, start, closer);
         }
-        result.command.*part.text = stream.sliced(start, result.end - start).toByteArray();
+        result.texts.at(i) = stream.sliced(start, result.end - start);
     }
     result.whole = true;
     return result;
@@ -168,6 +177,8 @@ Match bestMatch(QByteArrayView stream, qsizetype offset)
 {
     Match best;
     best.end = offset;
+    if (stream[offset] != commandStart)
+        return best;
     for (const Mark &mark : marks) {
         const QByteArrayView bytes = bytesOf(mark.bytes);
         const qsizetype end = offset + commonBytes(stream, offset, bytes);
@@ -175,20 +186,36 @@ Match bestMatch(QByteArrayView stream, qsizetype offset)
             best.end = std::max(best.end, end);
             continue;
         }
+        best.mark = &mark;
         best.end = end;
-        best.command.kind = mark.kind;
-        best.command.section = mark.section;
         best.whole = true;
         return best;
     }
     for (const Form &form : forms) {
-        Match result = match(form, stream, offset);
+        const Match result = match(form, stream, offset);
         if (result.whole)
             return result;
         if (result.end > best.end || (result.begun && result.end == best.end))
-            best = std::move(result);
+            best = result;
     }
     return best;
+}
+
+/// The command that fits, with copies of its texts.
+Command commandOf(const Match &match)
+{
+    Command command;
+    if (match.mark) {
+        command.kind = match.mark->kind;
+        command.section = match.mark->section;
+        return command;
+    }
+    command.kind = match.form->kind;
+    for (std::size_t i = 0; i < match.form->count; ++i) {
+        if (match.form->parts[i].text)
+            command.*match.form->parts[i].text = match.texts.at(i).toByteArray();
+    }
+    return command;
 }
 
 /// Behind the line feed that ends the line of an offset.
@@ -204,6 +231,8 @@ void splitCentring(Command &command)
     const auto *const text = std::find_if(command.content.cbegin(), command.content.cend(),
                                           [](char byte) { return byte != ' '; });
     const auto blanks = text - command.content.cbegin();
+    if (blanks == 0)
+        return;
     const qsizetype width = decoded(command.content).size();
 
     // With s blanks before n characters: s = (W - n) / 2 rounded down, and s + n is the width.
@@ -216,66 +245,74 @@ void splitCentring(Command &command)
     }
 }
 
-/// Tells closing commands from opening ones where their bytes are the same.
-void sortSections(QList<Command> &commands)
+} // namespace
+
+Decoder::Decoder(QByteArray bytes)
+    : stream(std::move(bytes))
 {
-    bool isOpen = false;
-    Section open = Section::Document;
-    for (qsizetype i = 0; i < commands.size(); ++i) {
-        Command &command = commands[i];
-        if (command.kind == Kind::SectionClosed) { // a fiscal one: its bytes are its own
-            isOpen = isOpen && open != Section::Fiscal;
-        } else if (command.kind == Kind::SectionOpened && command.section != Section::Document) {
-            isOpen = true;
+}
+
+std::optional<Command> Decoder::next()
+{
+    std::optional<Command> command = ahead ? std::exchange(ahead, std::nullopt) : read();
+    if (command)
+        sortSection(*command);
+    return command;
+}
+
+/// Reads the command at the offset; the bytes that open a document or close it open it.
+std::optional<Command> Decoder::read()
+{
+    if (offset == stream.size())
+        return {};
+
+    const Match found = bestMatch(stream, offset);
+    Command command;
+    qsizetype end = found.end;
+    if (found.whole) {
+        command = commandOf(found);
+        if (command.kind == Kind::Line)
+            splitCentring(command);
+    } else {
+        end = endOfLine(stream, offset);
+        // Of a pair of commands with a bad second one, that one is bad too.
+        if (found.end > end && !bestMatch(stream, end).whole)
+            end = endOfLine(stream, found.end);
+        command.content = stream.sliced(offset, end - offset);
+        command.badByte = found.end;
+        if (found.begun)
+            command.begunAs = found.form->kind;
+    }
+    command.offset = offset;
+    command.line = line;
+    line += std::count(stream.cbegin() + offset, stream.cbegin() + end, '\n');
+    offset = end;
+    return command;
+}
+
+/// Tells a closing command from an opening one where their bytes are the same.
+void Decoder::sortSection(Command &command)
+{
+    if (command.kind == Kind::SectionClosed) { // a fiscal one: its bytes are its own
+        isOpen = isOpen && open != Section::Fiscal;
+    } else if (command.kind == Kind::SectionOpened) {
+        const bool closes =
+            command.section == Section::Document && (isOpen ? open != Section::Fiscal : endsHere());
+        if (closes) {
+            command.kind = Kind::SectionClosed;
+            command.section = isOpen ? open : Section::Document;
+        } else {
             open = command.section;
-        } else if (command.kind == Kind::SectionOpened) {
-            const bool last = i + 1 == commands.size();
-            const bool opensNext = !last && commands[i + 1].kind == Kind::SectionOpened
-                                   && commands[i + 1].section != Section::Document;
-            if (isOpen ? open != Section::Fiscal : last || opensNext) {
-                command.kind = Kind::SectionClosed;
-                command.section = isOpen ? open : Section::Document;
-                isOpen = false;
-            } else {
-                isOpen = true;
-                open = Section::Document;
-            }
         }
+        isOpen = !closes;
     }
 }
 
-} // namespace
-
-QList<Command> decode(const QByteArray &stream)
+/// Whether nothing follows, or what opens a receipt or a fiscal section.
+bool Decoder::endsHere()
 {
-    QList<Command> commands;
-    qsizetype line = 1;
-    for (qsizetype offset = 0; offset < stream.size();) {
-        Match result = bestMatch(stream, offset);
-        Command &command = result.command;
-        qsizetype end = result.end;
-        if (!result.whole) {
-            end = endOfLine(stream, offset);
-            // Of a pair of commands with a bad second one, that one is bad too.
-            if (result.end > end && !bestMatch(stream, end).whole)
-                end = endOfLine(stream, result.end);
-            Command unknown;
-            unknown.content = stream.sliced(offset, end - offset);
-            unknown.badByte = result.end;
-            if (result.begun)
-                unknown.begunAs = command.kind;
-            command = std::move(unknown);
-        } else if (command.kind == Kind::Line) {
-            splitCentring(command);
-        }
-        command.offset = offset;
-        command.line = line;
-        line += std::count(stream.cbegin() + offset, stream.cbegin() + end, '\n');
-        commands.append(std::move(command));
-        offset = end;
-    }
-    sortSections(commands);
-    return commands;
+    ahead = read();
+    return !ahead || (ahead->kind == Kind::SectionOpened && ahead->section != Section::Document);
 }
 
 QByteArray encode(const Command &command)
@@ -291,7 +328,7 @@ QByteArray encode(const Command &command)
     for (const Form &form : forms) {
         if (form.kind != command.kind)
             continue;
-        for (qsizetype i = 0; i < form.count; ++i) {
+        for (std::size_t i = 0; i < form.count; ++i) {
             const Part &part = form.parts[i];
             bytes += bytesOf(part.bytes);
             if (part.text == &Command::content)

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QList>
 
 #include <optional>
 
@@ -40,8 +39,8 @@ struct Command
 };
 
 /**
- * Takes a stream apart. Every byte of it belongs to one command, in order; any bytes at all can be
- * given.
+ * Takes a stream apart, one command after the other, in time and memory that grow with the stream
+ * and no faster. Every byte of it belongs to one command, in order; any bytes at all can be given.
  *
  * A line counts as centred when so many blanks stand before its text as the back end puts there
  * for a text of that length. A line that is indented by just as many may be either, and counts as
@@ -54,7 +53,26 @@ struct Command
  * What fits no command is unknown up to and including its next line feed; a pair of commands with
  * a broken second one is unknown as a whole.
  */
-QList<Command> decode(const QByteArray &stream);
+class Decoder
+{
+public:
+    explicit Decoder(QByteArray bytes);
+
+    /// The next command; nothing at the end of the stream.
+    std::optional<Command> next();
+
+private:
+    std::optional<Command> read();
+    void sortSection(Command &command);
+    bool endsHere();
+
+    const QByteArray stream;
+    qsizetype offset = 0;         // of what was not read yet
+    qsizetype line = 1;           // there
+    std::optional<Command> ahead; // read already, because the one before asked what follows
+    bool isOpen = false;
+    Section open = Section::Document; // while isOpen
+};
 
 /// The bytes of a command, put together from what it holds.
 QByteArray encode(const Command &command);

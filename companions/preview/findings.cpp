@@ -31,12 +31,13 @@ public:
     {
     }
 
-    QList<Finding> inspect(const QList<Command> &commands)
+    QList<Finding> inspect()
     {
-        if (commands.isEmpty())
+        if (stream.isEmpty())
             note(0, u"the stream is empty: nothing is printed"_s);
-        for (const Command &command : commands)
-            inspect(command);
+        Decoder decoder(stream);
+        while (const auto command = tooMany ? std::nullopt : decoder.next())
+            inspect(*command);
         if (open)
             note(openedAt, nameOf(*open) + u" opened here is never closed"_s);
         std::stable_sort(found.begin(), found.end(),
@@ -148,8 +149,9 @@ private:
     void inspectRowWidth(const Command &row, const QString &what)
     {
         qsizetype width = 0;
-        for (const PaperRow &line : paperOf({row}, columns))
-            width = std::max(width, line.text.size());
+        Roll roll(columns,
+                  [&](const PaperRow &line) { width = std::max(width, line.text.size()); });
+        roll.print(row);
         inspectWidth(row, width, what);
     }
 
@@ -166,7 +168,7 @@ private:
     {
         bool readable =
             true; // bytes that are not UTF-8 are one finding as long as they follow each other
-        while (!text.isEmpty()) {
+        while (!text.isEmpty() && !tooMany) {
             const qsizetype length = characterLength(text);
             const QByteArrayView character = text.first(std::max<qsizetype>(length, 1));
             if (length == 0 && readable)
@@ -229,9 +231,9 @@ private:
 
 } // namespace
 
-QList<Finding> findings(const QByteArray &stream, const QList<Command> &commands, int columns)
+QList<Finding> findings(const QByteArray &stream, int columns)
 {
-    return Inspector(stream, columns).inspect(commands);
+    return Inspector(stream, columns).inspect();
 }
 
 } // namespace preview

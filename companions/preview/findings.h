@@ -3,6 +3,7 @@
 
 #include "companions/preview/decoder.h"
 
+#include <QList>
 #include <QString>
 
 namespace preview {
@@ -27,10 +28,8 @@ inline constexpr qsizetype mostFindings = 1000;
  * misread: a closing parenthesis, which ends the text, a slash in a field of a sale row, control
  * characters, and what is not UTF-8. Rows too large to be added up are said too.
  *
- * @param stream   the bytes
- * @param commands the same, decoded
- * @param columns  characters in a line of the paper
+ * @param columns characters in a line of the paper
  */
-QList<Finding> findings(const QByteArray &stream, const QList<Command> &commands, int columns);
+QList<Finding> findings(const QByteArray &stream, int columns);
 
 } // namespace preview

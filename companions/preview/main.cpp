@@ -67,22 +67,28 @@ int writePicture(const QString &path, const QList<preview::PaperRow> &rows, int 
 }
 
 /// Writes what the options ask for; the status to end with.
-int write(const QCommandLineParser &parser, const QList<preview::Command> &decoded, int columns,
-          int status)
+int write(const QCommandLineParser &parser, const QByteArray &stream, int columns, int status)
 {
+    if (parser.isSet(outputOption))
+        return writePicture(parser.value(outputOption), preview::paperOf(stream, columns), columns,
+                            status);
     Output out;
+    preview::Decoder decoder(stream);
     if (parser.isSet(jsonOption)) {
-        for (const preview::Command &command : decoded)
-            out << QString::fromUtf8(QJsonDocument(toJson(command)).toJson(QJsonDocument::Compact))
+        while (const auto command = decoder.next())
+            out << QString::fromUtf8(QJsonDocument(toJson(*command)).toJson(QJsonDocument::Compact))
                        + u'\n';
     } else if (parser.isSet(listOption)) {
-        for (const preview::Command &command : decoded)
-            out << listed(command) + u'\n';
+        while (const auto command = decoder.next())
+            out << listed(*command) + u'\n';
     } else {
-        const QList<preview::PaperRow> rows = paperOf(decoded, columns);
-        if (parser.isSet(outputOption))
-            return writePicture(parser.value(outputOption), rows, columns, status);
-        out << boxed(rows, columns, wantsColours());
+        const preview::Box box(columns, wantsColours());
+        out << box.top();
+        preview::Roll roll(columns, [&](const preview::PaperRow &row) { out << box.line(row); });
+        while (const auto command = decoder.next())
+            roll.print(*command);
+        roll.end();
+        out << box.bottom();
     }
     return out.end(status);
 }
@@ -116,15 +122,15 @@ int run(const QStringList &arguments)
     if (!stream)
         return trouble(path + u": "_s + error);
 
-    const QList<preview::Command> decoded = preview::decode(*stream);
-    const QList<preview::Finding> found = findings(*stream, decoded, columns);
+    const QList<preview::Finding> found = preview::findings(*stream, columns);
     if (!parser.isSet(quietOption)) {
+        const QString name = shownName(path);
         for (const preview::Finding &finding : found)
-            std::fputs(qUtf8Printable(shownName(path) + u':' + QString::number(finding.line)
-                                      + u": "_s + finding.text + u'\n'),
+            std::fputs(qUtf8Printable(name + u':' + QString::number(finding.line) + u": "_s
+                                      + finding.text + u'\n'),
                        stderr);
     }
-    return write(parser, decoded, columns, found.isEmpty() ? Clean : Findings);
+    return write(parser, *stream, columns, found.isEmpty() ? Clean : Findings);
 }
 
 } // namespace

@@ -1,8 +1,9 @@
 // How each command looks on the paper, and the sum of a fiscal section.
 #include "companions/preview/paper.h"
 
-#include "companions/preview/amounts.h"
 #include "companions/preview/text.h"
+
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,115 +23,104 @@ QString moneyOf(const QByteArray &hundredths)
     return amount ? amount->toString() : u'"' + textOf(hundredths) + u"\"/100"_s;
 }
 
-class Roll
-{
-public:
-    explicit Roll(int paperColumns)
-        : columns(paperColumns)
-    {
-    }
-
-    QList<PaperRow> print(const QList<Command> &commands)
-    {
-        for (const Command &command : commands)
-            print(command);
-        printSum(u"Sum so far (preview)"_s); // of a section that is never closed
-        return rows;
-    }
-
-private:
-    void print(const Command &command)
-    {
-        if (cutNext && command.kind != Kind::SectionClosed) {
-            append(Row::Cut, {});
-            cutNext = false;
-        }
-        switch (command.kind) {
-        case Kind::Line:
-            append(Row::Printed, QString(command.spaces, u' ') + textOf(command.content));
-            break;
-        case Kind::SectionOpened:
-            printSum(u"Sum so far (preview)"_s);
-            if (command.section == Section::Fiscal)
-                registered = Amount();
-            uncounted = 0;
-            break;
-        case Kind::SectionClosed:
-            if (command.section == Section::Fiscal)
-                printSum(u"Sum (by the preview)"_s);
-            cutNext = true;
-            break;
-        case Kind::SaleRow:
-            printSaleRow(command);
-            break;
-        case Kind::Deduction: {
-            const auto amount = Amount::of(command.amount);
-            count(amount ? std::optional(-*amount) : std::nullopt);
-            appendSpread(Row::Deducted, u"DEDUCTION"_s, u'-' + moneyOf(command.amount));
-            break;
-        }
-        case Kind::Unknown:
-            append(Row::Unknown, escaped(command.content));
-            break;
-        }
-    }
-
-    void printSaleRow(const Command &row)
-    {
-        const auto amount = Amount::of(row.amount, row.quantity);
-        count(amount);
-        if (row.quantity != "1" || !amount)
-            append(Row::Registered,
-                   u"  "_s + textOf(row.quantity) + u" x "_s + moneyOf(row.amount));
-        const QString department = u" R"_s + textOf(row.department);
-        appendSpread(Row::Registered, textOf(row.description),
-                     (amount ? amount->toString() : u"?"_s) + department);
-    }
-
-    void printSum(const QString &label)
-    {
-        if (!registered)
-            return;
-        append(Row::Computed, QString(columns, u'-'));
-        appendSpread(Row::Computed, label, registered->toString());
-        if (uncounted > 0)
-            appendSpread(Row::Computed, u"Rows not counted"_s, QString::number(uncounted));
-        registered.reset();
-    }
-
-    /// Adds to the sum what was registered, where that is known.
-    void count(std::optional<Amount> amount)
-    {
-        if (registered && !(amount && registered->add(*amount)))
-            ++uncounted;
-    }
-
-    void append(Row kind, const QString &text) { rows.append({kind, text}); }
-
-    /// One text at the left and one at the right, on two rows where one has no room for both.
-    void appendSpread(Row kind, const QString &left, const QString &right)
-    {
-        const qsizetype between = columns - left.size() - right.size();
-        if (between >= 1) {
-            append(kind, left + QString(between, u' ') + right);
-            return;
-        }
-        append(kind, left);
-        append(kind, right.rightJustified(columns));
-    }
-
-    const int columns;
-    QList<PaperRow> rows;
-    std::optional<Amount> registered; // in the fiscal section that is open
-    int uncounted = 0;                // rows of it that are not in the sum
-    bool cutNext = false;
-};
-
 } // namespace
 
-QList<PaperRow> paperOf(const QList<Command> &commands, int columns)
+Roll::Roll(int paperColumns, TakeRow takeRow)
+    : columns(paperColumns)
+    , take(std::move(takeRow))
 {
-    return Roll(columns).print(commands);
+}
+
+void Roll::print(const Command &command)
+{
+    if (cutNext && command.kind != Kind::SectionClosed) {
+        append(Row::Cut, {});
+        cutNext = false;
+    }
+    switch (command.kind) {
+    case Kind::Line:
+        append(Row::Printed, QString(command.spaces, u' ') + textOf(command.content));
+        break;
+    case Kind::SectionOpened:
+        printSum(u"Sum so far (preview)"_s);
+        if (command.section == Section::Fiscal)
+            registered = Amount();
+        uncounted = 0;
+        break;
+    case Kind::SectionClosed:
+        if (command.section == Section::Fiscal)
+            printSum(u"Sum (by the preview)"_s);
+        cutNext = true;
+        break;
+    case Kind::SaleRow:
+        printSaleRow(command);
+        break;
+    case Kind::Deduction: {
+        const auto amount = Amount::of(command.amount);
+        count(amount ? std::optional(-*amount) : std::nullopt);
+        appendSpread(Row::Deducted, u"DEDUCTION"_s, u'-' + moneyOf(command.amount));
+        break;
+    }
+    case Kind::Unknown:
+        append(Row::Unknown, escaped(command.content));
+        break;
+    }
+}
+
+void Roll::end() { printSum(u"Sum so far (preview)"_s); }
+
+void Roll::printSaleRow(const Command &row)
+{
+    const auto amount = Amount::of(row.amount, row.quantity);
+    count(amount);
+    if (row.quantity != "1" || !amount)
+        append(Row::Registered, u"  "_s + textOf(row.quantity) + u" x "_s + moneyOf(row.amount));
+    const QString department = u" R"_s + textOf(row.department);
+    appendSpread(Row::Registered, textOf(row.description),
+                 (amount ? amount->toString() : u"?"_s) + department);
+}
+
+void Roll::printSum(const QString &label)
+{
+    if (!registered)
+        return;
+    append(Row::Computed, QString(columns, u'-'));
+    appendSpread(Row::Computed, label, registered->toString());
+    if (uncounted > 0)
+        appendSpread(Row::Computed, u"Rows not counted"_s, QString::number(uncounted));
+    registered.reset();
+}
+
+/// Adds to the sum what was registered, where that is known.
+void Roll::count(std::optional<Amount> amount)
+{
+    if (registered && !(amount && registered->add(*amount)))
+        ++uncounted;
+}
+
+void Roll::append(Row kind, const QString &text) { take({kind, text}); }
+
+/// One text at the left and one at the right, on two rows where one has no room for both.
+void Roll::appendSpread(Row kind, const QString &left, const QString &right)
+{
+    const qsizetype between = columns - left.size() - right.size();
+    if (between >= 1) {
+        append(kind, left + QString(between, u' ') + right);
+        return;
+    }
+    append(kind, left);
+    append(kind, right.rightJustified(columns));
+}
+
+QList<PaperRow> paperOf(const QByteArray &stream, int columns)
+{
+    QList<PaperRow> rows;
+    Roll roll(columns, [&](const PaperRow &row) { rows.append(row); });
+    Decoder decoder(stream);
+    while (const auto command = decoder.next())
+        roll.print(*command);
+    roll.end();
+    return rows;
 }
 
 } // namespace preview

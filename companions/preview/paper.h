@@ -1,10 +1,14 @@
 // The paper: what the printer would make of the commands, row by row.
 #pragma once
 
+#include "companions/preview/amounts.h"
 #include "companions/preview/decoder.h"
 
 #include <QList>
 #include <QString>
+
+#include <functional>
+#include <optional>
 
 namespace preview {
 
@@ -24,16 +28,46 @@ struct PaperRow
 };
 
 /**
- * The rows of the paper, in the order of the commands.
+ * Puts commands on the paper, one after the other.
  *
  * A sale row shows its description, amount (times its quantity, which stands above where it is not
  * 1, or cannot be counted) and department; a deduction is marked as one. Where a fiscal section
  * closes stands the sum of what was registered in it, and how many rows could not be counted: those
  * with an amount or a quantity that is no plain number. In a section that is never closed the sum
  * stands at its end, and says so. A row outside a fiscal section is in no sum.
- *
- * @param columns characters in a line of the paper; nothing is cut to it
  */
-QList<PaperRow> paperOf(const QList<Command> &commands, int columns);
+class Roll
+{
+public:
+    /// What becomes of a row.
+    using TakeRow = std::function<void(const PaperRow &)>;
+
+    /**
+     * @param columns characters in a line of the paper; nothing is cut to it
+     * @param take    gets each row as soon as it is printed
+     */
+    Roll(int columns, TakeRow take);
+
+    void print(const Command &command);
+
+    /// Prints what stands behind the last command: the sum of a section that is never closed.
+    void end();
+
+private:
+    void printSaleRow(const Command &row);
+    void printSum(const QString &label);
+    void count(std::optional<Amount> amount);
+    void append(PaperRow::Kind kind, const QString &text);
+    void appendSpread(PaperRow::Kind kind, const QString &left, const QString &right);
+
+    const int columns;
+    const TakeRow take;
+    std::optional<Amount> registered; // in the fiscal section that is open
+    int uncounted = 0;                // rows of it that are not in the sum
+    bool cutNext = false;
+};
+
+/// All rows of a stream's paper; see Roll.
+QList<PaperRow> paperOf(const QByteArray &stream, int columns);
 
 } // namespace preview

@@ -1,6 +1,7 @@
 // Edges, padding and colours of the box.
 #include "companions/preview/terminal.h"
 
+#include <algorithm>
 #include <cwchar>
 
 using namespace Qt::Literals::StringLiterals;
@@ -13,7 +14,7 @@ using Kind = PaperRow::Kind;
 
 /// Cells of a terminal that a text takes: a letter takes one, most emoji two, an accent that is
 /// set over the letter before it none.
-int cellsOf(const QString &text)
+int cellsOf(QStringView text)
 {
     int cells = 0;
     for (const uint point : text.toUcs4()) {
@@ -56,36 +57,49 @@ QLatin1StringView colourOf(Kind kind)
     return {};
 }
 
-QString painted(const QString &text, QLatin1StringView colour, bool coloured)
-{
-    return coloured && !colour.isEmpty() && !text.isEmpty() ? colour + text + plain : text;
-}
-
 } // namespace
 
-QString boxed(const QList<PaperRow> &rows, int columns, bool coloured)
+Box::Box(int paperColumns, bool isColoured)
+    : columns(paperColumns)
+    , coloured(isColoured)
 {
-    const QString edge(columns, u'─');
-    QString box = u'┌' + edge + u"┐\n"_s;
-    for (const auto &[kind, text] : rows) {
-        if (kind == Kind::Cut) {
-            box += u'├' + painted(QString(columns, u'╌'), colourOf(kind), coloured) + u"┤\n"_s;
-            continue;
-        }
-        const QChar side = kind == Kind::Computed || kind == Kind::Unknown ? u'┊' : u'│';
-        const qsizetype crossed = crossing(text, columns);
-        const QString inside = text.first(crossed);
-        const QString beyond = text.sliced(crossed);
-        box += side + painted(inside, colourOf(kind), coloured)
-               + QString(std::max(columns - cellsOf(inside), 0), u' ');
-        if (beyond.isEmpty())
-            box += side;
-        else
-            box += painted(u'»' + beyond, beyondPaper, coloured);
-        box += u'\n';
+}
+
+QString Box::top() const { return u'┌' + QString(columns, u'─') + u"┐\n"_s; }
+
+QString Box::line(const PaperRow &row) const
+{
+    QString line;
+    if (row.kind == Kind::Cut) {
+        line += u'├';
+        paint(line, QString(columns, u'╌'), colourOf(row.kind));
+        return line + u"┤\n"_s;
     }
-    box += u'└' + edge + u"┘\n"_s;
-    return box;
+    const QChar side = row.kind == Kind::Computed || row.kind == Kind::Unknown ? u'┊' : u'│';
+    const qsizetype crossed = crossing(row.text, columns);
+    const QStringView inside = QStringView(row.text).first(crossed);
+    const QStringView beyond = QStringView(row.text).sliced(crossed);
+    line.reserve(row.text.size() + columns + 4); // edges, mark, line feed
+    line += side;
+    paint(line, inside, colourOf(row.kind));
+    line.resize(line.size() + std::max(columns - cellsOf(inside), 0), u' ');
+    if (beyond.isEmpty())
+        line += side;
+    else
+        paint(line, QString(u'»' + beyond), beyondPaper);
+    line += u'\n';
+    return line;
+}
+
+QString Box::bottom() const { return u'└' + QString(columns, u'─') + u"┘\n"_s; }
+
+/// Adds a text to a line, in a colour if there are any.
+void Box::paint(QString &line, QStringView text, QLatin1StringView colour) const
+{
+    if (coloured && !colour.isEmpty() && !text.isEmpty())
+        line += colour + text + plain;
+    else
+        line += text;
 }
 
 } // namespace preview

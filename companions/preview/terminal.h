@@ -6,13 +6,28 @@
 namespace preview {
 
 /**
- * The paper as a box of text, each line ended by a line feed. What is wider than the paper goes on
- * behind its edge, which is then marked with "»"; what is not on the paper, but said by the
+ * The paper as a box of text, line by line; each ends in a line feed. What is wider than the paper
+ * goes on behind its edge, which is then marked with "»"; what is not on the paper, but said by the
  * preview, has a dotted edge.
- *
- * @param columns  characters in a line of the paper
- * @param coloured with escape sequences that a terminal shows as colours
  */
-QString boxed(const QList<PaperRow> &rows, int columns, bool coloured);
+class Box
+{
+public:
+    /**
+     * @param columns  characters in a line of the paper
+     * @param coloured with escape sequences that a terminal shows as colours
+     */
+    Box(int columns, bool coloured);
+
+    QString top() const;
+    QString line(const PaperRow &row) const;
+    QString bottom() const;
+
+private:
+    void paint(QString &line, QStringView text, QLatin1StringView colour) const;
+
+    const int columns;
+    const bool coloured;
+};
 
 } // namespace preview

@@ -349,14 +349,12 @@ void SettingsWindow::chooseJobFile()
 void SettingsWindow::showStream(const QByteArray &stream, const QString &messages)
 {
     shown = stream;
-    const QList<preview::Command> commands = preview::decode(stream);
     paper->showPaper(
-        preview::Picture(preview::paperOf(commands, commands::lineWidth), commands::lineWidth));
+        preview::Picture(preview::paperOf(stream, commands::lineWidth), commands::lineWidth));
     QStringList lines;
     if (!messages.isEmpty())
         lines.append(messages);
-    for (const preview::Finding &finding :
-         preview::findings(stream, commands, commands::lineWidth)) {
+    for (const preview::Finding &finding : preview::findings(stream, commands::lineWidth)) {
         if (lines.size() == 4) {
             lines.append(u"…"_s);
             break;

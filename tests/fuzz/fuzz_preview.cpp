@@ -1,9 +1,10 @@
 // Streams of any bytes, taken apart, put together, inspected, listed and printed.
 #include "companions/preview/findings.h"
 #include "companions/preview/listing.h"
-#include "companions/preview/terminal.h"
 #include "companions/preview/text.h"
 #include "fuzz/expect.h"
+#include "support/box.h"
+#include "support/commands.h"
 
 #include <QJsonDocument>
 
@@ -88,7 +89,7 @@ void expectKinds(const QList<Command> &commands)
 
 void expectFindings(const QByteArray &stream, const QList<Command> &commands)
 {
-    const QList<Finding> found = findings(stream, commands, 32);
+    const QList<Finding> found = findings(stream, 32);
     expect(found.size() <= mostFindings + 1, "findings have a limit");
     qsizetype before = 0;
     qsizetype line = 1;
@@ -142,7 +143,7 @@ void expectFindings(const QByteArray &stream, const QList<Command> &commands)
     }
     expect((sound && !fiscal) || !found.isEmpty(), "a stream without findings is sound");
 
-    const QList<PaperRow> paper = paperOf(commands, 32);
+    const QList<PaperRow> paper = paperOf(stream, 32);
     const bool counted = std::none_of(paper.cbegin(), paper.cend(), [](const PaperRow &row) {
         return row.kind == PaperRow::Kind::Computed && row.text.startsWith("Rows not counted ");
     });
@@ -169,9 +170,9 @@ void expectListings(const QList<Command> &commands)
     }
 }
 
-void expectPaper(const QList<Command> &commands, int columns)
+void expectPaper(const QByteArray &stream, const QList<Command> &commands, int columns)
 {
-    const QList<PaperRow> rows = paperOf(commands, columns);
+    const QList<PaperRow> rows = paperOf(stream, columns);
 
     qsizetype next = 0; // row that a line or what is unknown must not be before
     const auto expectRow = [&](PaperRow::Kind kind, qsizetype width) {
@@ -222,7 +223,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     expectKinds(commands);
     expectFindings(stream, commands);
     expectListings(commands);
-    expectPaper(commands, 32);
-    expectPaper(commands, 1);
+    expectPaper(stream, commands, 32);
+    expectPaper(stream, commands, 1);
     return 0;
 }

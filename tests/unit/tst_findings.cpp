@@ -15,7 +15,7 @@ namespace {
 QStringList foundIn(const QByteArray &stream, int columns = 32)
 {
     QStringList lines;
-    for (const Finding &finding : findings(stream, decode(stream), columns)) {
+    for (const Finding &finding : findings(stream, columns)) {
         if (!finding.text.startsWith("byte " + QString::number(finding.offset) + ": "))
             lines.append("not at byte " + QString::number(finding.offset));
         lines.append(QString::number(finding.line) + ": " + finding.text);
@@ -362,7 +362,7 @@ private slots:
     void halfAnOpening()
     {
         const QByteArray stream = "=K\n";
-        const QList<Finding> found = findings(stream, decode(stream), 32);
+        const QList<Finding> found = findings(stream, 32);
         QCOMPARE(found.size(), 1);
         QCOMPARE(found.first().offset, 3);
         QCOMPARE(found.first().line, 2);
@@ -390,7 +390,7 @@ private slots:
         QFETCH(qsizetype, expected);
         QFETCH(bool, more);
         QCOMPARE(mostFindings, 1000);
-        const QList<Finding> found = findings(stream, decode(stream), 32);
+        const QList<Finding> found = findings(stream, 32);
         QCOMPARE(found.size(), expected);
         for (qsizetype i = 0; i < found.size(); ++i) {
             QCOMPARE(found[i].text.endsWith(": too much is wrong; no more is listed"),
@@ -415,7 +415,7 @@ private slots:
     {
         QFETCH(QByteArray, row);
         const QByteArray stream = fiscal(row);
-        const QList<PaperRow> paper = paperOf(decode(stream), 32);
+        const QList<PaperRow> paper = paperOf(stream, 32);
         QVERIFY(paper.last().text.startsWith("Rows not counted "));
         const QStringList found = foundIn(stream);
         QCOMPARE(found.size(), 1);

@@ -1,5 +1,5 @@
 // The paper of a stream, row by row, and the box in a terminal.
-#include "companions/preview/terminal.h"
+#include "support/box.h"
 #include "support/bytes.h"
 
 #include <QRegularExpression>
@@ -34,10 +34,10 @@ QString nameOf(Kind kind)
 }
 
 /// The paper of a stream, a row as a line: "printed |abc|", "cut".
-QStringList paperOf(const QByteArray &stream, int columns = 32)
+QStringList shown(const QByteArray &stream, int columns = 32)
 {
     QStringList lines;
-    for (const PaperRow &row : paperOf(decode(stream), columns))
+    for (const PaperRow &row : paperOf(stream, columns))
         lines.append(row.kind == Kind::Cut ? "cut" : nameOf(row.kind) + " |" + row.text + '|');
     return lines;
 }
@@ -139,7 +139,7 @@ private slots:
     {
         QFETCH(QByteArray, stream);
         QFETCH(QStringList, rows);
-        QCOMPARE(paperOf(stream), rows);
+        QCOMPARE(shown(stream), rows);
     }
 
     void narrowPaper_data()
@@ -176,7 +176,7 @@ private slots:
         QFETCH(QByteArray, stream);
         QFETCH(int, columns);
         QFETCH(QStringList, rows);
-        QCOMPARE(paperOf(stream, columns), rows);
+        QCOMPARE(shown(stream, columns), rows);
     }
 
     void sums_data()
@@ -216,7 +216,7 @@ private slots:
         QFETCH(QString, amount);
         QFETCH(int, notCounted);
         QStringList computed;
-        for (const QString &row : paperOf(fiscal(rows))) {
+        for (const QString &row : shown(fiscal(rows))) {
             if (row.startsWith("computed"))
                 computed.append(row);
         }
@@ -292,7 +292,7 @@ private slots:
     {
         QFETCH(QByteArray, stream);
         QFETCH(QStringList, rows);
-        QCOMPARE(paperOf(stream), rows);
+        QCOMPARE(shown(stream), rows);
     }
 
     /// Not even a job made for it can tell a terminal what to do.
@@ -304,7 +304,7 @@ private slots:
                                            + "\n)\n=S\r\n=V/$\x1B"
                                              "1\r\n")
                                   + bad + "\n\x1B\xFF";
-        const QList<PaperRow> rows = paperOf(decode(stream), 32);
+        const QList<PaperRow> rows = paperOf(stream, 32);
         QVERIFY(rows.size() >= 7);
         for (const PaperRow &row : rows) {
             QVERIFY2(std::none_of(row.text.cbegin(), row.text.cend(),
@@ -322,12 +322,12 @@ private slots:
     void whatDoesNotPrintKeepsItsWidth()
     {
         const QString replaced(QChar::ReplacementCharacter);
-        QCOMPARE(paperOf(line("a\x1B[1mb\nc")),
+        QCOMPARE(shown(line("a\x1B[1mb\nc")),
                  QStringList("printed |a" + replaced + "[1mb" + replaced + "c|"));
-        QCOMPARE(paperOf(line("a\xFF\xFEz")),
+        QCOMPARE(shown(line("a\xFF\xFEz")),
                  QStringList("printed |a" + replaced.repeated(2) + "z|"));
-        QCOMPARE(paperOf(line("Caff\xC3")), QStringList("printed |Caff" + replaced + "|"));
-        QCOMPARE(paperOf(line("\xEF\xBB\xBF=o")), QStringList("printed |" + replaced + "=o|"));
+        QCOMPARE(shown(line("Caff\xC3")), QStringList("printed |Caff" + replaced + "|"));
+        QCOMPARE(shown(line("\xEF\xBB\xBF=o")), QStringList("printed |" + replaced + "=o|"));
     }
 
     void boxes_data()
@@ -386,7 +386,7 @@ private slots:
     {
         const QByteArray stream =
             bytesOf(KORVEL_SOURCE_DIR "/examples/expected/fiscal-receipt.out");
-        QCOMPARE(boxed(paperOf(decode(stream), 32), 32, false),
+        QCOMPARE(boxed(paperOf(stream, 32), 32, false),
                  QString("┌────────────────────────────────┐\n"
                          "│  2 x 7.00                      │\n"
                          "│Pizza Margherita        14.00 R1│\n"

@@ -3,6 +3,7 @@
 #include "companions/preview/listing.h"
 #include "companions/preview/text.h"
 #include "support/bytes.h"
+#include "support/commands.h"
 
 #include <QDirIterator>
 #include <QJsonDocument>
@@ -237,6 +238,17 @@ private slots:
         const QList<Command> decoded = decode(stream);
         QCOMPARE(shown(decoded), expected);
         QCOMPARE(gapIn(stream, decoded), QString());
+    }
+
+    void nothingFollowsTheEnd()
+    {
+        Decoder decoder("=o\n");
+        const auto command = decoder.next();
+        QVERIFY(command);
+        QCOMPARE(shown(*command), QString("0:1 closes document"));
+        QVERIFY(!decoder.next());
+        QVERIFY(!decoder.next());
+        QVERIFY(!Decoder("").next());
     }
 
     // What a printer does with a text that holds the bytes around it is another matter: the stream

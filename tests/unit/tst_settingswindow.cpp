@@ -311,8 +311,8 @@ QImage lookOf(PaperView &paper)
 QImage lookOf(const QByteArray &stream)
 {
     PaperView paper;
-    paper.showPaper(preview::Picture(preview::paperOf(preview::decode(stream), commands::lineWidth),
-                                     commands::lineWidth));
+    paper.showPaper(
+        preview::Picture(preview::paperOf(stream, commands::lineWidth), commands::lineWidth));
     return lookOf(paper);
 }
 

@@ -1,0 +1,16 @@
+// Rows of the preview's paper as a terminal shows them.
+#pragma once
+
+#include "companions/preview/terminal.h"
+
+#include <QList>
+
+/// The whole box; the parameters are those of preview::Box.
+inline QString boxed(const QList<preview::PaperRow> &rows, int columns, bool coloured)
+{
+    const preview::Box box(columns, coloured);
+    QString text = box.top();
+    for (const preview::PaperRow &row : rows)
+        text += box.line(row);
+    return text + box.bottom();
+}
