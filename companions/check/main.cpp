@@ -2,7 +2,9 @@
 #include "companions/check/checks.h"
 #include "companions/check/schema.h"
 #include "companions/check/settingsfile.h"
-#include "companions/commandline/commandline.h"
+#include "companions/shared/commandline.h"
+#include "companions/shared/files.h"
+#include "companions/shared/output.h"
 #include "config/path.h"
 
 #include <QCoreApplication>
@@ -12,6 +14,7 @@
 #include <algorithm>
 #include <memory>
 
+using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
 
 namespace check = korvel::check;

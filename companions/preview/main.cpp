@@ -1,10 +1,11 @@
 // korvel-preview: what a command stream puts on paper, without the printer.
-#include "companions/commandline/commandline.h"
 #include "companions/preview/findings.h"
 #include "companions/preview/listing.h"
 #include "companions/preview/picture.h"
 #include "companions/preview/terminal.h"
-
+#include "companions/shared/commandline.h"
+#include "companions/shared/files.h"
+#include "companions/shared/output.h"
 #include "config/path.h"
 #include "printer/company/commands.h"
 
@@ -18,6 +19,7 @@
 
 #include <unistd.h>
 
+using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

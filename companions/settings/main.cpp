@@ -1,12 +1,14 @@
 // korvel-settings: the settings file in a tree, the receipt beside it.
-#include "companions/commandline/commandline.h"
 #include "companions/settings/window.h"
+#include "companions/shared/commandline.h"
+#include "companions/shared/output.h"
 #include "config/path.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
 
+using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

@@ -1,0 +1,27 @@
+// Files read and replaced whole.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace korvel::shared {
+
+/**
+ * All bytes of a file, or of standard input for "-".
+ *
+ * @param limit bytes that are read at most
+ * @param error why nothing is given, as one line without the file's name
+ */
+std::optional<QByteArray> readWhole(const QString &path, qint64 limit, QString &error);
+
+/**
+ * Replaces a file by these bytes, or makes a new one: whole, or not at all. What a link leads to is
+ * replaced, a link that leads nowhere is itself.
+ *
+ * @param error why it is not, as one line without the file's name
+ */
+bool writeWhole(const QString &path, const QByteArray &bytes, QString &error);
+
+} // namespace korvel::shared

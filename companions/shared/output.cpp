@@ -1,0 +1,66 @@
+// Standard output and standard error of the companions.
+#include "companions/shared/output.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <cstdio>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace korvel::shared {
+
+QString programName() { return QFileInfo(QCoreApplication::applicationFilePath()).fileName(); }
+
+QString shownName(const QString &path)
+{
+    QString shown;
+    for (const uint point : path.toUcs4()) { // half a pair comes as a replacement character
+        const QChar::Category category = QChar::category(point);
+        const bool prints = QChar::isPrint(point) && category != QChar::Separator_Line
+                            && category != QChar::Separator_Paragraph;
+        shown += QChar::fromUcs4(prints ? point : uint(QChar::ReplacementCharacter));
+    }
+    return shown;
+}
+
+int trouble(const QString &text)
+{
+    const QByteArray line = (programName() + u": "_s + shownName(text) + u'\n').toUtf8();
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
+    return Trouble;
+}
+
+Output::Output() { failed = !file.open(stdout, QIODevice::WriteOnly); }
+
+Output &Output::operator<<(const QString &text)
+{
+    constexpr qsizetype block = 32'768;
+    pending += text;
+    if (pending.size() >= block)
+        writePending();
+    return *this;
+}
+
+void Output::writePending()
+{
+    if (!pending.isEmpty())
+        failed = failed || file.write(pending.toUtf8()) < 0;
+    pending.resize(0);
+}
+
+int Output::end(int status)
+{
+    writePending();
+    failed = failed || !file.flush();
+    return failed ? trouble(u"cannot write to standard output"_s) : status;
+}
+
+int writeOut(const QString &text, int status)
+{
+    Output out;
+    out << text;
+    return out.end(status);
+}
+
+} // namespace korvel::shared

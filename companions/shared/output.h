@@ -1,0 +1,48 @@
+// What a companion says, and the status that it ends with.
+#pragma once
+
+#include <QFile>
+#include <QString>
+
+namespace korvel::shared {
+
+/// How a companion ends.
+enum ExitStatus {
+    Clean = 0,    // nothing to complain of
+    Findings = 1, // something is wrong with what it was given
+    Trouble = 2,  // it could not be read or written, or the command line is wrong
+};
+
+/// The name of the program's file.
+QString programName();
+
+/// A file's name in one line that a terminal can show: what does not print, or is no UTF-8, is
+/// replaced.
+QString shownName(const QString &path);
+
+/// Says in one line on standard error, behind the program's name, why it ends; gives Trouble.
+int trouble(const QString &text);
+
+/// Standard output, as UTF-8.
+class Output
+{
+public:
+    Output();
+    Output &operator<<(const QString &text);
+
+    /// The status to end with: the one given, or Trouble, with its reason said, when something
+    /// could not be written.
+    int end(int status);
+
+private:
+    void writePending();
+
+    QFile file;
+    QString pending; // is converted and written a block at a time
+    bool failed = false;
+};
+
+/// Writes a text to standard output; the status to end with, as Output::end().
+int writeOut(const QString &text, int status);
+
+} // namespace korvel::shared
