@@ -1,6 +1,8 @@
 // What encoding a job is in, and what it has wrong.
 #include "companions/check/encoding.h"
 
+#include "companions/shared/oneline.h"
+
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -10,16 +12,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace korvel::check {
 
 namespace {
-
-/// A text in one line.
-QString inOneLine(QString text)
-{
-    for (QChar &c : text) {
-        if (!c.isPrint() && !c.isSurrogate())
-            c = u' ';
-    }
-    return text.simplified();
-}
 
 /// The name of the encoding in an XML declaration; empty when it names none.
 QByteArray namedEncoding(const QByteArray &bytes)
@@ -101,7 +93,7 @@ QString decoded(const QByteArray &bytes, QList<Fault> &faults)
     QStringDecoder decoder = marked ? QStringDecoder(*marked)
                                     : QStringDecoder(name.isEmpty() ? "UTF-8" : name.constData());
     if (!decoder.isValid()) {
-        const QString unknown = inOneLine(QString::fromLatin1(name));
+        const QString unknown = shared::inOneLine(QString::fromLatin1(name), u' ').simplified();
         faults.append(
             {Code::Encoding, {}, worded(Code::Encoding, filled(phrase::unknownEncoding, unknown))});
         return {};

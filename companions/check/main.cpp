@@ -4,6 +4,7 @@
 #include "companions/check/settingsfile.h"
 #include "companions/shared/commandline.h"
 #include "companions/shared/files.h"
+#include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
 #include "config/path.h"
 
@@ -34,7 +35,7 @@ const QCommandLineOption schemaOption(u"schema"_s, u"Write a RELAX NG schema of 
 
 QString lineOf(const QString &file, const check::Finding &finding)
 {
-    return shownName(file) + u':' + QString::number(finding.place.line) + u':'
+    return inOneLine(file) + u':' + QString::number(finding.place.line) + u':'
            + QString::number(finding.place.column) + u": "_s
            + check::levelName(infoOf(finding.code).level) + u": "_s + finding.text + u" ["_s
            + infoOf(finding.code).name + u"]\n"_s;

@@ -4,6 +4,7 @@
 #include "companions/check/settingsfile.h"
 #include "companions/check/vocabulary.h"
 #include "companions/check/words.h"
+#include "companions/shared/oneline.h"
 #include "vocabulary/paper.h"
 
 #include <QHash>
@@ -62,7 +63,8 @@ QString whyUnread(const SettingsFile::Entry &entry)
         groups.append(method.group);
     const QString &group = entry.groups.constLast();
     if (!groups.contains(group))
-        return filled(phrase::unknownGroup, group, orNearest(group, groups));
+        return filled(phrase::unknownGroup, shared::inOneLine(group, u' '),
+                      orNearest(group, groups));
     const QStringList keys = keysOf(group);
     if (!keys.contains(entry.key))
         return filled(phrase::unknownSetting, orNearest(entry.key, keys));
@@ -84,9 +86,9 @@ void checkValue(const SettingsFile::Entry &entry, QList<Finding> &findings)
     const auto documents = vocabulary::documentsOf(entry.groups.constLast());
     if (entry.key == vocabulary::key::paperWidth && (setting->documents & documents) != 0
         && number > vocabulary::lineWidth)
-        findings.append(
-            about(entry, Code::Columns,
-                  filled(phrase::widePaper, entry.value, QString::number(vocabulary::lineWidth))));
+        findings.append(about(entry, Code::Columns,
+                              filled(phrase::widePaper, shared::inOneLine(entry.value, u' '),
+                                     QString::number(vocabulary::lineWidth))));
 }
 
 } // namespace
@@ -97,8 +99,8 @@ QList<Finding> checkSettings(const SettingsFile &settings)
     QHash<QString, Place> groups; // of documents, where their first setting stands
     for (const SettingsFile::Entry &entry : settings.entries()) {
         if (const QString why = whyUnread(entry); !why.isEmpty()) {
-            findings.append(
-                about(entry, Code::UnreadKey, pathOf(entry).join(u'.').simplified(), why));
+            const QString name = shared::inOneLine(pathOf(entry).join(u'.'), u' ').simplified();
+            findings.append(about(entry, Code::UnreadKey, name, why));
             continue;
         }
         checkValue(entry, findings);

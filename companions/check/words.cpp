@@ -3,6 +3,7 @@
 
 #include "companions/check/codes.h"
 #include "companions/check/vocabulary.h"
+#include "companions/shared/oneline.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,10 +22,8 @@ QString orName(const QString &name)
 QString quoted(const QString &value)
 {
     constexpr qsizetype longest = 40;
-    QString shown;
-    for (const QChar c : value.size() > longest ? value.first(longest - 1) + u'…' : value)
-        shown += c.isPrint() || c.isSurrogate() ? c : QChar(u' ');
-    return u'"' + shown + u'"';
+    const QString cut = value.size() > longest ? value.first(longest - 1) + u'…' : value;
+    return u'"' + shared::inOneLine(cut, u' ') + u'"';
 }
 
 QString quoted(const QStringList &names) { return u'"' + names.join("\", \""_L1) + u'"'; }

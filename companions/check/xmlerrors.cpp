@@ -1,6 +1,8 @@
 // The words for each error of the XML parser.
 #include "companions/check/xmlerrors.h"
 
+#include "companions/shared/oneline.h"
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -38,7 +40,7 @@ QString nameIn(QByteArrayView text)
 QString characterIn(QByteArrayView text)
 {
     const char32_t code = firstOf(text);
-    if (code == U' ' || (QChar::isPrint(code) && !QChar::isSpace(code)))
+    if (code == U' ' || (shared::isPrintable(code) && !QChar::isSpace(code)))
         return u'"' + QString::fromUcs4(&code, 1) + u'"';
     return u"U+"_s + QString::number(code, 16).toUpper().rightJustified(4, u'0');
 }

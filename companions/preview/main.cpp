@@ -5,6 +5,7 @@
 #include "companions/preview/terminal.h"
 #include "companions/shared/commandline.h"
 #include "companions/shared/files.h"
+#include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
 #include "config/path.h"
 #include "printer/company/commands.h"
@@ -126,7 +127,7 @@ int run(const QStringList &arguments)
 
     const QList<preview::Finding> found = preview::findings(*stream, columns);
     if (!parser.isSet(quietOption)) {
-        const QString name = shownName(path);
+        const QString name = inOneLine(path);
         for (const preview::Finding &finding : found)
             std::fputs(qUtf8Printable(name + u':' + QString::number(finding.line) + u": "_s
                                       + finding.text + u'\n'),

@@ -2,6 +2,7 @@
 #include "companions/preview/paper.h"
 
 #include "companions/preview/text.h"
+#include "companions/shared/oneline.h"
 
 #include <utility>
 
@@ -14,7 +15,7 @@ namespace {
 using Kind = Command::Kind;
 using Row = PaperRow::Kind;
 
-QString textOf(const QByteArray &bytes) { return printable(decoded(bytes)); }
+QString textOf(const QByteArray &bytes) { return korvel::shared::inOneLine(decoded(bytes)); }
 
 /// An amount for the reader: "1.20", or as it was sent where it is no plain number.
 QString moneyOf(const QByteArray &hundredths)

@@ -1,5 +1,7 @@
-// UTF-8 taken apart, and what is shown for characters that do not print.
+// UTF-8 taken apart, and bytes spelt out.
 #include "companions/preview/text.h"
+
+#include "companions/shared/oneline.h"
 
 #include <QList>
 #include <QStringDecoder>
@@ -13,13 +15,6 @@ QString decoded(QByteArrayView text)
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless
                                                      | QStringDecoder::Flag::ConvertInitialBom);
     return decoder(text);
-}
-
-bool isPrintable(char32_t character)
-{
-    const QChar::Category category = QChar::category(character);
-    return QChar::isPrint(character) && category != QChar::Separator_Line
-           && category != QChar::Separator_Paragraph;
 }
 
 qsizetype characterLength(QByteArrayView text)
@@ -68,7 +63,7 @@ QString escaped(QByteArrayView bytes)
             text += "\\t"_L1;
         else if (first == '\\')
             text += "\\\\"_L1;
-        else if (length > 0 && isPrintable(shown.toUcs4().front()))
+        else if (length > 0 && korvel::shared::isPrintable(shown.toUcs4().front()))
             text += shown;
         else
             for (const char byte : character)
@@ -76,18 +71,6 @@ QString escaped(QByteArrayView bytes)
         bytes = bytes.sliced(character.size());
     }
     return text;
-}
-
-QString printable(const QString &text)
-{
-    QString shown;
-    for (const uint point : text.toUcs4()) {
-        if (isPrintable(point))
-            shown += QChar::fromUcs4(point);
-        else
-            shown += QString(QChar::requiresSurrogates(point) ? 2 : 1, QChar::ReplacementCharacter);
-    }
-    return shown;
 }
 
 } // namespace preview

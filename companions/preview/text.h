@@ -10,9 +10,6 @@ namespace preview {
 /// replacement characters.
 QString decoded(QByteArrayView text);
 
-/// Whether a character shows as something, or as a blank of the line.
-bool isPrintable(char32_t character);
-
 /// Bytes of the character that a text begins with; 0 when it does not begin with UTF-8, or is
 /// empty.
 qsizetype characterLength(QByteArrayView text);
@@ -23,9 +20,5 @@ bool isControl(QByteArrayView character);
 /// Bytes as printable text in one line: "\n", "\r", "\t" and "\\" spelt so, all else that does not
 /// print as the bytes "\x1b".
 QString escaped(QByteArrayView bytes);
-
-/// A text with every character that does not print replaced, unit by unit, so that it keeps its
-/// width and a terminal obeys nothing in it.
-QString printable(const QString &text);
 
 } // namespace preview

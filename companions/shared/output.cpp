@@ -1,6 +1,8 @@
 // Standard output and standard error of the companions.
 #include "companions/shared/output.h"
 
+#include "companions/shared/oneline.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 
@@ -12,21 +14,9 @@ namespace korvel::shared {
 
 QString programName() { return QFileInfo(QCoreApplication::applicationFilePath()).fileName(); }
 
-QString shownName(const QString &path)
-{
-    QString shown;
-    for (const uint point : path.toUcs4()) { // half a pair comes as a replacement character
-        const QChar::Category category = QChar::category(point);
-        const bool prints = QChar::isPrint(point) && category != QChar::Separator_Line
-                            && category != QChar::Separator_Paragraph;
-        shown += QChar::fromUcs4(prints ? point : uint(QChar::ReplacementCharacter));
-    }
-    return shown;
-}
-
 int trouble(const QString &text)
 {
-    const QByteArray line = (programName() + u": "_s + shownName(text) + u'\n').toUtf8();
+    const QByteArray line = (programName() + u": "_s + inOneLine(text) + u'\n').toUtf8();
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
     return Trouble;
 }

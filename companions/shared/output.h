@@ -16,10 +16,6 @@ enum ExitStatus {
 /// The name of the program's file.
 QString programName();
 
-/// A file's name in one line that a terminal can show: what does not print, or is no UTF-8, is
-/// replaced.
-QString shownName(const QString &path);
-
 /// Says in one line on standard error, behind the program's name, why it ends; gives Trouble.
 int trouble(const QString &text);
 

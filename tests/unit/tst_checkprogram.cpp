@@ -623,6 +623,7 @@ private slots:
                  "<job><method name=\"a&#10;b\"/></job>",
                  "<?xml version=\"1.0\" encoding=\"a\nb\"?><job/>",
                  "<job>\x01</job>",
+                 "<job><method name=\"a&#x2028;b&#x2029;c\"/></job>",
                  "<job><method name=\"printPartialOrder\"/><receipe number=\"1\" name=\"x\" "
                  "\xE2\x80\xA8=\"\"/></job>",
              }) {
@@ -633,10 +634,27 @@ private slots:
             for (const QString &line : lines) {
                 QVERIFY2(finding.match(line).hasMatch(), qPrintable(line));
                 QVERIFY2(std::all_of(line.begin(), line.end(),
-                                     [](QChar c) { return c.isPrint() || c.isSurrogate(); }),
+                                     [](QChar c) {
+                                         return (c.isPrint() || c.isSurrogate())
+                                                && c.category() != QChar::Separator_Line
+                                                && c.category() != QChar::Separator_Paragraph;
+                                     }),
                          qPrintable(line));
             }
         }
+    }
+
+    /// So is what a settings file says.
+    void oneLineAFindingOfSettings()
+    {
+        const Desk desk;
+        writeFile(desk.path("shop.conf"),
+                  "korvel:\n{\n  a\x1B[1m:\n  {\n    b\x1B[2m = \"1\";\n  };\n};\n");
+        const Run run = desk.run({"--settings", "shop.conf"});
+        VERIFY_ENDED(run, 0);
+        QCOMPARE(run.standardOutput,
+                 "shop.conf:5:5: warning: nothing reads korvel.a [1m.b [2m: no document reads the "
+                 "group a [1m [unread-key]\n");
     }
 
     // The page.

@@ -964,17 +964,6 @@ private slots:
         QCOMPARE(decoded(bytes), text);
     }
 
-    void printableCharacters()
-    {
-        for (const char32_t character : {U' ', U'a', U'\u00A0', U'\u00E8', U'\u0301', U'\u20AC',
-                                         U'\u65E5', U'\uFFFD', U'\U0001F355'})
-            QVERIFY2(isPrintable(character), qPrintable(QString::number(character, 16)));
-        for (const char32_t character : {U'\0', U'\t', U'\n', U'\x1B', U'\x7F', U'\x85', U'\u00AD',
-                                         U'\u200B', U'\u2028', U'\u2029', U'\u202E', U'\uE000',
-                                         U'\uFEFF', U'\U000E0001', U'\U0010FFFF', char32_t(0xD83D)})
-            QVERIFY2(!isPrintable(character), qPrintable(QString::number(character, 16)));
-    }
-
     void escapes_data()
     {
         QTest::addColumn<QByteArray>("bytes");
@@ -1014,40 +1003,6 @@ private slots:
         QFETCH(QByteArray, bytes);
         QFETCH(QString, text);
         QCOMPARE(escaped(bytes), text);
-    }
-
-    void printing_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("shown");
-        const QString replaced(QChar::ReplacementCharacter);
-        const auto row = [](const char *name, const QString &text, const QString &shown) {
-            QTest::newRow(name) << text << shown;
-        };
-
-        row("nothing", "", "");
-        row("text", "Caffè € \xF0\x9F\x8D\x95", "Caffè € \xF0\x9F\x8D\x95");
-        row("an accent over the letter before it", u"e\u0301"_s, u"e\u0301"_s);
-        row("a blank that does not break", u"a\u00A0b"_s, u"a\u00A0b"_s);
-        row("line ends and tabs", "a\r\n\tb", "a" + replaced.repeated(3) + "b");
-        row("a null", QString(QChar(u'\0')), replaced);
-        row("a terminal's command", "\x1B[31m", replaced + "[31m");
-        row("a control character beyond ASCII", u"\u0085\u009B"_s, replaced.repeated(2));
-        row("a mark that turns the text round", u"\u202E"_s, replaced);
-        row("a mark of no width", u"\u200B\uFEFFa"_s, replaced.repeated(2) + "a");
-        row("separators of lines and paragraphs", u"\u2028\u2029"_s, replaced.repeated(2));
-        row("a character for private use", u"\uE000"_s, replaced);
-        row("one of two units", u"\U000E0001"_s, replaced.repeated(2));
-        row("half a pair", QString(QChar(0xD83D)) + "a", replaced + "a");
-        row("the other half", "a" + QString(QChar(0xDE00)), "a" + replaced);
-    }
-
-    void printing()
-    {
-        QFETCH(QString, text);
-        QFETCH(QString, shown);
-        QCOMPARE(printable(text), shown);
-        QCOMPARE(printable(text).size(), text.size());
     }
 
     void names()

@@ -1,0 +1,27 @@
+// What is shown for characters that do not print.
+#include "companions/shared/oneline.h"
+
+#include <QList>
+
+namespace korvel::shared {
+
+bool isPrintable(char32_t character)
+{
+    const QChar::Category category = QChar::category(character);
+    return QChar::isPrint(character) && category != QChar::Separator_Line
+           && category != QChar::Separator_Paragraph;
+}
+
+QString inOneLine(const QString &text, QChar substitute)
+{
+    QString shown;
+    for (const uint point : text.toUcs4()) { // half a pair comes as a replacement character
+        if (isPrintable(point))
+            shown += QChar::fromUcs4(point);
+        else
+            shown += QString(QChar::requiresSurrogates(point) ? 2 : 1, substitute);
+    }
+    return shown;
+}
+
+} // namespace korvel::shared

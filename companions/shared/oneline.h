@@ -1,0 +1,20 @@
+// Texts in one line that a terminal can show.
+#pragma once
+
+#include <QString>
+
+namespace korvel::shared {
+
+/// Whether a character shows as something, or as a blank of the line.
+bool isPrintable(char32_t character);
+
+/**
+ * A text with every character that does not print replaced, unit by unit, so that it keeps its
+ * width, stays in one line, and a terminal obeys nothing in it. Half of a surrogate pair becomes a
+ * replacement character.
+ *
+ * @param substitute what stands for such a character
+ */
+QString inOneLine(const QString &text, QChar substitute = QChar::ReplacementCharacter);
+
+} // namespace korvel::shared
