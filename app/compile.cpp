@@ -55,7 +55,7 @@ void render(int argc, char *argv[])
     QCoreApplication::installTranslator(&translator);
 
     CompanyPrinterDriver driver(outputPath, false);
-    JobGuard guard(driver);
+    korvel::app::JobGuard guard(driver);
     QFile input;
     if (korvel::path::open(input, inputPath, QIODevice::ReadOnly))
         guard.parse(input);

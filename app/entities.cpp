@@ -7,6 +7,8 @@
 
 namespace limit = korvel::vocabulary::limit;
 
+namespace korvel::app {
+
 bool Entities::declare(const QString &name, const QString &text)
 {
     declaredText += text.size();
@@ -58,3 +60,5 @@ Entities::Expansion Entities::expand(const QString &name, QHash<QString, Expansi
     known.insert(name, result);
     return result;
 }
+
+} // namespace korvel::app

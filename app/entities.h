@@ -4,6 +4,8 @@
 #include <QHash>
 #include <QString>
 
+namespace korvel::app {
+
 /**
  * Keeps count of a job's entities, whose references can make gigabytes, or an endless run, of a
  * few hundred bytes.
@@ -42,3 +44,5 @@ private:
     qint64 declaredText = 0;
     qint64 referred = 0;
 };
+
+} // namespace korvel::app

@@ -14,6 +14,8 @@
 
 namespace limit = korvel::vocabulary::limit;
 
+namespace korvel::app {
+
 namespace {
 
 /// Where on the stack the caller is.
@@ -143,3 +145,5 @@ bool JobGuard::externalEntityDecl(const QString &name, const QString & /*publicI
 {
     return entities.declare(name, QString());
 }
+
+} // namespace korvel::app

@@ -7,6 +7,8 @@
 
 class QIODevice;
 
+namespace korvel::app {
+
 /**
  * Reads a job and hands its elements on, as far as it keeps within limits that no sane job comes
  * near. A job that goes beyond one ends there, as one with malformed XML would: what was printed
@@ -45,3 +47,5 @@ private:
     int depth = 0;
     int prefixes = 0; // of namespaces, declared where the job is
 };
+
+} // namespace korvel::app

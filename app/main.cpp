@@ -4,7 +4,7 @@
 
 int main(int argc, char *argv[])
 {
-    prepareProcess();
+    korvel::app::prepareProcess();
     compile(argc, argv);
     return 0;
 }

@@ -10,6 +10,8 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+namespace korvel::app {
+
 namespace {
 
 void limitMemory()
@@ -92,3 +94,5 @@ void prepareProcess()
     limitMemory();
     doWithoutEventLoop();
 }
+
+} // namespace korvel::app

@@ -1,6 +1,8 @@
 // The process around a run, made proof against its surroundings.
 #pragma once
 
+namespace korvel::app {
+
 /**
  * Prepares the process, before the toolkit wakes up:
  *
@@ -14,3 +16,5 @@
  * standard error, abort on a warning or read files.
  */
 void prepareProcess();
+
+} // namespace korvel::app

@@ -8,13 +8,13 @@
 
 #include <algorithm>
 
-namespace columns {
+namespace korvel::columns {
 
 /// A width from the settings as one that can be padded to: below 0 it counts as 0, and a slip does
 /// not pad without end.
 inline qint64 padWidth(qint64 width)
 {
-    return std::clamp<qint64>(width, 0, korvel::vocabulary::limit::widestPad);
+    return std::clamp<qint64>(width, 0, vocabulary::limit::widestPad);
 }
 
 /// A text padded on the left to a width; a longer one is kept whole.
@@ -35,4 +35,4 @@ inline QString cut(const QString &text, qint64 width, QChar fill = u' ')
     return left(text.left(std::max<qint64>(width, 0)), width, fill);
 }
 
-} // namespace columns
+} // namespace korvel::columns

@@ -16,6 +16,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace attribute = korvel::vocabulary::attribute;
 namespace key = korvel::vocabulary::key;
 namespace limit = korvel::vocabulary::limit;
+using korvel::Layout;
 
 namespace {
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <iostream>
 
+using korvel::Layout;
 using korvel::vocabulary::DocumentType;
 using korvel::vocabulary::documentTypes;
 using korvel::vocabulary::on;

@@ -1,6 +1,8 @@
 // The layout settings of one document type.
 #pragma once
 
+namespace korvel {
+
 /// What the settings file says of a document type's layout. Widths count characters (UTF-16
 /// units); a flag is on only when its setting is exactly "true".
 struct Layout
@@ -29,3 +31,5 @@ struct Layout
     bool printNote = false;
     bool openCashDrawer = false; // kept for back ends that have a drawer
 };
+
+} // namespace korvel

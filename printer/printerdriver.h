@@ -304,8 +304,8 @@ protected:
     QString printerCharSize;
     QString printerAddress;
     QString printerPort;
-    QString credit; // last credit that the order information printed
-    Layout layout;  // settings of the current document type
+    QString credit;        // last credit that the order information printed
+    korvel::Layout layout; // settings of the current document type
 
 private:
     /// The titles of the columns of items, in the language of the run.

@@ -8,8 +8,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace attribute = korvel::vocabulary::attribute;
 namespace element = korvel::vocabulary::element;
-using columns::left;
-using columns::right;
+using korvel::Layout;
+using korvel::columns::left;
+using korvel::columns::right;
 
 namespace {
 

@@ -14,9 +14,9 @@ using vocabulary::RowStyle;
 
 namespace {
 
-using columns::cut;
-using columns::left;
-using columns::right;
+using korvel::columns::cut;
+using korvel::columns::left;
+using korvel::columns::right;
 
 // A row and the widths that it is laid out in: q, d, p and t of its columns.
 struct Row
@@ -101,5 +101,5 @@ void PrinterDriver::printColumnsHeader(const QString &quantity, const QString &d
 
 void PrinterDriver::printSeparatorLine()
 {
-    println(QString(columns::padWidth(layout.paperWidth), u'='));
+    println(QString(korvel::columns::padWidth(layout.paperWidth), u'='));
 }

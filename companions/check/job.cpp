@@ -309,7 +309,7 @@ private:
     std::unique_ptr<std::remove_pointer_t<XML_Parser>, Free> parser;
     Job job;
     QList<Open> open;
-    Entities entities;
+    app::Entities entities;
     qsizetype namespaces = 0;
     int declaredAttributes = 0;
     bool stopped = false;

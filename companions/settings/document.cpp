@@ -20,6 +20,8 @@
 using namespace Qt::Literals::StringLiterals;
 using libconfig::Config;
 
+namespace korvel::settings {
+
 namespace {
 
 /// A row of a view: a group, or a setting with its value.
@@ -248,3 +250,5 @@ QByteArray SettingsDocument::bytesOnDisk() const
     return QFileInfo(filePath).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll()
                                                                           : QByteArray();
 }
+
+} // namespace korvel::settings

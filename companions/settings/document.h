@@ -10,13 +10,15 @@
 
 class QTreeWidget;
 
+namespace korvel::settings {
+
 /**
  * The file behind a list view of the settings store. The view holds the edits; the file changes
  * only when it is saved.
  */
 class SettingsDocument
 {
-    Q_DECLARE_TR_FUNCTIONS(SettingsDocument)
+    Q_DECLARE_TR_FUNCTIONS(korvel::settings::SettingsDocument)
 
 public:
     /// @param file path of a settings file, valid UTF-16, which need not exist
@@ -57,3 +59,5 @@ private:
     QByteArray lastSeen; // the file when it was read or saved last
     bool existed = false;
 };
+
+} // namespace korvel::settings

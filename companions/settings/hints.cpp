@@ -15,34 +15,37 @@
 using namespace Qt::Literals::StringLiterals;
 using libconfig::Config;
 
-namespace hints {
+namespace korvel::settings::hints {
 
 namespace {
 
 /// What a finding means for the paper, in the user's language.
 struct Warning
 {
-    korvel::check::Code code;
+    check::Code code;
     const char *text;
 };
 
 // clang-format off
 constexpr Warning warnings[] = {
-    {korvel::check::Code::UnreadKey,
-     QT_TRANSLATE_NOOP("hints", "No document reads this: the renderer passes it over.")},
-    {korvel::check::Code::NotTrue,
-     QT_TRANSLATE_NOOP("hints", "Counts as off: only exactly \"true\" switches it on.")},
-    {korvel::check::Code::NotANumber,
-     QT_TRANSLATE_NOOP("hints", "Not a whole number: counts as 0.")},
-    {korvel::check::Code::Columns,
-     QT_TRANSLATE_NOOP("hints", "Too wide for the paper: lines of more than 32 characters, "
+    {check::Code::UnreadKey,
+     QT_TRANSLATE_NOOP("korvel::settings::hints", "No document reads this: the renderer passes it over.")},
+    {check::Code::NotTrue,
+     QT_TRANSLATE_NOOP("korvel::settings::hints", "Counts as off: only exactly \"true\" switches it on.")},
+    {check::Code::NotANumber,
+     QT_TRANSLATE_NOOP("korvel::settings::hints", "Not a whole number: counts as 0.")},
+    {check::Code::Columns,
+     QT_TRANSLATE_NOOP("korvel::settings::hints", "Too wide for the paper: lines of more than 32 characters, "
                                 "or no room for the description.")},
 };
 // clang-format on
 
-QString localised(const char *text) { return QCoreApplication::translate("hints", text); }
+QString localised(const char *text)
+{
+    return QCoreApplication::translate("korvel::settings::hints", text);
+}
 
-QString warningOf(const korvel::check::Finding &finding)
+QString warningOf(const check::Finding &finding)
 {
     for (const Warning &row : warnings) {
         if (finding.code == row.code)
@@ -87,9 +90,10 @@ QString readBy(vocabulary::Documents documents)
         if ((documents & method.document) != 0)
             titles.append(QCoreApplication::translate("documents", method.title.data()));
     }
-    return titles.isEmpty()
-               ? QCoreApplication::translate("hints", "Nothing on the paper depends on it.")
-               : QCoreApplication::translate("hints", "Read by: %1.").arg(titles.join(u", "_s));
+    return titles.isEmpty() ? QCoreApplication::translate("korvel::settings::hints",
+                                                          "Nothing on the paper depends on it.")
+                            : QCoreApplication::translate("korvel::settings::hints", "Read by: %1.")
+                                  .arg(titles.join(u", "_s));
 }
 
 } // namespace
@@ -106,8 +110,8 @@ void mark(QTreeWidget &view, const QByteArray &settings)
     Rows rows;
     for (int i = 0; i < view.topLevelItemCount(); ++i)
         noteRows(*view.topLevelItem(i), {}, rows);
-    const korvel::check::SettingsFile file(settings);
-    for (const korvel::check::Finding &finding : checkSettings(file)) {
+    const check::SettingsFile file(settings);
+    for (const check::Finding &finding : checkSettings(file)) {
         QTreeWidgetItem *row = rows.value(finding.setting).value(finding.occurrence);
         if (!row)
             continue;
@@ -152,4 +156,4 @@ QString translated(const char *meaning)
     return QCoreApplication::translate("vocabulary", meaning).toHtmlEscaped().remove(u'`');
 }
 
-} // namespace hints
+} // namespace korvel::settings::hints

@@ -6,7 +6,7 @@
 class QTreeWidget;
 class QTreeWidgetItem;
 
-namespace hints {
+namespace korvel::settings::hints {
 
 /**
  * Marks the rows of a view that are hardly meant: keys that no document reads, values that count as
@@ -22,4 +22,4 @@ QString meaningOf(const QTreeWidgetItem *row);
 /// A meaning of the table of settings in the user's language, as rich text.
 QString translated(const char *meaning);
 
-} // namespace hints
+} // namespace korvel::settings::hints

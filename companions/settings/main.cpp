@@ -8,6 +8,7 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+using namespace korvel::settings;
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
 

@@ -3,6 +3,8 @@
 
 #include <QPainter>
 
+namespace korvel::settings {
+
 namespace {
 
 constexpr int border = 16; // around the paper, in pixels
@@ -44,3 +46,5 @@ void PaperView::paintEvent(QPaintEvent * /*event*/)
     painter.drawText(rect().adjusted(border, border, -border, -border),
                      Qt::AlignCenter | Qt::TextWordWrap, note);
 }
+
+} // namespace korvel::settings

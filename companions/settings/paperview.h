@@ -7,6 +7,8 @@
 
 #include <optional>
 
+namespace korvel::settings {
+
 /// Shows the paper, or a message in its place.
 class PaperView : public QWidget
 {
@@ -30,3 +32,5 @@ private:
     std::optional<preview::Picture> picture;
     QString note;
 };
+
+} // namespace korvel::settings

@@ -14,6 +14,8 @@
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 
+namespace korvel::settings {
+
 namespace {
 
 const auto settingsName = u".korvel/conf/korvel.conf"_s;
@@ -114,3 +116,5 @@ bool Rendering::write(const QString &name, const QByteArray &bytes) const
     QFile file(home.filePath(name));
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
 }
+
+} // namespace korvel::settings

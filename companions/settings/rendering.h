@@ -8,6 +8,8 @@
 
 #include <optional>
 
+namespace korvel::settings {
+
 /**
  * Runs korvel-print on a job, in a home folder of its own, without waiting for it. A newer request
  * replaces the one that runs.
@@ -53,3 +55,5 @@ private:
     QTimer patience; // a renderer that hangs is stopped
     std::optional<Request> next;
 };
+
+} // namespace korvel::settings

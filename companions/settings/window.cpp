@@ -31,6 +31,8 @@
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 
+namespace korvel::settings {
+
 namespace {
 
 /// A document's title as the chooser shows it.
@@ -392,3 +394,5 @@ void SettingsWindow::closeEvent(QCloseEvent *event)
     settings.setValue(u"window/panes"_s, panes->saveState());
     event->accept();
 }
+
+} // namespace korvel::settings

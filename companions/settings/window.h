@@ -9,7 +9,6 @@
 
 #include <memory>
 
-class PaperView;
 class QAction;
 class QComboBox;
 class QLabel;
@@ -20,6 +19,10 @@ class QVBoxLayout;
 namespace korvel::vocabulary {
 struct Method;
 }
+
+namespace korvel::settings {
+
+class PaperView;
 
 /**
  * Edits one settings file, and shows what the renderer makes of it before anything is saved.
@@ -87,3 +90,5 @@ private:
     QAction *saveAction = nullptr;
     int lastJob = 0; // row of the chooser
 };
+
+} // namespace korvel::settings

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QTreeWidget>
 
+using namespace korvel::settings;
+
 int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);

@@ -46,7 +46,7 @@ bool isReadToItsEnd(QByteArray bytes)
 {
     QBuffer job(&bytes);
     Listener listener;
-    JobGuard guard(listener);
+    korvel::app::JobGuard guard(listener);
     guard.parse(job);
     return listener.ended;
 }

@@ -92,7 +92,7 @@ Output outputOfJob(QByteArray bytes)
     Output output;
     {
         Driver driver(path);
-        JobGuard guard(driver);
+        korvel::app::JobGuard guard(driver);
         QBuffer job(&bytes);
         guard.parse(job);
         output.job = driver.job;

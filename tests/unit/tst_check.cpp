@@ -1067,7 +1067,7 @@ bool isReadToItsEnd(QByteArray bytes)
 {
     QBuffer job(&bytes);
     Listener listener;
-    JobGuard guard(listener);
+    korvel::app::JobGuard guard(listener);
     guard.parse(job);
     return listener.ended;
 }
@@ -1254,7 +1254,7 @@ private slots:
                              "[missing-attribute]"});
         QBuffer device(&job);
         Counter counter;
-        JobGuard(counter).parse(device);
+        korvel::app::JobGuard(counter).parse(device);
         QCOMPARE(counter.attributes, 1);
     }
 

@@ -13,6 +13,8 @@
 #include <limits>
 #include <utility>
 
+using korvel::Layout;
+
 namespace {
 
 constexpr int deviceWidth = 57;

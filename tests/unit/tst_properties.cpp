@@ -28,7 +28,7 @@ QByteArray streamOf(QByteArray job)
     QFile::remove(path); // some file systems wait for the disk when a file is emptied
     {
         CompanyPrinterDriver driver(path, false);
-        JobGuard guard(driver);
+        korvel::app::JobGuard guard(driver);
         QBuffer input(&job);
         guard.parse(input);
     }

@@ -18,6 +18,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace korvel::settings;
+
 namespace {
 
 const QString sampleFile = KORVEL_SOURCE_DIR "/examples/korvel.conf";

@@ -11,6 +11,8 @@
 #include <QTranslator>
 #include <QXmlStreamReader>
 
+using namespace korvel::settings;
+
 namespace {
 
 const QString sources = KORVEL_SOURCE_DIR "/companions/settings/translations";
@@ -111,7 +113,8 @@ public:
     [[nodiscard]] QString translate(const char *context, const char *text,
                                     const char * /*disambiguation*/, int /*n*/) const override
     {
-        if (QString(context) == "SettingsWindow" || QString(context) == "documents")
+        if (QString(context) == "korvel::settings::SettingsWindow"
+            || QString(context) == "documents")
             heard.append(QString(context) + ": " + QString::fromUtf8(text));
         return {};
     }
@@ -165,7 +168,7 @@ private slots:
             const SettingsWindow window("korvel.conf", "korvel-print");
         }
         QStringList wanted = listener.heard;
-        QVERIFY(wanted.contains("SettingsWindow: &File"));
+        QVERIFY(wanted.contains("korvel::settings::SettingsWindow: &File"));
         for (const vocabulary::Method &method : vocabulary::methods())
             wanted.append("documents: " + QString(method.title));
         for (const vocabulary::Setting &setting : vocabulary::settings())

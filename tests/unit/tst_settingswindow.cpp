@@ -20,6 +20,8 @@
 #include <QTimer>
 #include <QTreeWidget>
 
+using namespace korvel::settings;
+
 namespace {
 
 constexpr auto longEnough = 30000; // milliseconds, for a run of the renderer on a busy machine

@@ -2,7 +2,62 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>Rendering</name>
+    <name>documents</name>
+    <message>
+        <source>kitchen order</source>
+        <translation>Küchenbon</translation>
+    </message>
+    <message>
+        <source>full order</source>
+        <translation>Zwischenrechnung</translation>
+    </message>
+    <message>
+        <source>receipt</source>
+        <translation>Beleg</translation>
+    </message>
+    <message>
+        <source>invoice</source>
+        <translation>Rechnung</translation>
+    </message>
+    <message>
+        <source>delivery note</source>
+        <translation>Lieferschein</translation>
+    </message>
+    <message>
+        <source>fiscal receipt</source>
+        <translation>Fiskalbeleg</translation>
+    </message>
+    <message>
+        <source>summary order</source>
+        <translation>Bestellung in Kurzform</translation>
+    </message>
+    <message>
+        <source>summary receipt</source>
+        <translation>Beleg in Kurzform</translation>
+    </message>
+    <message>
+        <source>summary invoice</source>
+        <translation>Rechnung in Kurzform</translation>
+    </message>
+    <message>
+        <source>summary fiscal receipt</source>
+        <translation>Fiskalbeleg in Kurzform</translation>
+    </message>
+    <message>
+        <source>period report</source>
+        <translation>Periodenübersicht</translation>
+    </message>
+    <message>
+        <source>sold items</source>
+        <translation>verkaufte Artikel</translation>
+    </message>
+    <message>
+        <source>statement of account</source>
+        <translation>Kontoauszug</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::Rendering</name>
     <message>
         <source>The renderer %1 cannot be started.</source>
         <translation>Das Druckprogramm %1 lässt sich nicht starten.</translation>
@@ -21,7 +76,7 @@
     </message>
 </context>
 <context>
-    <name>SettingsDocument</name>
+    <name>korvel::settings::SettingsDocument</name>
     <message>
         <source>%1 is no file.</source>
         <translation>%1 ist keine Datei.</translation>
@@ -76,7 +131,7 @@
     </message>
 </context>
 <context>
-    <name>SettingsWindow</name>
+    <name>korvel::settings::SettingsWindow</name>
     <message>
         <source>&amp;Document:</source>
         <translation>Do&amp;kument:</translation>
@@ -169,62 +224,7 @@ Mit den Beispieleinstellungen beginnen?</translation>
     </message>
 </context>
 <context>
-    <name>documents</name>
-    <message>
-        <source>kitchen order</source>
-        <translation>Küchenbon</translation>
-    </message>
-    <message>
-        <source>full order</source>
-        <translation>Zwischenrechnung</translation>
-    </message>
-    <message>
-        <source>receipt</source>
-        <translation>Beleg</translation>
-    </message>
-    <message>
-        <source>invoice</source>
-        <translation>Rechnung</translation>
-    </message>
-    <message>
-        <source>delivery note</source>
-        <translation>Lieferschein</translation>
-    </message>
-    <message>
-        <source>fiscal receipt</source>
-        <translation>Fiskalbeleg</translation>
-    </message>
-    <message>
-        <source>summary order</source>
-        <translation>Bestellung in Kurzform</translation>
-    </message>
-    <message>
-        <source>summary receipt</source>
-        <translation>Beleg in Kurzform</translation>
-    </message>
-    <message>
-        <source>summary invoice</source>
-        <translation>Rechnung in Kurzform</translation>
-    </message>
-    <message>
-        <source>summary fiscal receipt</source>
-        <translation>Fiskalbeleg in Kurzform</translation>
-    </message>
-    <message>
-        <source>period report</source>
-        <translation>Periodenübersicht</translation>
-    </message>
-    <message>
-        <source>sold items</source>
-        <translation>verkaufte Artikel</translation>
-    </message>
-    <message>
-        <source>statement of account</source>
-        <translation>Kontoauszug</translation>
-    </message>
-</context>
-<context>
-    <name>hints</name>
+    <name>korvel::settings::hints</name>
     <message>
         <source>No document reads this: the renderer passes it over.</source>
         <translation>Kein Dokument liest das: Das Druckprogramm übergeht es.</translation>

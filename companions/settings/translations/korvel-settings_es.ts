@@ -2,7 +2,62 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
-    <name>Rendering</name>
+    <name>documents</name>
+    <message>
+        <source>kitchen order</source>
+        <translation>comanda de cocina</translation>
+    </message>
+    <message>
+        <source>full order</source>
+        <translation>cuenta</translation>
+    </message>
+    <message>
+        <source>receipt</source>
+        <translation>ticket</translation>
+    </message>
+    <message>
+        <source>invoice</source>
+        <translation>factura</translation>
+    </message>
+    <message>
+        <source>delivery note</source>
+        <translation>albarán</translation>
+    </message>
+    <message>
+        <source>fiscal receipt</source>
+        <translation>ticket fiscal</translation>
+    </message>
+    <message>
+        <source>summary order</source>
+        <translation>comanda resumida</translation>
+    </message>
+    <message>
+        <source>summary receipt</source>
+        <translation>ticket resumido</translation>
+    </message>
+    <message>
+        <source>summary invoice</source>
+        <translation>factura resumida</translation>
+    </message>
+    <message>
+        <source>summary fiscal receipt</source>
+        <translation>ticket fiscal resumido</translation>
+    </message>
+    <message>
+        <source>period report</source>
+        <translation>resumen del periodo</translation>
+    </message>
+    <message>
+        <source>sold items</source>
+        <translation>artículos vendidos</translation>
+    </message>
+    <message>
+        <source>statement of account</source>
+        <translation>extracto de cuenta</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::Rendering</name>
     <message>
         <source>The renderer %1 cannot be started.</source>
         <translation>No se puede iniciar el programa de impresión %1.</translation>
@@ -21,7 +76,7 @@
     </message>
 </context>
 <context>
-    <name>SettingsDocument</name>
+    <name>korvel::settings::SettingsDocument</name>
     <message>
         <source>%1 is no file.</source>
         <translation>%1 no es un archivo.</translation>
@@ -76,7 +131,7 @@
     </message>
 </context>
 <context>
-    <name>SettingsWindow</name>
+    <name>korvel::settings::SettingsWindow</name>
     <message>
         <source>&amp;Document:</source>
         <translation>&amp;Documento:</translation>
@@ -169,62 +224,7 @@ Begin with the sample settings?</source>
     </message>
 </context>
 <context>
-    <name>documents</name>
-    <message>
-        <source>kitchen order</source>
-        <translation>comanda de cocina</translation>
-    </message>
-    <message>
-        <source>full order</source>
-        <translation>cuenta</translation>
-    </message>
-    <message>
-        <source>receipt</source>
-        <translation>ticket</translation>
-    </message>
-    <message>
-        <source>invoice</source>
-        <translation>factura</translation>
-    </message>
-    <message>
-        <source>delivery note</source>
-        <translation>albarán</translation>
-    </message>
-    <message>
-        <source>fiscal receipt</source>
-        <translation>ticket fiscal</translation>
-    </message>
-    <message>
-        <source>summary order</source>
-        <translation>comanda resumida</translation>
-    </message>
-    <message>
-        <source>summary receipt</source>
-        <translation>ticket resumido</translation>
-    </message>
-    <message>
-        <source>summary invoice</source>
-        <translation>factura resumida</translation>
-    </message>
-    <message>
-        <source>summary fiscal receipt</source>
-        <translation>ticket fiscal resumido</translation>
-    </message>
-    <message>
-        <source>period report</source>
-        <translation>resumen del periodo</translation>
-    </message>
-    <message>
-        <source>sold items</source>
-        <translation>artículos vendidos</translation>
-    </message>
-    <message>
-        <source>statement of account</source>
-        <translation>extracto de cuenta</translation>
-    </message>
-</context>
-<context>
-    <name>hints</name>
+    <name>korvel::settings::hints</name>
     <message>
         <source>No document reads this: the renderer passes it over.</source>
         <translation>Ningún documento lo lee: el programa de impresión lo pasa por alto.</translation>

@@ -2,7 +2,62 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name>Rendering</name>
+    <name>documents</name>
+    <message>
+        <source>kitchen order</source>
+        <translation>bon de cuisine</translation>
+    </message>
+    <message>
+        <source>full order</source>
+        <translation>addition</translation>
+    </message>
+    <message>
+        <source>receipt</source>
+        <translation>ticket</translation>
+    </message>
+    <message>
+        <source>invoice</source>
+        <translation>facture</translation>
+    </message>
+    <message>
+        <source>delivery note</source>
+        <translation>bon de livraison</translation>
+    </message>
+    <message>
+        <source>fiscal receipt</source>
+        <translation>ticket fiscal</translation>
+    </message>
+    <message>
+        <source>summary order</source>
+        <translation>commande abrégée</translation>
+    </message>
+    <message>
+        <source>summary receipt</source>
+        <translation>ticket abrégé</translation>
+    </message>
+    <message>
+        <source>summary invoice</source>
+        <translation>facture abrégée</translation>
+    </message>
+    <message>
+        <source>summary fiscal receipt</source>
+        <translation>ticket fiscal abrégé</translation>
+    </message>
+    <message>
+        <source>period report</source>
+        <translation>récapitulatif de la période</translation>
+    </message>
+    <message>
+        <source>sold items</source>
+        <translation>articles vendus</translation>
+    </message>
+    <message>
+        <source>statement of account</source>
+        <translation>relevé de compte</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::Rendering</name>
     <message>
         <source>The renderer %1 cannot be started.</source>
         <translation>Le programme d&apos;impression %1 ne peut pas être lancé.</translation>
@@ -21,7 +76,7 @@
     </message>
 </context>
 <context>
-    <name>SettingsDocument</name>
+    <name>korvel::settings::SettingsDocument</name>
     <message>
         <source>%1 is no file.</source>
         <translation>%1 n&apos;est pas un fichier.</translation>
@@ -76,7 +131,7 @@
     </message>
 </context>
 <context>
-    <name>SettingsWindow</name>
+    <name>korvel::settings::SettingsWindow</name>
     <message>
         <source>&amp;Document:</source>
         <translation>&amp;Document&#xa0;:</translation>
@@ -169,62 +224,7 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
     </message>
 </context>
 <context>
-    <name>documents</name>
-    <message>
-        <source>kitchen order</source>
-        <translation>bon de cuisine</translation>
-    </message>
-    <message>
-        <source>full order</source>
-        <translation>addition</translation>
-    </message>
-    <message>
-        <source>receipt</source>
-        <translation>ticket</translation>
-    </message>
-    <message>
-        <source>invoice</source>
-        <translation>facture</translation>
-    </message>
-    <message>
-        <source>delivery note</source>
-        <translation>bon de livraison</translation>
-    </message>
-    <message>
-        <source>fiscal receipt</source>
-        <translation>ticket fiscal</translation>
-    </message>
-    <message>
-        <source>summary order</source>
-        <translation>commande abrégée</translation>
-    </message>
-    <message>
-        <source>summary receipt</source>
-        <translation>ticket abrégé</translation>
-    </message>
-    <message>
-        <source>summary invoice</source>
-        <translation>facture abrégée</translation>
-    </message>
-    <message>
-        <source>summary fiscal receipt</source>
-        <translation>ticket fiscal abrégé</translation>
-    </message>
-    <message>
-        <source>period report</source>
-        <translation>récapitulatif de la période</translation>
-    </message>
-    <message>
-        <source>sold items</source>
-        <translation>articles vendus</translation>
-    </message>
-    <message>
-        <source>statement of account</source>
-        <translation>relevé de compte</translation>
-    </message>
-</context>
-<context>
-    <name>hints</name>
+    <name>korvel::settings::hints</name>
     <message>
         <source>No document reads this: the renderer passes it over.</source>
         <translation>Aucun document ne lit ceci&#xa0;: le programme d&apos;impression l&apos;ignore.</translation>

@@ -2,7 +2,62 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
-    <name>Rendering</name>
+    <name>documents</name>
+    <message>
+        <source>kitchen order</source>
+        <translation>comanda di cucina</translation>
+    </message>
+    <message>
+        <source>full order</source>
+        <translation>preconto</translation>
+    </message>
+    <message>
+        <source>receipt</source>
+        <translation>scontrino</translation>
+    </message>
+    <message>
+        <source>invoice</source>
+        <translation>fattura</translation>
+    </message>
+    <message>
+        <source>delivery note</source>
+        <translation>documento di trasporto</translation>
+    </message>
+    <message>
+        <source>fiscal receipt</source>
+        <translation>scontrino fiscale</translation>
+    </message>
+    <message>
+        <source>summary order</source>
+        <translation>comanda sintetica</translation>
+    </message>
+    <message>
+        <source>summary receipt</source>
+        <translation>scontrino sintetico</translation>
+    </message>
+    <message>
+        <source>summary invoice</source>
+        <translation>fattura sintetica</translation>
+    </message>
+    <message>
+        <source>summary fiscal receipt</source>
+        <translation>scontrino fiscale sintetico</translation>
+    </message>
+    <message>
+        <source>period report</source>
+        <translation>riepilogo del periodo</translation>
+    </message>
+    <message>
+        <source>sold items</source>
+        <translation>articoli venduti</translation>
+    </message>
+    <message>
+        <source>statement of account</source>
+        <translation>estratto conto</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::Rendering</name>
     <message>
         <source>The renderer %1 cannot be started.</source>
         <translation>Impossibile avviare il programma di stampa %1.</translation>
@@ -21,7 +76,7 @@
     </message>
 </context>
 <context>
-    <name>SettingsDocument</name>
+    <name>korvel::settings::SettingsDocument</name>
     <message>
         <source>%1 is no file.</source>
         <translation>%1 non è un file.</translation>
@@ -76,7 +131,7 @@
     </message>
 </context>
 <context>
-    <name>SettingsWindow</name>
+    <name>korvel::settings::SettingsWindow</name>
     <message>
         <source>&amp;Document:</source>
         <translation>&amp;Documento:</translation>
@@ -169,62 +224,7 @@ Iniziare con le impostazioni di esempio?</translation>
     </message>
 </context>
 <context>
-    <name>documents</name>
-    <message>
-        <source>kitchen order</source>
-        <translation>comanda di cucina</translation>
-    </message>
-    <message>
-        <source>full order</source>
-        <translation>preconto</translation>
-    </message>
-    <message>
-        <source>receipt</source>
-        <translation>scontrino</translation>
-    </message>
-    <message>
-        <source>invoice</source>
-        <translation>fattura</translation>
-    </message>
-    <message>
-        <source>delivery note</source>
-        <translation>documento di trasporto</translation>
-    </message>
-    <message>
-        <source>fiscal receipt</source>
-        <translation>scontrino fiscale</translation>
-    </message>
-    <message>
-        <source>summary order</source>
-        <translation>comanda sintetica</translation>
-    </message>
-    <message>
-        <source>summary receipt</source>
-        <translation>scontrino sintetico</translation>
-    </message>
-    <message>
-        <source>summary invoice</source>
-        <translation>fattura sintetica</translation>
-    </message>
-    <message>
-        <source>summary fiscal receipt</source>
-        <translation>scontrino fiscale sintetico</translation>
-    </message>
-    <message>
-        <source>period report</source>
-        <translation>riepilogo del periodo</translation>
-    </message>
-    <message>
-        <source>sold items</source>
-        <translation>articoli venduti</translation>
-    </message>
-    <message>
-        <source>statement of account</source>
-        <translation>estratto conto</translation>
-    </message>
-</context>
-<context>
-    <name>hints</name>
+    <name>korvel::settings::hints</name>
     <message>
         <source>No document reads this: the renderer passes it over.</source>
         <translation>Nessun documento lo legge: il programma di stampa lo ignora.</translation>
