@@ -37,7 +37,7 @@ struct Tag
     bool holdsOthers = false;
 
     /// The attribute of that name; null when there is none.
-    const JobAttribute *find(QAnyStringView attribute) const;
+    [[nodiscard]] const JobAttribute *find(QAnyStringView attribute) const;
 };
 
 /// What cannot be read, or not by the renderer.
