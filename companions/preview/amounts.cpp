@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace preview {
+namespace korvel::preview {
 
 namespace {
 
@@ -28,11 +28,7 @@ Decimal split(QByteArrayView text)
     const auto *const mark =
         std::find_if(text.begin(), text.end(), [](char c) { return c == '.' || c == ','; });
     const bool marked = mark != text.end();
-    return {
-        {text.begin(),             mark      },
-        {marked ? mark + 1 : mark, text.end()},
-        marked
-    };
+    return {{text.begin(), mark}, {marked ? mark + 1 : mark, text.end()}, marked};
 }
 
 /// A plain decimal, in units of 10 to the power of -9.
@@ -112,4 +108,4 @@ bool isQuantity(QByteArrayView text)
            && std::all_of(fraction.begin(), fraction.end(), isDigit);
 }
 
-} // namespace preview
+} // namespace korvel::preview

@@ -6,7 +6,7 @@
 
 #include <optional>
 
-namespace preview {
+namespace korvel::preview {
 
 /**
  * An amount of money, exact to the digit. Parts of a hundredth are kept: nothing is rounded.
@@ -53,4 +53,4 @@ bool isWholeHundredths(QByteArrayView text);
 /// Whether a text is a quantity: a plain decimal of any size, with a point or a comma.
 bool isQuantity(QByteArrayView text);
 
-} // namespace preview
+} // namespace korvel::preview

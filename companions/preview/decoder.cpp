@@ -9,7 +9,7 @@
 #include <iterator>
 #include <utility>
 
-namespace preview {
+namespace korvel::preview {
 
 namespace {
 
@@ -32,24 +32,24 @@ struct Form
 
 constexpr Part lineParts[] = {
     {commands::lineOpener, &Command::content},
-    {commands::lineCloser                   },
+    {commands::lineCloser},
 };
 constexpr Part saleRowParts[] = {
     {commands::saleDepartment, &Command::department},
-    {commands::saleAmount,                        &Command::amount},
-    {commands::saleQuantity,&Command::quantity},
-    {commands::saleDescription,   &Command::description},
-    {commands::saleEnd                       },
+    {commands::saleAmount, &Command::amount},
+    {commands::saleQuantity, &Command::quantity},
+    {commands::saleDescription, &Command::description},
+    {commands::saleEnd},
 };
 constexpr Part deductionParts[] = {
     {commands::announceDeduction},
-    {commands::deductionAmount,   &Command::amount},
-    {commands::deductionEnd                          },
+    {commands::deductionAmount, &Command::amount},
+    {commands::deductionEnd},
 };
 
 constexpr Form forms[] = {
-    {Kind::Line,      lineParts,      std::size(lineParts)     },
-    {Kind::SaleRow,   saleRowParts,   std::size(saleRowParts)  },
+    {Kind::Line, lineParts, std::size(lineParts)},
+    {Kind::SaleRow, saleRowParts, std::size(saleRowParts)},
     {Kind::Deduction, deductionParts, std::size(deductionParts)},
 };
 
@@ -66,11 +66,11 @@ struct Mark
 };
 
 constexpr Mark marks[] = {
-    {Kind::SectionOpened, Section::Fiscal,   commands::openFiscal   },
-    {Kind::SectionClosed, Section::Fiscal,   commands::closeFiscal  },
-    {Kind::SectionOpened, Section::Receipt,  commands::openReceipt  },
-    {Kind::SectionOpened, Section::Document, commands::openDocument },
-    {Kind::SectionClosed, Section::Receipt,  commands::closeDocument},
+    {Kind::SectionOpened, Section::Fiscal, commands::openFiscal},
+    {Kind::SectionClosed, Section::Fiscal, commands::closeFiscal},
+    {Kind::SectionOpened, Section::Receipt, commands::openReceipt},
+    {Kind::SectionOpened, Section::Document, commands::openDocument},
+    {Kind::SectionClosed, Section::Receipt, commands::closeDocument},
     {Kind::SectionClosed, Section::Document, commands::closeDocument},
 };
 
@@ -340,4 +340,4 @@ QByteArray encode(const Command &command)
     return bytes;
 }
 
-} // namespace preview
+} // namespace korvel::preview

@@ -5,7 +5,7 @@
 
 #include <optional>
 
-namespace preview {
+namespace korvel::preview {
 
 /// What a section of the stream is to the printer.
 enum class Section { Fiscal, Receipt, Document };
@@ -77,4 +77,4 @@ private:
 /// The bytes of a command, put together from what it holds.
 QByteArray encode(const Command &command);
 
-} // namespace preview
+} // namespace korvel::preview

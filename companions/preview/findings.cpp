@@ -11,7 +11,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace preview {
+namespace korvel::preview {
 
 namespace {
 
@@ -236,4 +236,4 @@ QList<Finding> findings(const QByteArray &stream, int columns)
     return Inspector(stream, columns).inspect();
 }
 
-} // namespace preview
+} // namespace korvel::preview

@@ -6,7 +6,7 @@
 #include <QList>
 #include <QString>
 
-namespace preview {
+namespace korvel::preview {
 
 /// Something that a printer would refuse, misread or cut.
 struct Finding
@@ -32,4 +32,4 @@ inline constexpr qsizetype mostFindings = 1000;
  */
 QList<Finding> findings(const QByteArray &stream, int columns);
 
-} // namespace preview
+} // namespace korvel::preview

@@ -5,7 +5,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace preview {
+namespace korvel::preview {
 
 namespace {
 
@@ -19,12 +19,12 @@ struct KindNames
 };
 
 constexpr KindNames kinds[] = {
-    {Kind::Line,          "text line"_L1,       "line"_L1          },
+    {Kind::Line, "text line"_L1, "line"_L1},
     {Kind::SectionOpened, "section opening"_L1, "section-opened"_L1},
     {Kind::SectionClosed, "section closing"_L1, "section-closed"_L1},
-    {Kind::SaleRow,       "sale row"_L1,        "sale-row"_L1      },
-    {Kind::Deduction,     "deduction"_L1,       "deduction"_L1     },
-    {Kind::Unknown,       "unknown command"_L1, "unknown"_L1       },
+    {Kind::SaleRow, "sale row"_L1, "sale-row"_L1},
+    {Kind::Deduction, "deduction"_L1, "deduction"_L1},
+    {Kind::Unknown, "unknown command"_L1, "unknown"_L1},
 };
 
 struct SectionNames
@@ -35,8 +35,8 @@ struct SectionNames
 };
 
 constexpr SectionNames sections[] = {
-    {Section::Fiscal,   "fiscal section"_L1,   "fiscal"_L1  },
-    {Section::Receipt,  "receipt section"_L1,  "receipt"_L1 },
+    {Section::Fiscal, "fiscal section"_L1, "fiscal"_L1},
+    {Section::Receipt, "receipt section"_L1, "receipt"_L1},
     {Section::Document, "document section"_L1, "document"_L1},
 };
 
@@ -98,8 +98,8 @@ QJsonObject toJson(const Command &command)
 {
     QJsonObject object{
         {u"command"_s, namesOf(command.kind).key},
-        {u"offset"_s,  command.offset           },
-        {u"line"_s,    command.line             },
+        {u"offset"_s, command.offset},
+        {u"line"_s, command.line},
     };
     const auto text = [&](const QString &key, const QByteArray &bytes) {
         object.insert(key, decoded(bytes));
@@ -132,4 +132,4 @@ QJsonObject toJson(const Command &command)
     return object;
 }
 
-} // namespace preview
+} // namespace korvel::preview

@@ -6,7 +6,7 @@
 #include <QJsonObject>
 #include <QString>
 
-namespace preview {
+namespace korvel::preview {
 
 /// "fiscal section", "receipt section" or "document section".
 QString sectionName(Section section);
@@ -24,4 +24,4 @@ QString listed(const Command &command);
  */
 QJsonObject toJson(const Command &command);
 
-} // namespace preview
+} // namespace korvel::preview

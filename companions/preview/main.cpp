@@ -22,6 +22,8 @@
 
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
+namespace commands = korvel::commands;
+namespace preview = korvel::preview;
 
 namespace {
 

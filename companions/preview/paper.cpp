@@ -8,14 +8,14 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace preview {
+namespace korvel::preview {
 
 namespace {
 
 using Kind = Command::Kind;
 using Row = PaperRow::Kind;
 
-QString textOf(const QByteArray &bytes) { return korvel::shared::inOneLine(decoded(bytes)); }
+QString textOf(const QByteArray &bytes) { return shared::inOneLine(decoded(bytes)); }
 
 /// An amount for the reader: "1.20", or as it was sent where it is no plain number.
 QString moneyOf(const QByteArray &hundredths)
@@ -124,4 +124,4 @@ QList<PaperRow> paperOf(const QByteArray &stream, int columns)
     return rows;
 }
 
-} // namespace preview
+} // namespace korvel::preview

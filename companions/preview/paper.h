@@ -10,7 +10,7 @@
 #include <functional>
 #include <optional>
 
-namespace preview {
+namespace korvel::preview {
 
 /// A row of the paper.
 struct PaperRow
@@ -70,4 +70,4 @@ private:
 /// All rows of a stream's paper; see Roll.
 QList<PaperRow> paperOf(const QByteArray &stream, int columns);
 
-} // namespace preview
+} // namespace korvel::preview

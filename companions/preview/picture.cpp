@@ -15,7 +15,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace preview {
+namespace korvel::preview {
 
 namespace {
 
@@ -267,4 +267,4 @@ QByteArray Picture::toPdf() const
     return buffer.data();
 }
 
-} // namespace preview
+} // namespace korvel::preview

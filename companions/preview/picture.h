@@ -9,7 +9,7 @@
 class QImage;
 class QPainter;
 
-namespace preview {
+namespace korvel::preview {
 
 /**
  * Paints a roll of paper: black on white in a fixed cell for each character, 12 by 24 dots as on a
@@ -56,4 +56,4 @@ private:
     qsizetype widest; // characters of the widest row, or of the paper
 };
 
-} // namespace preview
+} // namespace korvel::preview

@@ -6,7 +6,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace preview {
+namespace korvel::preview {
 
 namespace {
 
@@ -41,9 +41,9 @@ struct Colours
 // Deductions red, what the preview computes faint, what it does not know inverted.
 constexpr Colours colours[] = {
     {Kind::Deducted, "\033[31m"_L1},
-    {Kind::Computed, "\033[2m"_L1 },
-    {Kind::Unknown,  "\033[7m"_L1 },
-    {Kind::Cut,      "\033[2m"_L1 },
+    {Kind::Computed, "\033[2m"_L1},
+    {Kind::Unknown, "\033[7m"_L1},
+    {Kind::Cut, "\033[2m"_L1},
 };
 constexpr auto beyondPaper = "\033[1;31m"_L1;
 constexpr auto plain = "\033[0m"_L1;
@@ -102,4 +102,4 @@ void Box::paint(QString &line, QStringView text, QLatin1StringView colour) const
         line += text;
 }
 
-} // namespace preview
+} // namespace korvel::preview

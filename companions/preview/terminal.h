@@ -3,7 +3,7 @@
 
 #include "companions/preview/paper.h"
 
-namespace preview {
+namespace korvel::preview {
 
 /**
  * The paper as a box of text, line by line; each ends in a line feed. What is wider than the paper
@@ -30,4 +30,4 @@ private:
     const bool coloured;
 };
 
-} // namespace preview
+} // namespace korvel::preview

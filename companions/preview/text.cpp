@@ -8,7 +8,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace preview {
+namespace korvel::preview {
 
 QString decoded(QByteArrayView text)
 {
@@ -63,7 +63,7 @@ QString escaped(QByteArrayView bytes)
             text += "\\t"_L1;
         else if (first == '\\')
             text += "\\\\"_L1;
-        else if (length > 0 && korvel::shared::isPrintable(shown.toUcs4().front()))
+        else if (length > 0 && shared::isPrintable(shown.toUcs4().front()))
             text += shown;
         else
             for (const char byte : character)
@@ -73,4 +73,4 @@ QString escaped(QByteArrayView bytes)
     return text;
 }
 
-} // namespace preview
+} // namespace korvel::preview

@@ -4,7 +4,7 @@
 #include <QByteArrayView>
 #include <QString>
 
-namespace preview {
+namespace korvel::preview {
 
 /// A text of the stream. A byte order mark stays a character of it; bytes that are not UTF-8 become
 /// replacement characters.
@@ -21,4 +21,4 @@ bool isControl(QByteArrayView character);
 /// print as the bytes "\x1b".
 QString escaped(QByteArrayView bytes);
 
-} // namespace preview
+} // namespace korvel::preview

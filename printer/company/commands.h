@@ -5,12 +5,12 @@
 
 #include <QLatin1StringView>
 
-namespace commands {
+namespace korvel::commands {
 
 using namespace Qt::Literals::StringLiterals;
 
 // Characters in a line of the paper.
-inline constexpr int lineWidth = korvel::vocabulary::lineWidth;
+inline constexpr int lineWidth = vocabulary::lineWidth;
 
 // A printed line: opener, text, closer. The printer centres nothing itself: the spaces of a
 // centred line stand between the opener and the text.
@@ -41,4 +41,4 @@ inline constexpr auto announceDeduction = "=S\r\n"_L1;
 inline constexpr auto deductionAmount = "=V/$"_L1;
 inline constexpr auto deductionEnd = "\r\n"_L1;
 
-} // namespace commands
+} // namespace korvel::commands

@@ -8,6 +8,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace commands = korvel::commands;
 namespace method = korvel::vocabulary::method;
 
 namespace {

@@ -13,7 +13,7 @@
 #include <cstdint>
 #include <tuple>
 
-using namespace preview;
+using namespace korvel::preview;
 
 namespace {
 

@@ -5,12 +5,12 @@
 
 #include <QList>
 
-/// The whole box; the parameters are those of preview::Box.
-inline QString boxed(const QList<preview::PaperRow> &rows, int columns, bool coloured)
+/// The whole box; the parameters are those of korvel::preview::Box.
+inline QString boxed(const QList<korvel::preview::PaperRow> &rows, int columns, bool coloured)
 {
-    const preview::Box box(columns, coloured);
+    const korvel::preview::Box box(columns, coloured);
     QString text = box.top();
-    for (const preview::PaperRow &row : rows)
+    for (const korvel::preview::PaperRow &row : rows)
         text += box.line(row);
     return text + box.bottom();
 }

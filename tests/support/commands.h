@@ -6,10 +6,10 @@
 #include <QList>
 
 /// The commands of a stream, in its order.
-inline QList<preview::Command> decode(const QByteArray &stream)
+inline QList<korvel::preview::Command> decode(const QByteArray &stream)
 {
-    QList<preview::Command> commands;
-    preview::Decoder decoder(stream);
+    QList<korvel::preview::Command> commands;
+    korvel::preview::Decoder decoder(stream);
     while (const auto command = decoder.next())
         commands.append(*command);
     return commands;

@@ -7,7 +7,7 @@
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace preview;
+using namespace korvel::preview;
 
 namespace {
 

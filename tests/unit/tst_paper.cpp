@@ -8,7 +8,7 @@
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace preview;
+using namespace korvel::preview;
 
 using Kind = PaperRow::Kind;
 
@@ -376,10 +376,7 @@ private slots:
         QFETCH(Kind, kind);
         QFETCH(QString, text);
         QFETCH(QString, expected);
-        QCOMPARE(box({
-                     {kind, text}
-        }),
-                 "┌────────┐\n" + expected + "\n└────────┘\n");
+        QCOMPARE(box({{kind, text}}), "┌────────┐\n" + expected + "\n└────────┘\n");
     }
 
     void theSampleFiscalReceipt()
@@ -401,29 +398,14 @@ private slots:
     void boxesOfOtherWidths()
     {
         QCOMPARE(boxed({}, 3, false), QString("┌───┐\n└───┘\n"));
-        QCOMPARE(boxed(
-                     {
-                         {Kind::Printed, "ab"},
-                         {Kind::Cut,     ""  },
-                         {Kind::Printed, ""  }
-        },
-                     1, false),
+        QCOMPARE(boxed({{Kind::Printed, "ab"}, {Kind::Cut, ""}, {Kind::Printed, ""}}, 1, false),
                  QString("┌─┐\n│a»b\n├╌┤\n│ │\n└─┘\n"));
-        QCOMPARE(boxed(
-                     {
-                         {Kind::Printed, pizza}
-        },
-                     1, false),
-                 "┌─┐\n│ »" + pizza + "\n└─┘\n");
+        QCOMPARE(boxed({{Kind::Printed, pizza}}, 1, false), "┌─┐\n│ »" + pizza + "\n└─┘\n");
     }
 
     void rowsOfABoxFollowEachOther()
     {
-        QCOMPARE(box({
-                     {Kind::Printed,  "a"},
-                     {Kind::Cut,      "" },
-                     {Kind::Computed, "b"}
-        }),
+        QCOMPARE(box({{Kind::Printed, "a"}, {Kind::Cut, ""}, {Kind::Computed, "b"}}),
                  QString("┌────────┐\n│a       │\n├╌╌╌╌╌╌╌╌┤\n┊b       ┊\n└────────┘\n"));
     }
 
@@ -456,14 +438,8 @@ private slots:
         static const QRegularExpression sequence("\x1B\\[[0-9;]*m");
         static const QRegularExpression colouredText(
             "\x1B\\[(?!0m)[0-9;]+m[^\x1B\n]+\x1B\\[0m"); // each ends before its line does
-        const QString plain = box({
-            {kind, text}
-        });
-        const QString box = boxed(
-            {
-                {kind, text}
-        },
-            8, true);
+        const QString plain = box({{kind, text}});
+        const QString box = boxed({{kind, text}}, 8, true);
         QCOMPARE(QString(box).remove(sequence), plain);
         QCOMPARE(box.contains('\x1B'), coloured);
         QVERIFY(!QString(box).remove(colouredText).contains('\x1B'));
@@ -476,28 +452,11 @@ private slots:
     {
         QSet<QString> starts;
         for (const Kind kind : {Kind::Printed, Kind::Deducted, Kind::Computed, Kind::Unknown})
-            starts.insert(inside(boxed(
-                                     {
-                                         {kind, "x"}
-            },
-                                     8, true))
-                              .value(0)
-                              .section('x', 0, 0)
-                              .mid(1));
+            starts.insert(inside(boxed({{kind, "x"}}, 8, true)).value(0).section('x', 0, 0).mid(1));
         QCOMPARE(starts.size(), 4);
         // What is beyond the paper has its colour whatever the row's is.
-        const QString printed = inside(boxed(
-                                           {
-                                               {Kind::Printed, "01234567x"}
-        },
-                                           8, true))
-                                    .value(0);
-        const QString deducted = inside(boxed(
-                                            {
-                                                {Kind::Deducted, "01234567x"}
-        },
-                                            8, true))
-                                     .value(0);
+        const QString printed = inside(boxed({{Kind::Printed, "01234567x"}}, 8, true)).value(0);
+        const QString deducted = inside(boxed({{Kind::Deducted, "01234567x"}}, 8, true)).value(0);
         QCOMPARE(deducted.section('7', 1), "\x1B[0m" + printed.section('7', 1));
     }
 };

@@ -12,9 +12,11 @@
 #include <algorithm>
 #include <cmath>
 
-using preview::PaperRow;
-using preview::Picture;
-using Kind = preview::PaperRow::Kind;
+using korvel::preview::PaperRow;
+using korvel::preview::Picture;
+using Kind = korvel::preview::PaperRow::Kind;
+
+namespace preview = korvel::preview;
 
 namespace {
 
@@ -291,20 +293,14 @@ private slots:
     {
         QFETCH(Kind, kind);
         QFETCH(QColor, colour);
-        const QImage image = imageOf({
-            {kind, QString(2, QChar(0x2588))}
-        }); // full blocks
+        const QImage image = imageOf({{kind, QString(2, QChar(0x2588))}}); // full blocks
         QCOMPARE(image.pixelColor(cellOf(0, 0).center()), colour);
         QCOMPARE(image.pixelColor(cellOf(1, 0).center()), colour);
     }
 
     void whereAnotherDocumentFollowsThePaperIsCut()
     {
-        const QImage image = imageOf({
-            {Kind::Printed, "X"},
-            {Kind::Cut,     {} },
-            {Kind::Printed, "X"}
-        });
+        const QImage image = imageOf({{Kind::Printed, "X"}, {Kind::Cut, {}}, {Kind::Printed, "X"}});
         const QRect between(2, 24 + 24, paperWidth - 4, 24);
         QVERIFY(any(dotsOf(image, between), isGrey));
         QVERIFY(any(dotsOf(image, between), isPaper));

@@ -13,7 +13,7 @@
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace preview;
+using namespace korvel::preview;
 
 using Kind = Command::Kind;
 

@@ -22,6 +22,9 @@
 
 using namespace korvel::settings;
 
+namespace commands = korvel::commands;
+namespace preview = korvel::preview;
+
 namespace {
 
 constexpr auto longEnough = 30000; // milliseconds, for a run of the renderer on a busy machine
