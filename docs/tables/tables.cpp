@@ -51,16 +51,16 @@ struct Phrase
 
 // Said of all that read a setting, or not at all.
 constexpr Phrase wholes[] = {
-    {0,                        "all"_L1            }, // read it, none prints by it
-    {vocabulary::shared,       "shared"_L1         },
+    {0, "all"_L1}, // read it, none prints by it
+    {vocabulary::shared, "shared"_L1},
     {vocabulary::withCustomer, "with a customer"_L1},
 };
 
 // Said in a list, beside the titles of others.
 constexpr Phrase parts[] = {
-    {vocabulary::receipts, "receipts"_L1       },
-    {vocabulary::invoices, "invoices"_L1       },
-    {vocabulary::fiscal,   "fiscal receipts"_L1},
+    {vocabulary::receipts, "receipts"_L1},
+    {vocabulary::invoices, "invoices"_L1},
+    {vocabulary::fiscal, "fiscal receipts"_L1},
 };
 
 QString inWords(Documents documents)
@@ -247,12 +247,12 @@ struct NamedTable
 };
 
 constexpr NamedTable namedTables[] = {
-    {"methods"_L1,           methodsTable         },
-    {"elements shared"_L1,   sharedElementsTable  },
-    {"groups"_L1,            groupsTable          },
-    {"settings"_L1,          settingsTable        },
+    {"methods"_L1, methodsTable},
+    {"elements shared"_L1, sharedElementsTable},
+    {"groups"_L1, groupsTable},
+    {"settings"_L1, settingsTable},
     {"language settings"_L1, languageSettingsTable},
-    {"codes"_L1,             codesTable           },
+    {"codes"_L1, codesTable},
 };
 
 } // namespace

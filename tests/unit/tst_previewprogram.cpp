@@ -742,32 +742,21 @@ private slots:
             return more;
         };
         const QList<QJsonObject> expected = {
-            command("section-opened", 0, 1, {{"section", "fiscal"}}
-               ),
+            command("section-opened", 0, 1, {{"section", "fiscal"}}),
             command("sale-row", 7, 3,
                     {{"department", "1"},
-                                             {"amount", "120"},
-                                             {"quantity", "2"},
-                                             {"description", "COFFEE"}}
-               ),
-            command("deduction", 28, 4, {{"amount", "50"}    }
-               ),
-            command("section-closed", 40, 6, {{"section", "fiscal"}                    }
-               ),
-            command("section-opened", 44, 7, {{"section", "receipt"}                }
-               ),
-            command("line", 50, 8, {{"spaces", 13}, {"text", "Caffè"}}
-               ),
-            command("line", 76, 9, {{"spaces", 0},     {"text", " x"}}
-               ),
-            command("section-closed", 85, 10, {{"section", "receipt"}  }
-               ),
-            command("section-opened", 88, 11, {{"section", "document"}        }
-               ),
-            command("unknown", 91, 12, {{"bytes", "3d3f0a"},                     {"badByte", 92}}
-               ),
-            command("section-closed", 94, 13, {{"section", "document"}                  }
-               ),
+                     {"amount", "120"},
+                     {"quantity", "2"},
+                     {"description", "COFFEE"}}),
+            command("deduction", 28, 4, {{"amount", "50"}}),
+            command("section-closed", 40, 6, {{"section", "fiscal"}}),
+            command("section-opened", 44, 7, {{"section", "receipt"}}),
+            command("line", 50, 8, {{"spaces", 13}, {"text", "Caffè"}}),
+            command("line", 76, 9, {{"spaces", 0}, {"text", " x"}}),
+            command("section-closed", 85, 10, {{"section", "receipt"}}),
+            command("section-opened", 88, 11, {{"section", "document"}}),
+            command("unknown", 91, 12, {{"bytes", "3d3f0a"}, {"badByte", 92}}),
+            command("section-closed", 94, 13, {{"section", "document"}}),
         };
         QVERIFY(run.standardOutput.endsWith('\n'));
         const QByteArrayList lines = run.standardOutput.chopped(1).split('\n');
@@ -843,55 +832,25 @@ private slots:
             QTest::newRow(qPrintable(object.value("command").toString() + bytes)) << object;
         };
 
-        row({
-            {"command", "line" },
-            {"spaces",  13     },
-            {"text",    "CASSA"}
-        });
-        row({
-            {"command", "section-opened"},
-            {"section", "fiscal"        }
-        });
-        row({
-            {"command", "section-closed"},
-            {"section", "document"      }
-        });
-        row({
-            {"command",     "sale-row"},
-            {"department",  "1"       },
-            {"amount",      "120"     },
-            {"quantity",    "2"       },
-            {"description", "COFFEE"  }
-        });
-        row({
-            {"command", "deduction"},
-            {"amount",  "50"       }
-        });
+        row({{"command", "line"}, {"spaces", 13}, {"text", "CASSA"}});
+        row({{"command", "section-opened"}, {"section", "fiscal"}});
+        row({{"command", "section-closed"}, {"section", "document"}});
+        row({{"command", "sale-row"},
+             {"department", "1"},
+             {"amount", "120"},
+             {"quantity", "2"},
+             {"description", "COFFEE"}});
+        row({{"command", "deduction"}, {"amount", "50"}});
         // Texts that are not UTF-8.
-        row({
-            {"command", "line"              },
-            {"spaces",  0                   },
-            {"text",    "x"                 },
-            {"bytes",   "3d222f2878ff20290a"}
-        });
-        row({
-            {"command",     "sale-row"},
-            {"department",  "1"       },
-            {"amount",      "120"     },
-            {"quantity",    "2"       },
-            {"description", ""        },
-            {"bytes",       "3d"      }
-        });
-        row({
-            {"command", "deduction"},
-            {"amount",  "50"       },
-            {"bytes",   "3d"       }
-        });
-        row({
-            {"command", "unknown"},
-            {"bytes",   "3d3f0a" },
-            {"badByte", 8        }
-        });
+        row({{"command", "line"}, {"spaces", 0}, {"text", "x"}, {"bytes", "3d222f2878ff20290a"}});
+        row({{"command", "sale-row"},
+             {"department", "1"},
+             {"amount", "120"},
+             {"quantity", "2"},
+             {"description", ""},
+             {"bytes", "3d"}});
+        row({{"command", "deduction"}, {"amount", "50"}, {"bytes", "3d"}});
+        row({{"command", "unknown"}, {"bytes", "3d3f0a"}, {"badByte", 8}});
     }
 
     void schemaAllowsNothingElse()
@@ -930,10 +889,9 @@ private slots:
         }
         // Keys and values of another command.
         for (const auto &[key, value] : QMap<QString, QJsonValue>{
-                 {"text",    "x"      },
+                 {"text", "x"},
                  {"section", "receipt"},
-                 {"badByte", 1        }
-        }.toStdMap())
+                 {"badByte", 1}}.toStdMap())
             if (!object.contains(key))
                 wrong += with(key, value);
         if (object.contains("section"))
