@@ -78,6 +78,20 @@ qsizetype clusterLength(const QString &text, qsizetype at)
     return end - at;
 }
 
+/// Whether a character looks alone as it does in a text: its script joins and moves no letters.
+bool isPlain(QChar character)
+{
+    switch (character.script()) {
+    case QChar::Script_Common:
+    case QChar::Script_Latin:
+    case QChar::Script_Greek:
+    case QChar::Script_Cyrillic:
+        return true;
+    default:
+        return false;
+    }
+}
+
 /// Letters painted all at once: a painter takes long for each text, however short.
 class Letters
 {
@@ -90,14 +104,14 @@ public:
     }
 
     /**
-     * Takes a letter that fills no more than its cell; false, and nothing done, for other
-     * characters and for what the font does not have.
+     * Takes a letter, for the middle of its cell; false, and nothing done, for what is not plain
+     * and what the font does not have.
      */
     bool add(QChar letter, QPoint cellAt, const QColor &colour)
     {
         quint32 glyph = 0;
         int count = 1;
-        if (letter >= firstMark || !font.glyphIndexesForChars(&letter, 1, &glyph, &count)
+        if (!isPlain(letter) || !font.glyphIndexesForChars(&letter, 1, &glyph, &count)
             || glyph == 0)
             return false;
         QPointF advance;
@@ -126,8 +140,6 @@ public:
     }
 
 private:
-    static constexpr QChar firstMark = u'\u0300'; // what is before it, stands alone
-
     QPainter &painter;
     const QRawFont font;
     const qreal baseline;
