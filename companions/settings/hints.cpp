@@ -29,14 +29,17 @@ struct Warning
 // clang-format off
 constexpr Warning warnings[] = {
     {check::Code::UnreadKey,
-     QT_TRANSLATE_NOOP("korvel::settings::hints", "No document reads this: the renderer passes it over.")},
+     QT_TRANSLATE_NOOP("korvel::settings::hints",
+                       "No document reads this: the renderer passes it over.")},
     {check::Code::NotTrue,
-     QT_TRANSLATE_NOOP("korvel::settings::hints", "Counts as off: only exactly \"true\" switches it on.")},
+     QT_TRANSLATE_NOOP("korvel::settings::hints",
+                       "Counts as off: only exactly \"true\" switches it on.")},
     {check::Code::NotANumber,
      QT_TRANSLATE_NOOP("korvel::settings::hints", "Not a whole number: counts as 0.")},
     {check::Code::Columns,
-     QT_TRANSLATE_NOOP("korvel::settings::hints", "Too wide for the paper: lines of more than 32 characters, "
-                                "or no room for the description.")},
+     QT_TRANSLATE_NOOP("korvel::settings::hints",
+                       "Too wide for the paper: lines of more than 32 characters, "
+                       "or no room for the description.")},
 };
 // clang-format on
 
