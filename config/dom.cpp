@@ -29,8 +29,8 @@ public:
 class Node
 {
 public:
-    explicit Node(QDomNode inDocument)
-        : node(std::move(inDocument))
+    explicit Node(const QDomNode &inDocument)
+        : node(inDocument)
     {
     }
     [[nodiscard]] bool isNull() const { return node.isNull(); }

@@ -41,7 +41,11 @@ bool PrinterDriver::endDocument()
     return true;
 }
 
-bool PrinterDriver::endElement(const QString &, const QString &, const QString &) { return true; }
+bool PrinterDriver::endElement(const QString & /*namespaceUri*/, const QString & /*localName*/,
+                               const QString & /*qName*/)
+{
+    return true;
+}
 
 void PrinterDriver::reset() { }
 

@@ -33,7 +33,7 @@ public:
     Amount operator-() const { return Amount(-units); }
 
     /// With a point and at least two decimals: "12.50", "-0.50", "1.005".
-    QString toString() const;
+    [[nodiscard]] QString toString() const;
 
 private:
     /// Units of which a hundredth has 10 to the power of 18.

@@ -28,26 +28,26 @@ public:
     /// Rows that an image can hold; what is longer fits a PDF only.
     static constexpr int mostRows = 1300;
 
-    qsizetype rowCount() const { return rows.size(); }
+    [[nodiscard]] qsizetype rowCount() const { return rows.size(); }
 
     /// Whether an image can hold it: not more than mostRows rows, nor too many very wide ones.
-    bool fitsImage() const;
+    [[nodiscard]] bool fitsImage() const;
 
     /// Size of the picture: the paper, and beside it what is wider.
-    QSize size() const;
+    [[nodiscard]] QSize size() const;
 
     /// Paints all of it, from the point (0, 0) on; what is beside the paper stays as it is.
     void paint(QPainter &painter) const;
 
     /// At 203 dpi, with nothing around the paper. The paper must fit.
-    QImage toImage() const;
+    [[nodiscard]] QImage toImage() const;
 
     /// A PDF in the paper's own size, on as many pages as a long roll needs.
-    QByteArray toPdf() const;
+    [[nodiscard]] QByteArray toPdf() const;
 
 private:
-    int paperWidth() const; // without what is beside it
-    Picture part(qsizetype first, qsizetype count) const;
+    [[nodiscard]] int paperWidth() const; // without what is beside it
+    [[nodiscard]] Picture part(qsizetype first, qsizetype count) const;
     void paintPaper(QPainter &painter) const;
     void paintRow(QPainter &painter, const PaperRow &row, int top) const;
 

@@ -19,9 +19,9 @@ public:
      */
     Box(int columns, bool coloured);
 
-    QString top() const;
-    QString line(const PaperRow &row) const;
-    QString bottom() const;
+    [[nodiscard]] QString top() const;
+    [[nodiscard]] QString line(const PaperRow &row) const;
+    [[nodiscard]] QString bottom() const;
 
 private:
     void paint(QString &line, QStringView text, QLatin1StringView colour) const;
