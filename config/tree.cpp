@@ -11,6 +11,8 @@ Tree::Tree()
 void Tree::beginGroup(std::string_view name, qint64 place)
 {
     if (skipped > 0 || !attach() || name.empty() || depth == deepestGroup) {
+        if (skipped == 0 && !isPending && !name.empty())
+            leaveOut();
         ++skipped;
         return;
     }

@@ -27,9 +27,9 @@ constexpr CodeInfo rows[] = {
     {Code::Limit, Level::Error, "limit"_L1,
      "%1"_L1,
      "The job is nested more deeply, or declares more namespaces or entities, than the renderer "
-     "takes. The paper ends there."_L1,
+     "takes. The paper ends there. Of a settings file, what is beyond the limits is read over."_L1,
      "Put the elements one after the other; they need no nesting, no namespaces and no document "
-     "type."_L1},
+     "type. Keep to the settings that documents read."_L1},
     {Code::NoMethod, Level::Error, "no-method"_L1,
      "no method: nothing is printed; begin with <method name=\"...\"/>"_L1,
      "The job selects no document, so nothing is printed but the command that closes a section."_L1,

@@ -128,6 +128,9 @@ inline constexpr Phrase declaredEntities{
 inline constexpr Phrase declaredAttributes{
     "more than %1 attributes in the document type: nothing behind this was checked"};
 
+inline constexpr Phrase settingsReadOver{
+    "groups and settings that are too many, too deep or too long are read over: %1"};
+
 // UnknownMethod
 inline constexpr Phrase noDocument{"no document is called %1"};
 inline constexpr Phrase noMethodName{"the method has no name"};

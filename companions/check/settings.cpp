@@ -108,6 +108,10 @@ QList<Finding> checkSettings(const SettingsFile &settings)
             groups.insert(group, entry.place);
     }
     checkColumns(settings, groups, findings);
+    if (const qsizetype count = settings.leftOut(); count > 0) {
+        const QString words = filled(phrase::settingsReadOver, QString::number(count));
+        findings.append({Place(), Code::Limit, worded(Code::Limit, words), {}, 0});
+    }
     sortByPlace(findings);
     return findings;
 }

@@ -86,6 +86,11 @@ QList<SettingsFile::Entry> SettingsFile::entries() const
     return found;
 }
 
+qsizetype SettingsFile::leftOut() const
+{
+    return static_cast<qsizetype>(document.tree()->leftOut());
+}
+
 QString SettingsFile::value(QLatin1StringView group, QLatin1StringView key) const
 {
     return lookup(korvel::vocabulary::pathOf(group, key));

@@ -28,6 +28,9 @@ public:
     /// there is the last, which counts.
     [[nodiscard]] QList<Entry> entries() const;
 
+    /// How many groups and settings the renderer reads over because there are too many or too deep.
+    [[nodiscard]] qsizetype leftOut() const;
+
     /// A document's setting, empty when it is missing.
     [[nodiscard]] QString value(QLatin1StringView group, QLatin1StringView key) const;
 

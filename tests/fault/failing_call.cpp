@@ -24,12 +24,14 @@
 #include <sys/uio.h>
 #include <unistd.h>
 
+#ifndef KORVEL_SANITIZED
 extern "C" {
 void *__libc_malloc(std::size_t);                // NOLINT(bugprone-reserved-identifier)
 void *__libc_calloc(std::size_t, std::size_t);   // NOLINT(bugprone-reserved-identifier)
 void *__libc_realloc(void *, std::size_t);       // NOLINT(bugprone-reserved-identifier)
 void *__libc_memalign(std::size_t, std::size_t); // NOLINT(bugprone-reserved-identifier)
 }
+#endif
 
 namespace {
 
@@ -234,6 +236,7 @@ int statx(int folder, const char *path, int flags, unsigned mask, struct statx *
                          : static_cast<int>(syscall(SYS_statx, folder, path, flags, mask, status));
 }
 
+#ifndef KORVEL_SANITIZED // whose memory a sanitizer gives out
 void *malloc(size_t size) { return fails("alloc") ? nullptr : __libc_malloc(size); }
 
 void *calloc(size_t count, size_t size)
@@ -258,4 +261,5 @@ int posix_memalign(void **block, size_t alignment, size_t size)
     *block = __libc_memalign(alignment, size);
     return *block ? 0 : ENOMEM;
 }
+#endif
 }

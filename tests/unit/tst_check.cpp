@@ -1713,6 +1713,34 @@ private slots:
         QVERIFY2(oneLine, qPrintable(finding.text));
     }
 
+    /// What the renderer reads over because there is too much of it is one finding.
+    void settingsBeyondTheLimits()
+    {
+        const auto limits = [](const QByteArray &inner) {
+            QStringList texts;
+            for (const check::Finding &finding :
+                 checkSettings(*settingsOf("korvel: { doc: {" + inner + "}; };"))) {
+                if (finding.code == check::Code::Limit)
+                    texts.append(finding.text);
+            }
+            return texts;
+        };
+        const auto readOver = [](int count) {
+            return QStringList("groups and settings that are too many, too deep or too long are "
+                               "read over: "
+                               + QString::number(count));
+        };
+        const auto nested = [](int levels) {
+            return QByteArray("a:{").repeated(levels) + "b=1;" + QByteArray("};").repeated(levels);
+        };
+        QCOMPARE(limits("paperWidth=32;"), QStringList());
+        QCOMPARE(limits(nested(998)), QStringList());
+        QCOMPARE(limits(nested(999)), readOver(1));
+        QCOMPARE(limits(QByteArray("paperWidth=32;").repeated(262144)), QStringList());
+        QCOMPARE(limits(QByteArray("paperWidth=32;").repeated(262146)), readOver(2));
+        QCOMPARE(limits("paperWidth=" + QByteArray(16777217, '3') + ';'), readOver(1));
+    }
+
     /// A text of the job is shown as it stands, even where it looks like a place in a wording.
     void placesOfWordingsInTheJob()
     {
