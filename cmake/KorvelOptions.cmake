@@ -3,6 +3,12 @@
 set(KORVEL_SANITIZERS "" CACHE STRING
     "Sanitizers to build with, comma-separated (address,undefined)")
 
+# What was compiled before need not be compiled again, in whatever folder.
+find_program(CCACHE ccache)
+if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
 add_library(korvel-warnings INTERFACE)
 target_compile_options(korvel-warnings INTERFACE
     -Wall -Wextra -Wshadow -Wconversion -Woverloaded-virtual)

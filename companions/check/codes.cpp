@@ -11,7 +11,7 @@ namespace korvel::check {
 namespace {
 
 // clang-format off
-constexpr CodeInfo rows[] = {
+constexpr CodeInfo table[] = {
     // The job as a whole.
     {Code::MalformedXml, Level::Error, "malformed-xml"_L1,
      "%1: nothing behind this was checked"_L1,
@@ -183,11 +183,11 @@ constexpr CodeInfo rows[] = {
 
 constexpr bool isInOrder()
 {
-    for (std::size_t i = 0; i < std::size(rows); ++i) {
-        if (rows[i].code != Code(i))
+    for (std::size_t i = 0; i < std::size(table); ++i) {
+        if (table[i].code != Code(i))
             return false;
     }
-    return std::size(rows) == std::size_t(Code::Count);
+    return std::size(table) == std::size_t(Code::Count);
 }
 static_assert(isInOrder(), "each code has its row, in the order of the codes");
 
@@ -195,17 +195,17 @@ static_assert(isInOrder(), "each code has its row, in the order of the codes");
 
 const QList<CodeInfo> &codes()
 {
-    static const QList<CodeInfo> all(std::begin(rows), std::end(rows));
+    static const QList<CodeInfo> all(std::begin(table), std::end(table));
     return all;
 }
 
-const CodeInfo &infoOf(Code code) { return rows[std::size_t(code)]; }
+const CodeInfo &infoOf(Code code) { return table[std::size_t(code)]; }
 
 const CodeInfo *findCode(QAnyStringView name)
 {
-    const auto found = std::find_if(std::begin(rows), std::end(rows),
+    const auto found = std::find_if(std::begin(table), std::end(table),
                                     [&](const CodeInfo &row) { return row.name == name; });
-    return found == std::end(rows) ? nullptr : found;
+    return found == std::end(table) ? nullptr : found;
 }
 
 QLatin1StringView levelName(Level level)

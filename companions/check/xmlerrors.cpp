@@ -107,7 +107,7 @@ using At = const Surroundings &;
 // An error, where it is this one, how far in front of it the fault begins, and the words for it:
 // {name} is the name at the fault, {character} the character; {open} is the innermost open
 // element and {line} its line. Of several rows for an error the first that fits counts.
-struct Row
+struct Wording
 {
     XML_Error error;
     bool (*fits)(At at);
@@ -118,7 +118,7 @@ struct Row
 bool always(At /*at*/) { return true; }
 
 // clang-format off
-constexpr Row rows[] = {
+constexpr Wording wordings[] = {
     {XML_ERROR_INVALID_TOKEN, [](At at) { return isForbidden(at.behind); }, 0,
      "XML forbids the character {character}"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.before.endsWith('&'); }, 1,
@@ -224,10 +224,11 @@ XmlFault faultIn(const QByteArray &document, XML_Error error, qsizetype offset,
                  const Tag *innermost)
 {
     const Surroundings at(document, std::min(offset, document.size()), innermost);
-    const auto row = std::find_if(std::begin(rows), std::end(rows), [&](const Row &candidate) {
-        return candidate.error == error && candidate.fits(at);
-    });
-    if (row == std::end(rows))
+    const auto row =
+        std::find_if(std::begin(wordings), std::end(wordings), [&](const Wording &candidate) {
+            return candidate.error == error && candidate.fits(at);
+        });
+    if (row == std::end(wordings))
         return {offset, u"this is not well-formed"_s};
     QString words = row->words;
     words.replace("{name}"_L1, nameIn(at.behind));

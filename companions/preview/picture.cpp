@@ -19,7 +19,7 @@ namespace korvel::preview {
 
 namespace {
 
-using Kind = PaperRow::Kind;
+using Row = PaperRow::Kind;
 
 constexpr int dotsPerInch = 203;
 constexpr int dotsPerMetre = 7992;
@@ -35,17 +35,17 @@ const QColor ink(Qt::black);
 const QColor grey(0x80, 0x80, 0x80); // what the preview says, and the edges
 const QColor red(0xc0, 0x20, 0x20);  // what is beyond the paper or unknown
 
-QColor colourOf(Kind kind)
+QColor colourOf(Row kind)
 {
     switch (kind) {
-    case Kind::Computed:
-    case Kind::Cut:
+    case Row::Computed:
+    case Row::Cut:
         return grey;
-    case Kind::Unknown:
+    case Row::Unknown:
         return red;
-    case Kind::Printed:
-    case Kind::Registered:
-    case Kind::Deducted:
+    case Row::Printed:
+    case Row::Registered:
+    case Row::Deducted:
         break;
     }
     return ink;
@@ -208,7 +208,7 @@ void Picture::paintPaper(QPainter &painter) const
 
 void Picture::paintRow(QPainter &painter, const PaperRow &row, int top) const
 {
-    if (row.kind == Kind::Cut) {
+    if (row.kind == Row::Cut) {
         painter.setPen(QPen(grey, 2, Qt::DashLine));
         const int middle = top + cell.height() / 2;
         painter.drawLine(0, middle, paperWidth(), middle);

@@ -10,7 +10,7 @@ namespace korvel::preview {
 
 namespace {
 
-using Kind = PaperRow::Kind;
+using Row = PaperRow::Kind;
 
 /// Cells of a terminal that a text takes: a letter takes one, most emoji two, an accent that is
 /// set over the letter before it none.
@@ -34,21 +34,21 @@ qsizetype crossing(const QString &text, int columns)
 
 struct Colours
 {
-    Kind kind;
+    Row kind;
     QLatin1StringView start;
 };
 
 // Deductions red, what the preview computes faint, what it does not know inverted.
 constexpr Colours colours[] = {
-    {Kind::Deducted, "\033[31m"_L1},
-    {Kind::Computed, "\033[2m"_L1},
-    {Kind::Unknown, "\033[7m"_L1},
-    {Kind::Cut, "\033[2m"_L1},
+    {Row::Deducted, "\033[31m"_L1},
+    {Row::Computed, "\033[2m"_L1},
+    {Row::Unknown, "\033[7m"_L1},
+    {Row::Cut, "\033[2m"_L1},
 };
 constexpr auto beyondPaper = "\033[1;31m"_L1;
 constexpr auto plain = "\033[0m"_L1;
 
-QLatin1StringView colourOf(Kind kind)
+QLatin1StringView colourOf(Row kind)
 {
     for (const Colours &row : colours) {
         if (row.kind == kind)
@@ -70,12 +70,12 @@ QString Box::top() const { return u'┌' + QString(columns, u'─') + u"┐\n"_s
 QString Box::line(const PaperRow &row) const
 {
     QString line;
-    if (row.kind == Kind::Cut) {
+    if (row.kind == Row::Cut) {
         line += u'├';
         paint(line, QString(columns, u'╌'), colourOf(row.kind));
         return line + u"┤\n"_s;
     }
-    const QChar side = row.kind == Kind::Computed || row.kind == Kind::Unknown ? u'┊' : u'│';
+    const QChar side = row.kind == Row::Computed || row.kind == Row::Unknown ? u'┊' : u'│';
     const qsizetype crossed = crossing(row.text, columns);
     const QStringView inside = QStringView(row.text).first(crossed);
     const QStringView beyond = QStringView(row.text).sliced(crossed);
