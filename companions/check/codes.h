@@ -1,16 +1,22 @@
-// The kinds of findings and all that they say: codes, wordings, and the phrases within these.
+// The kinds of findings and all that they say: a code and a row of the table for each.
 #pragma once
+
+#include "companions/check/phrases.h"
 
 #include <QList>
 #include <QString>
 
+#include <iterator>
+
 namespace korvel::check {
+
+using namespace Qt::Literals::StringLiterals;
 
 /// An error loses or falsifies something on the paper; a warning is about what is probably not
 /// meant.
 enum class Level { Error, Warning };
 
-/// The kinds of findings, in the order of docs/checks.md.
+/// The kinds of findings, in the order of docs/checks.md: each has its row below.
 enum class Code {
     // The job as a whole.
     MalformedXml,
@@ -70,6 +76,187 @@ struct CodeInfo
     QLatin1StringView advice;  // what to do
 };
 
+// clang-format off
+inline constexpr CodeInfo codeTable[] = {
+    // The job as a whole.
+    {Code::MalformedXml, Level::Error, "malformed-xml"_L1,
+     "%1: nothing behind this was checked"_L1,
+     "The job is not well-formed XML. The paper usually ends at the error, and its section is "
+     "not closed; the checker stops there."_L1,
+     "Correct the XML where the finding points. An XML library writes jobs without such "
+     "errors."_L1},
+    {Code::Encoding, Level::Error, "encoding"_L1,
+     "%1"_L1,
+     "Bytes of the job are not in the encoding that it names, or the encoding is one that the "
+     "checker cannot read."_L1,
+     "Write jobs as UTF-8, with no encoding or with UTF-8 in the XML declaration."_L1},
+    {Code::Limit, Level::Error, "limit"_L1,
+     "%1"_L1,
+     "The job is nested more deeply, or declares more namespaces or entities, than the renderer "
+     "takes. The paper ends there. Of a settings file, what is beyond the limits is read over."_L1,
+     "Put the elements one after the other; they need no nesting, no namespaces and no document "
+     "type. Keep to the settings that documents read."_L1},
+    {Code::NoMethod, Level::Error, "no-method"_L1,
+     "no method: nothing is printed; begin with <method name=\"...\"/>"_L1,
+     "The job selects no document, so nothing is printed but the command that closes a section."_L1,
+     "Send a `method` element before all others, with the name of the document."_L1},
+    {Code::UnknownMethod, Level::Error, "unknown-method"_L1,
+     "%1: the job ends here%2"_L1,
+     "There is no document of that name. The renderer says \"File Format Not Supported\" and "
+     "the job ends there."_L1,
+     "Use one of the thirteen names; upper and lower case are different."_L1},
+    {Code::SecondMethod, Level::Warning, "second-method"_L1,
+     "a second method: the section of the %1 is not closed"_L1,
+     "The job selects a second document. Both open a section on the printer, and only one is "
+     "closed."_L1,
+     "Send one document per job: two jobs, two runs."_L1},
+    {Code::BeforeMethod, Level::Error, "before-method"_L1,
+     "<%1> stands before the method and is not printed; move it behind <method>"_L1,
+     "An element stands before the method. It prints nothing."_L1,
+     "Put the `method` element first."_L1},
+
+    // Elements and attributes.
+    {Code::UnknownElement, Level::Error, "unknown-element"_L1,
+     "no document knows <%1>: nothing is printed%2"_L1,
+     "No document knows an element of that name. It prints nothing."_L1,
+     "Correct the name; the spellings are fixed, an item is a `receipe`. An element that only "
+     "holds others is not reported."_L1},
+    {Code::IgnoredElement, Level::Warning, "ignored-element"_L1,
+     "<%1> prints nothing in the document \"%2\"%3%4"_L1,
+     "Other documents know the element, but this one ignores it. It prints nothing."_L1,
+     "Leave it out, or select the document that prints it."_L1},
+    {Code::UnknownAttribute, Level::Warning, "unknown-attribute"_L1,
+     "nothing reads \"%1\" of <%2> in this document%3"_L1,
+     "This document does not read an attribute of that name. It is not printed."_L1,
+     "Correct the name, or leave the attribute out."_L1},
+    {Code::MissingAttribute, Level::Warning, "missing-attribute"_L1,
+     "<%1> has no %2: %3"_L1,
+     "An attribute is missing. Its label or its column is printed all the same, with nothing "
+     "in it."_L1,
+     "Send the attribute. Where the place is meant to stay empty, send it empty."_L1},
+    {Code::CancelledList, Level::Error, "cancelled-list"_L1,
+     "%1"_L1,
+     "The list of cancelled documents is not read as it is meant: `number` and `totals` must "
+     "be its first two attributes, and each document has three more, in the number that "
+     "`number` says."_L1,
+     "Send serial number, total and tax rate of each document, in this order, after `number` "
+     "and `totals`."_L1},
+
+    // Amounts and quantities.
+    {Code::Amount, Level::Warning, "amount"_L1,
+     "\"%1\" is %2, no number; it prints as it is"_L1,
+     "The text stands for an amount and is no number. It is printed as it is."_L1,
+     "Send digits with a decimal point, and a currency sign if it is to be printed."_L1},
+    {Code::Hundredths, Level::Warning, "hundredths"_L1,
+     "\"%1\" is %2, with parts of a hundredth; it prints as it is"_L1,
+     "The amount has parts of a hundredth. It is printed as it is, not rounded."_L1,
+     "Round amounts to hundredths before they are sent."_L1},
+    {Code::DecimalComma, Level::Warning, "decimal-comma"_L1,
+     "\"%1\" is %2 and prints with its comma"_L1,
+     "The amount has a decimal comma. Only fiscal receipts read amounts; everywhere else it is "
+     "printed as it is, with its comma."_L1,
+     "Send the decimal mark that is to stand on the paper, the same in all amounts. If that is "
+     "the comma, this warning can be ignored."_L1},
+    {Code::VariantQuantity, Level::Warning, "variant-quantity"_L1,
+     "the quantity %1 is no number and prints as \"-\", something left out"_L1,
+     "The quantity of a variant is no number. It prints as \"-\", as something left out."_L1,
+     "Send 1 for something added, -1 for something left out, or a number with a decimal point."_L1},
+    {Code::FiscalIncomplete, Level::Error, "fiscal-incomplete"_L1,
+     "the sale row has no %1: %2"_L1,
+     "A sale row lacks its department, quantity, name or price, or has it empty. A missing "
+     "price is registered as 0."_L1,
+     "Send all four."_L1},
+    {Code::FiscalAmount, Level::Error, "fiscal-amount"_L1,
+     "\"%1\" of a sale row is %2, %3"_L1,
+     "The price of a sale row is no plain number that the printer can take. What is no number "
+     "at all is registered as 0."_L1,
+     "Send at most 13 digits, a decimal point or comma and two decimals; nothing between "
+     "thousands, no currency sign."_L1},
+    {Code::FiscalHundredths, Level::Error, "fiscal-hundredths"_L1,
+     "\"%1\" of a sale row is %2, with parts of a hundredth, which are sent"_L1,
+     "The price of a sale row has parts of a hundredth. They are sent to the printer, which "
+     "registers whole hundredths."_L1,
+     "Round prices to hundredths before they are sent."_L1},
+    {Code::FiscalQuantity, Level::Error, "fiscal-quantity"_L1,
+     "\"%1\" of a sale row is %2, no plain number"_L1,
+     "The quantity of a sale row is no plain number. It is sent as it is."_L1,
+     "Send digits, with a decimal point where a part of a piece is sold."_L1},
+
+    // Texts.
+    {Code::EndsCommand, Level::Error, "ends-command"_L1,
+     "\"%1\" of a sale row is %2: a %3 in it breaks the printer's command"_L1,
+     "A character in a text that is registered ends or splits the printer's command, and the "
+     "row is lost or misread: a closing parenthesis, a line break, or a slash in a department "
+     "or a quantity."_L1,
+     "Leave the character out, or send another one in its place, such as ] for )."_L1},
+    {Code::LineBreak, Level::Error, "line-break"_L1,
+     "\"%1\" of <%2> has a line break, which breaks the printed line"_L1,
+     "A line break in a text that is printed breaks the printer's command."_L1,
+     "Send one line. Of an address, part the lines by commas."_L1},
+    {Code::Parenthesis, Level::Warning, "parenthesis"_L1,
+     "\"%1\" of <%2> has a \")\", which some printers take for the end of the line"_L1,
+     "The text has a closing parenthesis, which some printers take for the end of the line."_L1,
+     "Leave it out, or send another character in its place, such as ]."_L1},
+    {Code::ControlCharacter, Level::Warning, "control-character"_L1,
+     "%1 a tab or another control character"_L1,
+     "The text has a tab or another control character. The printer's width of it is unknown, "
+     "and columns may shift."_L1,
+     "Send blanks instead."_L1},
+    {Code::Totale, Level::Warning, "totale"_L1,
+     "\"%1\" of <%2> has TOTALE, which prints as T0TALE"_L1,
+     "The text has the word TOTALE, which is printed as T0TALE, with a zero: the printer "
+     "reserves the word."_L1,
+     "Nothing, if the zero does no harm; else write Totale."_L1},
+    {Code::Address, Level::Warning, "address"_L1,
+     "\"%1\" has an empty part: what follows is not printed"_L1,
+     "An address has an empty part between two commas. What follows it is not printed."_L1,
+     "Leave the empty part out; one with a blank prints an empty line."_L1},
+
+    // The job beside its settings.
+    {Code::SwitchedOff, Level::Warning, "switched-off"_L1,
+     "%1: %2 is off in %3"_L1,
+     "The settings switch off what the job sends. It is not printed."_L1,
+     "Switch it on in the settings if it is meant to be printed, with exactly true; else leave "
+     "it out of the job."_L1},
+    {Code::WideFigure, Level::Warning, "wide-figure"_L1,
+     "\"%1\" is %2 in a column of %3 (%4 in %5): the line grows by %6"_L1,
+     "A figure is wider than its column. It is not cut; the line grows, maybe past the paper."_L1,
+     "Widen the column in the settings."_L1},
+
+    // The settings.
+    {Code::Columns, Level::Warning, "columns"_L1,
+     "%1"_L1,
+     "The columns of a document leave no room for the description, or its lines are wider than "
+     "the printer's 32 characters."_L1,
+     "Make the columns narrower, so that the description has at least one character, and set "
+     "paperWidth to 32 or less."_L1},
+    {Code::UnreadKey, Level::Warning, "unread-key"_L1,
+     "nothing reads %1: %2"_L1,
+     "No document reads the setting: its name or its group is misspelt, or it stands outside "
+     "the group of a document."_L1,
+     "Correct the name or the place; upper and lower case are different. There are no "
+     "comments: their text becomes part of the next name."_L1},
+    {Code::NotTrue, Level::Warning, "not-true"_L1,
+     "%1 is %2 and counts as off; only true switches it on"_L1,
+     "A switch is neither true nor false, and counts as off."_L1,
+     "Write exactly true, in small letters and without blanks, to switch it on."_L1},
+    {Code::NotANumber, Level::Warning, "not-a-number"_L1,
+     "%1 is %2, no whole number, and counts as 0"_L1,
+     "A width or a count is no whole number, and counts as 0."_L1,
+     "Write digits alone."_L1},
+};
+// clang-format on
+
+constexpr bool isInOrder()
+{
+    for (std::size_t i = 0; i < std::size(codeTable); ++i) {
+        if (codeTable[i].code != Code(i))
+            return false;
+    }
+    return std::size(codeTable) == std::size_t(Code::Count);
+}
+static_assert(isInOrder(), "each code has its row, in the order of the codes");
+
 /// The whole table, in the order of the codes.
 const QList<CodeInfo> &codes();
 
@@ -82,114 +269,11 @@ const CodeInfo *findCode(QAnyStringView name);
 /// "error" or "warning".
 QLatin1StringView levelName(Level level);
 
-/// A text with words at its places, the first at %1. A place within a word is no place.
-template<typename... Words>
-QString filled(QLatin1StringView text, const Words &...words)
-{
-    if constexpr (sizeof...(words) == 0)
-        return text;
-    else
-        return QString(text).arg(words...);
-}
-
 /// What a finding says: the wording of its code with words at its places.
 template<typename... Words>
 QString worded(Code code, const Words &...words)
 {
     return filled(infoOf(code).wording, words...);
 }
-
-/// The parts of wordings that have several forms.
-namespace phrase {
-
-using Phrase = QLatin1StringView;
-
-// What a misspelt name may be.
-inline constexpr Phrase didYouMean{"; did you mean \"%1\"?"};
-
-// MalformedXml: what the reader does not say
-inline constexpr Phrase namelessInstruction{"an instruction has no name"};
-inline constexpr Phrase noName{"\"%1\" is no name"};
-inline constexpr Phrase otherVersion{"XML %1 is not read; write 1.0"};
-
-// Encoding
-inline constexpr Phrase otherEncoding{
-    "another encoding is named than the job is written in: the paper ends here"};
-inline constexpr Phrase unknownEncoding{
-    "the checker cannot read the encoding \"%1\": nothing else was checked; write UTF-8"};
-inline constexpr Phrase wrongBytes{"not %1: the bytes here print as a replacement character"};
-
-// Limit
-inline constexpr Phrase nestedElements{
-    "more than %1 elements nested in each other: the paper ends here"};
-inline constexpr Phrase declaredNamespaces{"more than %1 namespaces declared: the paper ends here"};
-inline constexpr Phrase declaredEntities{
-    "more entities than the renderer takes, longer ones, or one in itself: the paper ends here"};
-inline constexpr Phrase declaredAttributes{
-    "more than %1 attributes in the document type: nothing behind this was checked"};
-
-inline constexpr Phrase settingsReadOver{
-    "groups and settings that are too many, too deep or too long are read over: %1"};
-
-// UnknownMethod
-inline constexpr Phrase noDocument{"no document is called %1"};
-inline constexpr Phrase noMethodName{"the method has no name"};
-
-// IgnoredElement: the documents that print it
-inline constexpr Phrase onlyIn{", only in %1"};
-
-// MissingAttribute: what the lack of it prints
-inline constexpr Phrase emptyPlace{"its place prints empty"};
-inline constexpr Phrase emptyPlaces{"their places print empty"};
-inline constexpr Phrase leftOut{"it prints as \"-\", something left out"};
-
-// CancelledList
-inline constexpr Phrase listBeginsWrong{
-    "\"number\" and \"totals\" are not the first two attributes: "
-    "the list of documents begins at the wrong place"};
-inline constexpr Phrase listNotInThrees{
-    "each cancelled document takes three attributes, and there are %1"};
-inline constexpr Phrase listMiscounted{"\"number\" says %1 cancelled documents, and %2 are listed"};
-
-// FiscalIncomplete: what the lack of it does
-inline constexpr Phrase zeroRegistered{"0 is registered"};
-inline constexpr Phrase maybeRefused{"the printer may refuse it"};
-
-// FiscalAmount: what is wrong with it
-inline constexpr Phrase noNumber{"no number: 0 is registered"};
-inline constexpr Phrase noPlainNumber{"no plain number"};
-inline constexpr Phrase tooManyDigits{"more than the printer takes"};
-
-// EndsCommand: the character
-inline constexpr Phrase lineBreak{"line break"};
-inline constexpr Phrase parenthesis{"\")\""};
-inline constexpr Phrase slash{"\"/\""};
-
-// ControlCharacter: what has it
-inline constexpr Phrase attributeHas{"\"%1\" of <%2> has"};
-inline constexpr Phrase saleRowHas{"\"%1\" of a sale row is %2, with"};
-
-// SwitchedOff
-inline constexpr Phrase elementNotPrinted{"<%1> is not printed"};
-inline constexpr Phrase attributeNotPrinted{"\"%1\" is not printed"};
-inline constexpr Phrase onlyPrinterName{"of <headers> only the printer's name is printed"};
-
-// Columns
-inline constexpr Phrase noRoom{"the columns of the %1 leave no room for the description: "
-                               "the others and the blanks take %2 of %3 characters"};
-inline constexpr Phrase widePaper{
-    "paperWidth is %1: lines are wider than the printer's %2 characters"};
-
-// UnreadKey: why nothing reads it
-inline constexpr Phrase outsideKorvel{"it stands outside the group korvel"};
-inline constexpr Phrase otherTopGroup{
-    "only the first group of the file is read, and it must be korvel"};
-inline constexpr Phrase misplaced{
-    "settings stand in a document's group or in language, in korvel%1"};
-inline constexpr Phrase unclosedGroup{"; does a } lack its ;?"};
-inline constexpr Phrase unknownGroup{"no document reads the group %1%2"};
-inline constexpr Phrase unknownSetting{"there is no such setting%1"};
-
-} // namespace phrase
 
 } // namespace korvel::check

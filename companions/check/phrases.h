@@ -1,0 +1,112 @@
+// The parts of findings' wordings that have several forms.
+#pragma once
+
+#include <QLatin1StringView>
+#include <QString>
+
+namespace korvel::check {
+
+/// A text with words at its places, the first at %1. A place within a word is no place.
+template<typename... Words>
+QString filled(QLatin1StringView text, const Words &...words)
+{
+    if constexpr (sizeof...(words) == 0)
+        return text;
+    else
+        return QString(text).arg(words...);
+}
+
+/// The parts of wordings that have several forms.
+namespace phrase {
+
+using Phrase = QLatin1StringView;
+
+// What a misspelt name may be.
+inline constexpr Phrase didYouMean{"; did you mean \"%1\"?"};
+
+// MalformedXml: what the reader does not say
+inline constexpr Phrase namelessInstruction{"an instruction has no name"};
+inline constexpr Phrase noName{"\"%1\" is no name"};
+inline constexpr Phrase otherVersion{"XML %1 is not read; write 1.0"};
+
+// Encoding
+inline constexpr Phrase otherEncoding{
+    "another encoding is named than the job is written in: the paper ends here"};
+inline constexpr Phrase unknownEncoding{
+    "the checker cannot read the encoding \"%1\": nothing else was checked; write UTF-8"};
+inline constexpr Phrase wrongBytes{"not %1: the bytes here print as a replacement character"};
+
+// Limit
+inline constexpr Phrase nestedElements{
+    "more than %1 elements nested in each other: the paper ends here"};
+inline constexpr Phrase declaredNamespaces{"more than %1 namespaces declared: the paper ends here"};
+inline constexpr Phrase declaredEntities{
+    "more entities than the renderer takes, longer ones, or one in itself: the paper ends here"};
+inline constexpr Phrase declaredAttributes{
+    "more than %1 attributes in the document type: nothing behind this was checked"};
+
+inline constexpr Phrase settingsReadOver{
+    "groups and settings that are too many, too deep or too long are read over: %1"};
+
+// UnknownMethod
+inline constexpr Phrase noDocument{"no document is called %1"};
+inline constexpr Phrase noMethodName{"the method has no name"};
+
+// IgnoredElement: the documents that print it
+inline constexpr Phrase onlyIn{", only in %1"};
+
+// MissingAttribute: what the lack of it prints
+inline constexpr Phrase emptyPlace{"its place prints empty"};
+inline constexpr Phrase emptyPlaces{"their places print empty"};
+inline constexpr Phrase leftOut{"it prints as \"-\", something left out"};
+
+// CancelledList
+inline constexpr Phrase listBeginsWrong{
+    "\"number\" and \"totals\" are not the first two attributes: "
+    "the list of documents begins at the wrong place"};
+inline constexpr Phrase listNotInThrees{
+    "each cancelled document takes three attributes, and there are %1"};
+inline constexpr Phrase listMiscounted{"\"number\" says %1 cancelled documents, and %2 are listed"};
+
+// FiscalIncomplete: what the lack of it does
+inline constexpr Phrase zeroRegistered{"0 is registered"};
+inline constexpr Phrase maybeRefused{"the printer may refuse it"};
+
+// FiscalAmount: what is wrong with it
+inline constexpr Phrase noNumber{"no number: 0 is registered"};
+inline constexpr Phrase noPlainNumber{"no plain number"};
+inline constexpr Phrase tooManyDigits{"more than the printer takes"};
+
+// EndsCommand: the character
+inline constexpr Phrase lineBreak{"line break"};
+inline constexpr Phrase parenthesis{"\")\""};
+inline constexpr Phrase slash{"\"/\""};
+
+// ControlCharacter: what has it
+inline constexpr Phrase attributeHas{"\"%1\" of <%2> has"};
+inline constexpr Phrase saleRowHas{"\"%1\" of a sale row is %2, with"};
+
+// SwitchedOff
+inline constexpr Phrase elementNotPrinted{"<%1> is not printed"};
+inline constexpr Phrase attributeNotPrinted{"\"%1\" is not printed"};
+inline constexpr Phrase onlyPrinterName{"of <headers> only the printer's name is printed"};
+
+// Columns
+inline constexpr Phrase noRoom{"the columns of the %1 leave no room for the description: "
+                               "the others and the blanks take %2 of %3 characters"};
+inline constexpr Phrase widePaper{
+    "paperWidth is %1: lines are wider than the printer's %2 characters"};
+
+// UnreadKey: why nothing reads it
+inline constexpr Phrase outsideKorvel{"it stands outside the group korvel"};
+inline constexpr Phrase otherTopGroup{
+    "only the first group of the file is read, and it must be korvel"};
+inline constexpr Phrase misplaced{
+    "settings stand in a document's group or in language, in korvel%1"};
+inline constexpr Phrase unclosedGroup{"; does a } lack its ;?"};
+inline constexpr Phrase unknownGroup{"no document reads the group %1%2"};
+inline constexpr Phrase unknownSetting{"there is no such setting%1"};
+
+} // namespace phrase
+
+} // namespace korvel::check
