@@ -1,0 +1,100 @@
+// The streams of tests/preview beside what the preview shows, in a folder for each kind of finding.
+#include "companions/preview/findings.h"
+#include "support/box.h"
+#include "support/bytes.h"
+#include "support/files.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace korvel::preview;
+
+namespace {
+
+const QString cases = KORVEL_SOURCE_DIR "/tests/preview/";
+constexpr int columns = 32;
+
+/// All folders but the one of streams with nothing wrong.
+QStringList kinds()
+{
+    return QDir(cases).entryList(QDir::Dirs).filter(QRegularExpression("^(?!clean$|\\.)"));
+}
+
+/// The kinds that a finding is of, by the wording that each folder states.
+QStringList kindsOf(const QString &finding)
+{
+    QStringList result;
+    for (const QString &kind : kinds()) {
+        const QString wording = bytesOf(cases + kind + "/pattern").trimmed();
+        if (finding.contains(QRegularExpression("^[0-9]+: byte [0-9]+: (" + wording + ")$")))
+            result.append(kind);
+    }
+    return result;
+}
+
+/// Whether two streams differ in one place alone, of eight bytes at most in either.
+bool differLittle(const QByteArray &a, const QByteArray &b)
+{
+    const auto same = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first - a.begin();
+    const auto end = std::mismatch(a.rbegin(), a.rend() - same, b.rbegin(), b.rend() - same);
+    return std::max(a.size(), b.size()) - same - (end.first - a.rbegin()) <= 8;
+}
+
+} // namespace
+
+class TestPreviewCases : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyKindHasHitsAndNearMisses()
+    {
+        QVERIFY(!kinds().isEmpty() && !filesBelow(cases + "clean", "*.out").isEmpty());
+        for (const QString &kind : kinds()) {
+            const auto misses = filesBelow(cases + kind, "near-*.out").size();
+            const auto all = filesBelow(cases + kind, "*.out").size();
+            QVERIFY2(all > misses && misses > 0, qPrintable(kind));
+        }
+    }
+
+    void streams_data()
+    {
+        QTest::addColumn<QString>("kind");
+        const QRegularExpression ending("\\.[a-z]+$");
+        QStringList paths = filesBelow(cases, "*").replaceInStrings(ending, {});
+        paths.removeDuplicates();
+        for (const QString &path : paths.filter(QRegularExpression("(?<!/pattern)$")))
+            QTest::newRow(qPrintable(path.mid(cases.size()))) << path.section('/', -2, -2);
+    }
+
+    void streams()
+    {
+        QFETCH(QString, kind);
+        const QString path = cases + QTest::currentDataTag();
+        QVERIFY2(QFile::exists(path + ".out") && QFile::exists(path + ".paper"), "one is missing");
+        const QByteArray stream = bytesOf(path + ".out");
+        QString shown = boxed(paperOf(stream, columns), columns, false);
+        QStringList found; // kinds
+        for (const Finding &finding : findings(stream, columns)) {
+            const QString said = QString::number(finding.line) + ": " + finding.text;
+            shown += said + '\n';
+            found += kindsOf(said);
+            QVERIFY2(kindsOf(said).size() == 1, qPrintable("not of one kind: " + said));
+        }
+        QCOMPARE(linesOf(shown.toUtf8()), linesOf(bytesOf(path + ".paper")));
+
+        const bool nearMiss = path.contains("/near-");
+        QCOMPARE(found.contains(kind), kinds().contains(kind) && !nearMiss);
+        QVERIFY(kinds().contains(kind) || found.isEmpty());
+        const QStringList all = filesBelow(cases + kind, "*.out");
+        QVERIFY(!nearMiss || std::any_of(all.begin(), all.end(), [&](const QString &hit) {
+            return !hit.contains("/near-") && differLittle(stream, bytesOf(hit));
+        }));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestPreviewCases)
+#include "tst_previewcases.moc"
