@@ -1,18 +1,11 @@
 // A shop in which the renderer runs: a HOME with settings, a job, and what came of it.
 #pragma once
 
+#include "support/files.h"
 #include "support/launch.h"
 #include "support/temporaryhome.h"
 
 #include <algorithm>
-
-/// Writes a file; a test that cannot do so ends.
-inline void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("cannot write %s", qPrintable(path));
-}
 
 /// Where two streams part, for a test to show; empty when they are the same. Unlike a comparison
 /// of whole streams it stays short for long ones.
