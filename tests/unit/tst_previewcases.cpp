@@ -24,12 +24,13 @@ QStringList kinds()
 }
 
 /// The kinds that a finding is of, by the wording that each folder states.
-QStringList kindsOf(const QString &finding)
+QStringList kindsOf(const Finding &finding)
 {
     QStringList result;
+    const QString where = "byte " + QString::number(finding.offset) + ": ";
     for (const QString &kind : kinds()) {
         const QString wording = bytesOf(cases + kind + "/pattern").trimmed();
-        if (finding.contains(QRegularExpression("^[0-9]+: byte [0-9]+: (" + wording + ")$")))
+        if (finding.text.contains(QRegularExpression('^' + where + '(' + wording + ")$")))
             result.append(kind);
     }
     return result;
@@ -79,10 +80,9 @@ private slots:
         QString shown = boxed(paperOf(stream, columns), columns, false);
         QStringList found; // kinds
         for (const Finding &finding : findings(stream, columns)) {
-            const QString said = QString::number(finding.line) + ": " + finding.text;
-            shown += said + '\n';
-            found += kindsOf(said);
-            QVERIFY2(kindsOf(said).size() == 1, qPrintable("not of one kind: " + said));
+            shown += QString::number(finding.line) + ": " + finding.text + '\n';
+            found += kindsOf(finding);
+            QVERIFY2(kindsOf(finding).size() == 1, qPrintable("kind of: " + finding.text));
         }
         QCOMPARE(linesOf(shown.toUtf8()), linesOf(bytesOf(path + ".paper")));
 
