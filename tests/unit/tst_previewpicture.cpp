@@ -1,35 +1,18 @@
-// The paper as a picture: sizes, paper, ink and colours dot by dot, the pages of a PDF.
+// The paper as a picture: sizes, paper, ink and colours, dot by dot.
 #include "companions/preview/picture.h"
-#include "support/program.h"
+#include "support/pictures.h"
 
-#include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QRegularExpression>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
-#include <cmath>
 
-using korvel::preview::PaperRow;
-using korvel::preview::Picture;
-using Kind = korvel::preview::PaperRow::Kind;
+using namespace korvel::preview;
 
-namespace preview = korvel::preview;
+using Kind = PaperRow::Kind;
 
 namespace {
-
-constexpr int columns = 32;
-constexpr int paperWidth = 40 + columns * 12 + 40;
-
-QList<PaperRow> printed(const QStringList &texts)
-{
-    QList<PaperRow> rows;
-    for (const QString &text : texts)
-        rows.append({Kind::Printed, text});
-    return rows;
-}
 
 QImage imageOf(const QList<PaperRow> &rows) { return Picture(rows, columns).toImage(); }
 
@@ -68,24 +51,9 @@ bool any(const QList<QColor> &dots, bool (*is)(const QColor &))
     return std::any_of(dots.begin(), dots.end(), is);
 }
 
-bool writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
-}
-
-/// A roll of numbered rows.
-QList<PaperRow> roll(int length)
-{
-    QStringList texts;
-    for (int i = 1; i <= length; ++i)
-        texts.append("row " + QString::number(i));
-    return printed(texts);
-}
-
 } // namespace
 
-class TestPicture : public QObject
+class TestPreviewPicture : public QObject
 {
     Q_OBJECT
 
@@ -329,73 +297,7 @@ private slots:
         QVERIFY(isPaper(image.pixelColor(20, 36)));
         QVERIFY(any(dotsOf(image, cellOf(0, 0)), isBlack));
     }
-
-    void pagesOfAPdf_data()
-    {
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<QList<int>>("rowsOfPages");
-
-        QTest::newRow("no rows") << 0 << QList<int>{0};
-        QTest::newRow("one row") << 1 << QList<int>{1};
-        QTest::newRow("a receipt") << 30 << QList<int>{30};
-        QTest::newRow("as much as a page holds") << 1300 << QList<int>{1300};
-        QTest::newRow("one row more") << 1301 << QList<int>{1300, 1};
-        QTest::newRow("two pages") << 2600 << QList<int>{1300, 1300};
-        QTest::newRow("three pages") << 2601 << QList<int>{1300, 1300, 1};
-    }
-
-    void pagesOfAPdf()
-    {
-        QFETCH(int, rows);
-        QFETCH(QList<int>, rowsOfPages);
-        const QTemporaryDir folder;
-        const QString path = folder.filePath("roll.pdf");
-        QVERIFY(writeFile(path, Picture(roll(rows), columns).toPdf()));
-
-        const Run info = runProgram("pdfinfo", {"-l", "-1", path}, {});
-        QCOMPARE(info.status, 0);
-        QCOMPARE(info.standardError, "");
-        const QString text = QString::fromUtf8(info.standardOutput);
-        QVERIFY2(text.contains(QRegularExpression("(?m)^Creator: +korvel-preview$")),
-                 qPrintable(text));
-        QVERIFY2(
-            text.contains(QRegularExpression(QString("(?m)^Pages: +%1$").arg(rowsOfPages.size()))),
-            qPrintable(text));
-        // Dots of 1/203 inch in points of 1/72; a page is a whole number of points.
-        QList<int> found;
-        for (const auto &page :
-             QRegularExpression("(?m)^Page +(\\d+ )?size: +([\\d.]+) x ([\\d.]+) pts")
-                 .globalMatch(text)) {
-            const double height = 24 + 24 * rowsOfPages.value(found.size()) + 24;
-            QVERIFY2(std::abs(page.captured(2).toDouble() - 464 * 72 / 203.0) <= 1,
-                     qPrintable(text));
-            QVERIFY2(std::abs(page.captured(3).toDouble() - height * 72 / 203.0) <= 1,
-                     qPrintable(text));
-            found.append(rowsOfPages.value(found.size()));
-        }
-        QCOMPARE(found, rowsOfPages);
-    }
-
-    /// Every row is on a page once, in order.
-    void rowsOfAPdf()
-    {
-        constexpr int rows = 1305;
-        const QTemporaryDir folder;
-        const QString path = folder.filePath("roll.pdf");
-        QVERIFY(writeFile(path, Picture(roll(rows), columns).toPdf()));
-
-        const Run run = runProgram("pdftotext", {path, "-"}, {});
-        QCOMPARE(run.status, 0);
-        QStringList found;
-        for (const auto &match :
-             QRegularExpression("row\\s*(\\d+)").globalMatch(QString::fromUtf8(run.standardOutput)))
-            found.append("row " + match.captured(1));
-        QStringList expected;
-        for (const PaperRow &row : roll(rows))
-            expected.append(row.text);
-        QCOMPARE(found, expected);
-    }
 };
 
-QTEST_MAIN(TestPicture)
-#include "tst_picture.moc"
+QTEST_MAIN(TestPreviewPicture)
+#include "tst_previewpicture.moc"
