@@ -1,0 +1,143 @@
+// The preview's page: its box, options, findings and keys are those of the program.
+#include "support/names.h"
+#include "support/previewdesk.h"
+#include "support/streams.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QTest>
+
+namespace {
+
+const QString page = KORVEL_SOURCE_DIR "/docs/preview.md";
+const QString schema = KORVEL_SOURCE_DIR "/docs/preview.schema.json";
+
+/// A finding without what is different each time.
+QString shapeOf(QString finding)
+{
+    return finding.replace(QRegularExpression("\"[^ ]+\""), "\"\"")
+        .replace(QRegularExpression("\\d+"), "N")
+        .replace(QRegularExpression("\\b(fiscal|receipt|document) section\\b(?= (opened|is))"),
+                 "SECTION")
+        .replace(QRegularExpression("^(broken|unterminated) (text line|sale row|deduction)"),
+                 "\\1 COMMAND");
+}
+
+/// The first bytes of each row of a table of the page that begins with something in backticks.
+QStringList firstCells(const QString &heading)
+{
+    const QString text = QString::fromUtf8(bytesOf(page));
+    const QString section = text.section("\n## " + heading + "\n", 1, 1).section("\n## ", 0, 0);
+    QStringList cells;
+    for (const auto &match :
+         QRegularExpression("^\\| (`.*?`) \\|", QRegularExpression::MultilineOption)
+             .globalMatch(section))
+        cells.append(match.captured(1).remove('`'));
+    return cells;
+}
+
+} // namespace
+
+class TestPreviewPage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    /// The page's box, list and finding are real, and so is each of its objects.
+    void pageShowsWhatTheProgramWrites()
+    {
+        const QByteArray text = bytesOf(page);
+        const QString stream = examples + "fiscal-receipt.out";
+        for (const QString &option : QStringList{"--columns=32", "--list"}) {
+            const Run run = preview({option, stream});
+            VERIFY_ENDED(run, 0);
+            QVERIFY2(text.contains("```text\n" + run.standardOutput + "```\n"), qPrintable(option));
+        }
+
+        const Run found = preview({"receipt-summary.out"}, {examples, {}, {}});
+        VERIFY_ENDED(found, 1);
+        QVERIFY(text.contains("\n    " + found.standardError));
+
+        QList<QJsonObject> written;
+        for (const QByteArray &line : preview({"--json", stream}).standardOutput.split('\n'))
+            written.append(QJsonDocument::fromJson(line).object());
+        int objects = 0;
+        for (const QByteArray &line : text.split('\n')) {
+            if (!line.startsWith("    {"))
+                continue;
+            ++objects;
+            QVERIFY2(written.contains(QJsonDocument::fromJson(line).object()), line.constData());
+            QVERIFY2(!QJsonDocument::fromJson(line).object().isEmpty(), line.constData());
+        }
+        QCOMPARE(objects, 1);
+    }
+
+    void pageNamesTheOptions()
+    {
+        const Run run = preview({"--help"});
+        const char *const option = "(?:^|[ `])(--[a-z][a-z-]*)";
+        Names names;
+        for (const QString &cell : firstCells("Options"))
+            names += matches(cell, option);
+        QCOMPARE(sorted(names), sorted(matches(QString::fromUtf8(run.standardOutput), option)
+                                       - Names{"--help-all"}));
+        QCOMPARE(names.size(), 7);
+    }
+
+    /// Each finding that the page explains can be met, and each that is met is explained.
+    void pageExplainsTheFindings()
+    {
+        Names met;
+        for (const QByteArray &stream : brokenStreams) {
+            const Run run = preview({"-"}, {{}, {}, stream});
+            VERIFY_ENDED(run, 1);
+            for (const QString &line : linesOf(run.standardError)) {
+                const auto finding =
+                    QRegularExpression("^-:\\d+: byte \\d+: (.*)\\\\n$").match(line);
+                QVERIFY2(finding.hasMatch(), qPrintable(line));
+                met.insert(shapeOf(finding.captured(1)));
+            }
+        }
+        Names explained;
+        for (const QString &finding : firstCells("What can be wrong"))
+            explained.insert(shapeOf(finding));
+        QCOMPARE(sorted(explained), sorted(met));
+    }
+
+    void pageNamesTheKeys()
+    {
+        const QJsonObject commands =
+            QJsonDocument::fromJson(bytesOf(schema)).object()["$defs"].toObject();
+        QStringList inTheSchema;
+        for (const QJsonValue &definition : commands) {
+            const QJsonObject properties = definition["properties"].toObject();
+            for (const QString &key : properties.keys()) {
+                const QJsonObject names = properties["command"].toObject();
+                QJsonArray all = names["enum"].toArray();
+                if (names.contains("const"))
+                    all.append(names["const"]);
+                for (const QJsonValue &name : all)
+                    if (key != "command" && key != "offset" && key != "line")
+                        inTheSchema.append(name.toString() + ' ' + key);
+            }
+        }
+        inTheSchema.sort();
+
+        QStringList onThePage;
+        const QString text = QString::fromUtf8(bytesOf(page));
+        for (const auto &match :
+             QRegularExpression("^\\| `([a-z-]+)` \\| (`[^|]*) \\|",
+                                QRegularExpression::MultilineOption)
+                 .globalMatch(text.section("\n## JSON\n", 1, 1).section("\n## ", 0, 0)))
+            for (const QString &key : matches(match.captured(2), "`(\\w+)`"))
+                onThePage.append(match.captured(1) + ' ' + key);
+        onThePage.sort();
+        QCOMPARE(onThePage, inTheSchema);
+        QCOMPARE(onThePage.size(), 14);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestPreviewPage)
+#include "tst_previewpage.moc"
