@@ -1,0 +1,101 @@
+// A desk at which korvel-check runs: jobs of each kind, settings, and what it says of them.
+#pragma once
+
+#include "support/bytes.h"
+#include "support/files.h"
+#include "support/program.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+inline const QString top = KORVEL_SOURCE_DIR "/";
+
+inline Run checker(const QStringList &arguments, const Surroundings &surroundings = {})
+{
+    return runProgram(KORVEL_CHECK, arguments, surroundings);
+}
+
+inline const QByteArray cleanJob = "<job><method name=\"printSold\"/></job>\n";
+inline const QByteArray jobWithWarning = "<job><method name=\"printSold\"/><customer/></job>\n";
+inline const QByteArray jobWithError = "<job>\n<method name=\"printSold\"/><recipe/></job>\n";
+
+inline const QByteArray warning =
+    ":1:32: warning: <customer> prints nothing in the document \"sold items\", only in kitchen "
+    "order, full order, receipt, invoice, delivery note, summary invoice [ignored-element]\n";
+inline const QByteArray error =
+    ":2:27: error: no document knows <recipe>: nothing is printed; did you "
+    "mean \"receipe\"? [unknown-element]\n";
+
+/// A folder with a job of each kind, and settings.
+class Desk
+{
+public:
+    Desk()
+    {
+        writeFile(path("clean.xml"), cleanJob);
+        writeFile(path("warning.xml"), jobWithWarning);
+        writeFile(path("error.xml"), jobWithError);
+        writeFile(path("korvel.conf"), "korvel:\n{\n    solddoc:\n    {\n        printDate = yes;\n"
+                                       "    };\n};\n");
+    }
+
+    [[nodiscard]] QString path(const QString &name) const { return folder.filePath(name); }
+    [[nodiscard]] Run run(const QStringList &arguments, const QByteArray &standardInput = {}) const
+    {
+        return checker(arguments, {folder.path(), {}, standardInput});
+    }
+
+    const QTemporaryDir folder;
+};
+
+inline const QByteArray settingsWarning =
+    "korvel.conf:5:9: warning: printDate is \"yes\" and counts as off; only true switches it on "
+    "[not-true]\n";
+
+/// The lines of an output that ends with a line end, without their ends.
+inline QStringList linesWithoutEnds(const QByteArray &output)
+{
+    QStringList lines = QString::fromUtf8(output).split('\n');
+    if (!lines.last().isEmpty())
+        lines.last() += "(no line end)";
+    else
+        lines.removeLast();
+    return lines;
+}
+
+/// Lines that the schema refuses, as their numbers, counted from 1; anything else that the
+/// validator says is added, so that it is not taken for a refusal.
+inline QStringList refused(const QByteArray &lines)
+{
+    // The machine's own interpreter is the one that sees the machine's packages.
+    const Run run = runProgram("/usr/bin/python3",
+                               {top + "tests/support/validate.py", top + "docs/check.schema.json"},
+                               {{}, {}, lines});
+    QStringList numbers;
+    for (const QString &line : linesOf(run.standardOutput))
+        numbers.append(line.section(':', 0, 0));
+    if (!run.exited || run.status != 0 || !run.standardError.isEmpty())
+        numbers.append(QString::fromUtf8(run.standardError));
+    return numbers;
+}
+
+/// Fails the test unless a run ended by itself with this status, and said nothing beside it.
+#define VERIFY_ENDED(run, expectedStatus)                                                          \
+    do {                                                                                           \
+        QVERIFY((run).exited);                                                                     \
+        QCOMPARE(linesOf((run).standardError), QStringList());                                     \
+        QCOMPARE((run).status, expectedStatus);                                                    \
+    } while (false)
+
+/// Fails the test unless a run said in one line why it could not do what was asked, and wrote
+/// nothing but this.
+#define VERIFY_TROUBLE(run, output)                                                                \
+    do {                                                                                           \
+        QVERIFY((run).exited);                                                                     \
+        QCOMPARE((run).status, 2);                                                                 \
+        QCOMPARE(linesOf((run).standardOutput), linesOf(output));                                  \
+        QVERIFY2((run).standardError.startsWith("korvel-check: ")                                  \
+                     && (run).standardError.indexOf('\n') == (run).standardError.size() - 1        \
+                     && (run).standardError.size() > 16,                                           \
+                 (run).standardError.constData());                                                 \
+    } while (false)
