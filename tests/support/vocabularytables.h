@@ -1,5 +1,4 @@
-// The tables of the vocabulary as tests go through them: their columns, and a data row for each
-// row.
+// The tables of the vocabulary as tests go through them: columns, and a data row for each row.
 #pragma once
 
 #include "companions/check/vocabulary.h"

@@ -1,37 +1,19 @@
 // The reference pages: nothing is missing, and their examples are real.
 #include "companions/check/vocabulary.h"
+#include "support/names.h"
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QSet>
 #include <QTest>
 
 namespace {
 
 const QString top = KORVEL_SOURCE_DIR "/";
 
-using Names = QSet<QString>;
-
 QString textOf(const QString &path) { return QString::fromUtf8(bytesOf(top + path)); }
-
-/// What the first group of a pattern matches, everywhere in a text.
-Names matches(const QString &text, const char *pattern)
-{
-    Names names;
-    for (const auto &match : QRegularExpression(pattern).globalMatch(text))
-        names.insert(match.captured(1));
-    return names;
-}
-
-QStringList sorted(const Names &names)
-{
-    QStringList list = names.values();
-    list.sort();
-    return list;
-}
 
 // What the pages say.
 

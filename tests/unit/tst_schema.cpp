@@ -3,9 +3,9 @@
 #include "companions/check/schema.h"
 #include "companions/check/vocabulary.h"
 #include "support/bytes.h"
+#include "support/files.h"
 #include "support/program.h"
 
-#include <QDirIterator>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
@@ -22,13 +22,6 @@ enum XmlLint {
     Invalid = 3,
     BadSchema = 5,
 };
-
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("cannot write %s", qPrintable(path));
-}
 
 /// A folder with a schema in it, by which jobs are validated.
 class Validator
@@ -92,17 +85,6 @@ QByteArray elementOf(const vocabulary::Element &element, vocabulary::Document do
     return tag + "/>";
 }
 
-QStringList filesBelow(const QString &folder, const QString &pattern)
-{
-    QStringList files;
-    for (QDirIterator it(KORVEL_SOURCE_DIR "/" + folder, {pattern}, QDir::Files,
-                         QDirIterator::Subdirectories);
-         it.hasNext();)
-        files.append(it.next());
-    files.sort();
-    return files;
-}
-
 const QByteArray kitchenItem = "<receipe number=\"1\" name=\"x\"/>";
 const QByteArray pricedItem = "<receipe number=\"1\" name=\"x\" price=\"1\" totalPrice=\"1\"/>";
 const QByteArray saleRow = "<receipe department=\"1\" number=\"1\" name=\"x\" price=\"1\"/>";
@@ -131,7 +113,7 @@ private slots:
     void examples_data()
     {
         QTest::addColumn<QString>("path");
-        const QStringList paths = filesBelow("examples/jobs", "*.xml");
+        const QStringList paths = filesBelow(KORVEL_SOURCE_DIR "/examples/jobs", "*.xml");
         QCOMPARE(paths.size(), vocabulary::methods().size());
         for (const QString &path : paths)
             QTest::newRow(qPrintable(path.section('/', -1))) << path;
@@ -361,7 +343,7 @@ private slots:
                                          "before-method",     "unknown-element",  "ignored-element",
                                          "unknown-attribute", "missing-attribute"};
         QByteArrayList jobs;
-        for (const QString &path : filesBelow("tests/golden/cases", "job.xml"))
+        for (const QString &path : filesBelow(KORVEL_SOURCE_DIR "/tests/golden/cases", "job.xml"))
             jobs.append(bytesOf(path));
         const QList<bool> valid = Validator().areValid(jobs);
         QVERIFY(valid.count(true) > 20 && valid.count(false) > 20);
