@@ -1,46 +1,13 @@
-// Row styles, column titles and separator line.
-#include "support/jobs.h"
-#include "support/recordingdriver.h"
+// The row styles: widths, fills, cuts and pads of their columns.
+#include "support/rows.h"
 #include "support/temporaryhome.h"
 
 #include <QTest>
 
-#include <limits>
-
 namespace {
-
-using Widths = QList<int>; // of quantity, price, total and paper
-
-constexpr int greatest = std::numeric_limits<int>::max();
-constexpr int least = std::numeric_limits<int>::min();
-constexpr int limit = 65536; // no pad and no rule is longer, whatever the settings say
-
-const Widths usual = {3, 7, 8, 32};
-const QStringList coffee = {"2", "COFFEE", "1.20", "2.40"};
-const QString alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
-const QStringList styles = {"qdpt", "qxdpt", "qxdtDoubleLine", "qxd", "qd", "date-amount-type"};
-
-QString dots(int count) { return QString(count, '.'); }
-
-QString blanks(int count) { return QString(count, ' '); }
 
 /// The usual texts with another description.
 QStringList named(const QString &description) { return {"2", description, "1.20", "2.40"}; }
-
-void setWidths(RecordingDriver &driver, const Widths &widths)
-{
-    driver.layout.quantityFieldWidth = widths[0];
-    driver.layout.priceFieldWidth = widths[1];
-    driver.layout.totalPriceFieldWidth = widths[2];
-    driver.layout.paperWidth = widths[3];
-}
-
-QString rowOf(const Widths &widths, const QStringList &texts, QChar fill, const QString &style)
-{
-    RecordingDriver driver;
-    setWidths(driver, widths);
-    return driver.descriptionRow(texts[0], texts[1], texts[2], texts[3], fill, style);
-}
 
 } // namespace
 
@@ -51,7 +18,7 @@ class TestRows : public QObject
 private slots:
     void qdpt_data()
     {
-        addColumns();
+        addRowColumns();
         row("the usual widths give 13 characters to the description", usual, coffee, ' ',
             "  2| |COFFEE       |   1.20|    2.40");
         row("the fill is that of description and price", usual, coffee, '.',
@@ -92,7 +59,7 @@ private slots:
 
     void qxdpt_data()
     {
-        addColumns();
+        addRowColumns();
         row("the usual widths give 11 characters to the description", usual, coffee, ' ',
             "  2| x |COFFEE     |   1.20|    2.40");
         row("the fill is that of description and price", usual, coffee, '.',
@@ -132,7 +99,7 @@ private slots:
 
     void qxdtDoubleLine_data()
     {
-        addColumns();
+        addRowColumns();
         row("the usual widths give 24 characters to the description", usual, coffee, ' ',
             "2 x 1.20|\n|COFFEE                  |    2.40");
         row("the fill is that of description and total", usual, coffee, '.',
@@ -170,7 +137,7 @@ private slots:
 
     void qxd_data()
     {
-        addColumns();
+        addRowColumns();
         row("the usual widths give 26 characters to the description; price and total are left out",
             usual, coffee, ' ', "  2| x |COFFEE                    ");
         row("the fill is that of the description", usual, coffee, '.',
@@ -203,7 +170,7 @@ private slots:
     // The row is two characters narrower than the paper.
     void qd_data()
     {
-        addColumns();
+        addRowColumns();
         row("the usual widths give 26 characters to the description; price and total are left out",
             usual, coffee, ' ', "  2| |COFFEE                    ");
         row("the fill is ignored", usual, coffee, '.', "  2| |COFFEE                    ");
@@ -235,7 +202,7 @@ private slots:
     // The row is three characters narrower than the paper.
     void dateAmountType_data()
     {
-        addColumns();
+        addRowColumns();
         const Widths list = {3, 8, 9, 32};
         const QStringList payment = {"01/02/2006: ", "payment", "50.00", ""};
 
@@ -283,7 +250,7 @@ private slots:
     // Widths count UTF-16 units.
     void units_data()
     {
-        addColumns();
+        addRowColumns();
         row("a letter with an accent counts 1", usual, named("CAFF\u00c8"), '.',
             "  2 CAFF\u00c8...........1.20    2.40");
         row("a combining accent counts 1 more", usual, named("CAFFE\u0300"), '.',
@@ -305,240 +272,7 @@ private slots:
 
     void units() { compare("qdpt"); }
 
-    void unknownStyle_data()
-    {
-        QTest::addColumn<QString>("style");
-        const QStringList unknown =
-            QString("|q|qdp|qdptx| qdpt|qdpt |QDPT|Qdpt|qdxpt|QXDPT|qxdt|qxdtdoubleline|"
-                    "QXDTDOUBLELINE|QXD|Qd|QD|date|Date-Amount-Type|DATE-AMOUNT-TYPE|%1")
-                .split('|');
-        for (const QString &style : unknown)
-            QTest::addRow("<%s>", qPrintable(style)) << style;
-    }
-
-    void unknownStyle()
-    {
-        QFETCH(QString, style);
-        QCOMPARE(rowOf(usual, coffee, '.', style), "");
-    }
-
-    void rowsPrintNothing()
-    {
-        RecordingDriver driver;
-        setWidths(driver, usual);
-        for (const QString &style : styles)
-            QVERIFY(!driver.descriptionRow("2", "COFFEE", "1.20", "2.40", '.', style).isEmpty());
-        QCOMPARE(driver.calls, QStringList());
-        QCOMPARE(driver.oneTime(), true);
-    }
-
-    void hugeWidth_data()
-    {
-        QTest::addColumn<Widths>("widths");
-        QTest::addColumn<QString>("style");
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<QString>("end");
-        const auto row = [](const char *name, const Widths &widths, const char *style,
-                            const char *start, const char *end) {
-            QTest::newRow(name) << widths << style << start << end;
-        };
-
-        row("quantity", {greatest, 0, 0, 32}, "qdpt", "  ", "  2 1.202.40");
-        row("price", {0, greatest, 0, 32}, "qdpt", "2 ..", "..1.202.40");
-        row("total", {0, 0, greatest, 32}, "qdpt", "2 1.20  ", "  2.40");
-        row("paper", {0, 0, 0, greatest}, "qdpt", "2 COFFEE..", "..1.202.40");
-        row("total of two lines", {0, 0, greatest, 32}, "qxdtDoubleLine", "2 x 1.20\n..", "..2.40");
-        row("paper of two lines", {0, 0, 0, greatest}, "qxdtDoubleLine", "2 x 1.20\nCOFFEE..",
-            "..2.40");
-        row("paper of a row without amounts", {0, 0, 0, greatest}, "qxd", "2 x COFFEE..", "..");
-        row("paper of an order", {0, 0, 0, greatest}, "qd", "2 COFFEE  ", "  ");
-        row("amount of a movement", {0, greatest, 0, 32}, "date-amount-type", "2              ..",
-            "..1.20");
-        row("paper of a movement", {0, 0, 0, greatest}, "date-amount-type",
-            "2              COFFEE..", "..1.20");
-        row("a negative column widens the description", {least, 0, 0, 32}, "qdpt", "2 COFFEE..",
-            "..1.202.40");
-    }
-
-    void hugeWidth()
-    {
-        QFETCH(Widths, widths);
-        QFETCH(QString, style);
-        QFETCH(QString, start);
-        QFETCH(QString, end);
-        const QString row = rowOf(widths, coffee, '.', style);
-        QVERIFY2(row.startsWith(start), qPrintable(row.left(40)));
-        QVERIFY2(row.endsWith(end), qPrintable(row.right(40)));
-        QVERIFY2(row.size() >= limit, qPrintable(QString::number(row.size())));
-        QVERIFY2(row.size() <= limit + 40, qPrintable(QString::number(row.size())));
-    }
-
-    void widthsAtTheirBounds_data()
-    {
-        QTest::addColumn<QString>("style");
-        for (const QString &style : styles)
-            QTest::newRow(qPrintable(style)) << style;
-    }
-
-    // Every mix of bounds: a sum of widths that overflows, or too long a pad, would show.
-    void widthsAtTheirBounds()
-    {
-        QFETCH(QString, style);
-        const int bounds[] = {least, -1, 0, greatest};
-        for (int i = 0; i < 4 * 4 * 4 * 4; ++i) {
-            const Widths widths = {bounds[i / 64], bounds[i / 16 % 4], bounds[i / 4 % 4],
-                                   bounds[i % 4]};
-            const QString row = rowOf(widths, {"QTY", "TEXT", "1.20", "2.40"}, '.', style);
-            QVERIFY(row.contains("QTY"));
-            QVERIFY(row.size() <= 4 * limit + 40);
-        }
-    }
-
-    void widthsUpToTheLimitAreExact()
-    {
-        QCOMPARE(rowOf({1, 4, 4, limit}, coffee, '.', "qdpt"),
-                 "2 COFFEE" + dots(limit - 16) + "1.202.40");
-    }
-
-    // The limit is one of padding: it cuts no text.
-    void textsBeyondTheLimitAreWhole_data()
-    {
-        QTest::addColumn<int>("column");
-        QTest::newRow("quantity") << 0;
-        QTest::newRow("description that its width holds") << 1;
-        QTest::newRow("price") << 2;
-        QTest::newRow("total") << 3;
-    }
-
-    void textsBeyondTheLimitAreWhole()
-    {
-        QFETCH(int, column);
-        QStringList texts = {"", "", "", ""};
-        texts[column] = QString(limit + 1000, 'A');
-        const QString row = rowOf({0, 0, 0, limit + 1001}, texts, '.', "qdpt");
-        QCOMPARE(row.count('A'), limit + 1000);
-    }
-
-    void columnsHeader()
-    {
-        RecordingDriver driver;
-        setWidths(driver, usual);
-        driver.printColumnsHeader("Num", "Description", "Price", "Amount");
-        QCOMPARE(driver.calls, QStringList({"setBold", "println |Num Description    Price  Amount|",
-                                            "setCharSize"}));
-    }
-
-    void columnsHeaderTexts_data()
-    {
-        addColumns();
-        row("empty titles are blanks", usual, {"", "", "", ""}, {}, blanks(32));
-        row("a description is cut", usual, {"Num", alphabet, "Price", "Amount"}, {},
-            "Num| |ABCDEFGHIJKLM|  Price|  Amount");
-        row("other titles are whole", usual, {"Number", "A", "Unit price", "Line total"}, {},
-            "Number| |A            |Unit price|Line total");
-        row("placeholders are texts", usual, {"%1", "%2", "%3", "%4"}, {},
-            " %1| |%2           |     %3|      %4");
-        row("widths of 0", {0, 0, 0, 32}, {"N", "D", "P", "A"}, {}, "N D" + blanks(30) + "PA");
-        row("a narrow paper", {3, 7, 8, 10}, {"N", "D", "P", "A"}, {}, "  N| |      P|       A");
-    }
-
-    void columnsHeaderTexts()
-    {
-        QFETCH(Widths, widths);
-        QFETCH(QStringList, texts);
-        QFETCH(QString, expected);
-        RecordingDriver driver;
-        setWidths(driver, widths);
-        driver.printColumnsHeader(texts[0], texts[1], texts[2], texts[3]);
-        QCOMPARE(driver.calls,
-                 QStringList({"setBold", "println |" + expected + "|", "setCharSize"}));
-    }
-
-    void columnsHeaderOncePerRun()
-    {
-        RecordingDriver driver;
-        setWidths(driver, usual);
-        driver.printColumnsHeader("Num", "Description", "Price", "Amount");
-        driver.calls.clear();
-        driver.printColumnsHeader("Num", "Description", "Price", "Amount");
-        driver.printColumnsHeader("Other", "titles", "than", "before");
-        QVERIFY(readJob(driver, "<job><method name='printPartialOrder'/></job>"));
-        driver.printColumnsHeader("Num", "Description", "Price", "Amount");
-        QCOMPARE(driver.calls.filter("println"), QStringList());
-
-        RecordingDriver another;
-        another.printColumnsHeader("Num", "Description", "Price", "Amount");
-        QCOMPARE(another.calls.size(), 3);
-    }
-
-    void columnsHeaderUsesUpTheOneTime()
-    {
-        RecordingDriver driver;
-        driver.printColumnsHeader("Num", "Description", "Price", "Amount");
-        QCOMPARE(driver.oneTime(), false);
-    }
-
-    void oneTimeUsesUpTheColumnsHeader()
-    {
-        RecordingDriver driver;
-        QCOMPARE(driver.oneTime(), true);
-        driver.printColumnsHeader("Num", "Description", "Price", "Amount");
-        QCOMPARE(driver.calls, QStringList());
-    }
-
-    void separatorLine_data()
-    {
-        QTest::addColumn<int>("paperWidth");
-        QTest::addColumn<int>("length");
-        const auto row = [](const char *name, int paperWidth, int length) {
-            QTest::newRow(name) << paperWidth << length;
-        };
-        row("32", 32, 32);
-        row("40", 40, 40);
-        row("1", 1, 1);
-        row("0 is an empty line", 0, 0);
-        row("-1 is an empty line", -1, 0);
-        row("the least width is an empty line", least, 0);
-        row("as long as the limit", limit, limit);
-        row("not longer than the limit", limit + 1, limit);
-        row("the greatest width", greatest, limit);
-    }
-
-    void separatorLine()
-    {
-        QFETCH(int, paperWidth);
-        QFETCH(int, length);
-        RecordingDriver driver;
-        driver.layout.paperWidth = paperWidth;
-        driver.printSeparatorLine();
-        QCOMPARE(driver.calls, QStringList("println |" + QString(length, '=') + "|"));
-    }
-
-    void separatorLineEachTime()
-    {
-        RecordingDriver driver;
-        driver.layout.paperWidth = 3;
-        driver.printSeparatorLine();
-        driver.printSeparatorLine();
-        QCOMPARE(driver.calls, QStringList({"println |===|", "println |===|"}));
-    }
-
 private:
-    static void addColumns()
-    {
-        QTest::addColumn<Widths>("widths");
-        QTest::addColumn<QStringList>("texts");
-        QTest::addColumn<QChar>("fill");
-        QTest::addColumn<QString>("expected");
-    }
-
-    /// A '|' marks where a column ends and is no part of the row.
-    static void row(const char *name, const Widths &widths, const QStringList &texts, QChar fill,
-                    const QString &columns)
-    {
-        QTest::newRow(name) << widths << texts << fill << QString(columns).remove('|');
-    }
-
     static void compare(const QString &style)
     {
         QFETCH(Widths, widths);
