@@ -1,12 +1,10 @@
 // Both notations out, byte by byte, and the dump of the tree.
-#include "config/config.h"
 #include "config/path.h"
 #include "support/bytenames.h"
-#include "support/bytes.h"
 #include "support/capturedoutput.h"
+#include "support/store.h"
 
 #include <QScopeGuard>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTextStream>
 
@@ -32,39 +30,6 @@ const QByteArray languageXml = "\n"
                                "        file = \"/\">\n"
                                "    </language>\n"
                                "</korvel>\n";
-
-/// A store on a file of its own, with what its writers make of it.
-class Store : public libconfig::Config
-{
-public:
-    Store(const QByteArray &bytes, const QString &notation)
-    {
-        QFile file(path("settings"));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("cannot write the settings");
-        file.close();
-        readFile(path("settings"), notation);
-    }
-
-    [[nodiscard]] QString path(const QString &name) const { return folder.path() + '/' + name; }
-
-    [[nodiscard]] QByteArray braces() const
-    {
-        buildConfigFile(path("braces"));
-        return bytesOf(path("braces"));
-    }
-
-    [[nodiscard]] QByteArray xml() const
-    {
-        buildConfigXmlFile(path("xml"));
-        return bytesOf(path("xml"));
-    }
-
-    using libconfig::Config::document;
-
-private:
-    QTemporaryDir folder;
-};
 
 /// Shows bytes as lines, so that a difference is seen where it is.
 #define COMPARE_BYTES(actual, expected)                                                            \
@@ -147,7 +112,7 @@ private slots:
         QFETCH(QByteArray, settings);
         QFETCH(QByteArray, braces);
         QFETCH(QByteArray, xml);
-        const Store store(settings, "cfg");
+        const FileStore store(settings, "cfg");
         COMPARE_BYTES(store.braces(), braces);
         COMPARE_BYTES(store.xml(), xml);
         // The indentation is back at the margin: a second writing is the same.
@@ -188,14 +153,14 @@ private slots:
         QFETCH(QByteArray, settings);
         QFETCH(QByteArray, braces);
         QFETCH(QByteArray, xml);
-        const Store store(settings, "xml");
+        const FileStore store(settings, "xml");
         COMPARE_BYTES(store.braces(), braces);
         COMPARE_BYTES(store.xml(), xml);
     }
 
     void anEmptyNameIsTheFileRead()
     {
-        const Store store("korvel:{language:{basedir=/opt/lang;file=/;};};b:{x=1;};", "cfg");
+        const FileStore store("korvel:{language:{basedir=/opt/lang;file=/;};};b:{x=1;};", "cfg");
         store.buildConfigFile(QString());
         COMPARE_BYTES(bytesOf(store.path("settings")), language);
         store.buildConfigXmlFile("");
@@ -222,32 +187,32 @@ private slots:
     {
         QFETCH(QByteArray, settings);
         QFETCH(QString, notation);
-        const Store store(settings, notation);
+        const FileStore store(settings, notation);
         COMPARE_BYTES(notation == "cfg" ? store.braces() : store.xml(), settings);
     }
 
     void whatANotationCannotHold()
     {
-        const Store quoted("<a x='say \"hi\"'/>", "xml");
+        const FileStore quoted("<a x='say \"hi\"'/>", "xml");
         QCOMPARE(quoted.lookup("a.x"), "say \"hi\"");
-        QCOMPARE(Store(quoted.braces(), "cfg").lookup("a.x"), "say hi");
-        QCOMPARE(Store(quoted.xml(), "xml").lookup("a.x"), "");
+        QCOMPARE(FileStore(quoted.braces(), "cfg").lookup("a.x"), "say hi");
+        QCOMPARE(FileStore(quoted.xml(), "xml").lookup("a.x"), "");
 
-        const Store marked("a:{x=1 < 2 & 3;};", "cfg");
-        QCOMPARE(Store(marked.braces(), "cfg").lookup("a.x"), "1 < 2 & 3");
-        QCOMPARE(Store(marked.xml(), "xml").lookup("a.x"), "");
+        const FileStore marked("a:{x=1 < 2 & 3;};", "cfg");
+        QCOMPARE(FileStore(marked.braces(), "cfg").lookup("a.x"), "1 < 2 & 3");
+        QCOMPARE(FileStore(marked.xml(), "xml").lookup("a.x"), "");
 
-        const Store loose("x=1;a:{y=2;};", "cfg");
-        QCOMPARE(Store(loose.braces(), "cfg").lookup("a.y"), "2");
-        QCOMPARE(Store(loose.xml(), "xml").lookup("a.y"), "");
+        const FileStore loose("x=1;a:{y=2;};", "cfg");
+        QCOMPARE(FileStore(loose.braces(), "cfg").lookup("a.y"), "2");
+        QCOMPARE(FileStore(loose.xml(), "xml").lookup("a.y"), "");
 
-        const Store semicolon("<a x='1;2'/>", "xml");
-        QCOMPARE(Store(semicolon.braces(), "cfg").lookup("a.x"), "1");
+        const FileStore semicolon("<a x='1;2'/>", "xml");
+        QCOMPARE(FileStore(semicolon.braces(), "cfg").lookup("a.x"), "1");
     }
 
     void filesThatCannotBeWritten()
     {
-        const Store store(language, "cfg");
+        const FileStore store(language, "cfg");
         const CapturedOutput said;
         store.buildConfigFile(store.path("missing/settings"));
         store.buildConfigXmlFile(store.path("missing/settings"));
@@ -277,7 +242,7 @@ private slots:
             QCOMPARE(said,
                      "Error in the method FileReader::open( " + bytes + " ): File Not Found\n");
 
-            const Store store(language, "cfg");
+            const FileStore store(language, "cfg");
             store.buildConfigFile(path);
             COMPARE_BYTES(bytesNamed(absolute), language);
             QCOMPARE(libconfig::Config(path, "cfg").lookup("korvel.language.file"), "/");
@@ -291,7 +256,7 @@ private slots:
 
     void aLongerFileIsReplaced()
     {
-        const Store store(language, "cfg");
+        const FileStore store(language, "cfg");
         QFile file(store.path("braces"));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(QByteArray(5000, 'x'));
@@ -353,7 +318,7 @@ private slots:
     {
         QFETCH(QByteArray, settings);
         QFETCH(QByteArray, lines);
-        const Store store(settings, "cfg");
+        const FileStore store(settings, "cfg");
         const CapturedOutput said;
         store.printConfigTree();
         COMPARE_BYTES(said.bytes(), "Tree \n" + store.path("settings").toLatin1() + '\n' + lines);
@@ -363,14 +328,14 @@ private slots:
     {
         const CapturedOutput said;
         libconfig::Config().printConfigTree();
-        Store("", "cfg").printConfigTree();
+        FileStore("", "cfg").printConfigTree();
         QCOMPARE(said.bytes(), QByteArray("Tree \nTree \n"));
     }
 
     void dumpOfWhatIsNoGroup()
     {
         // A comment has no line; what follows it has.
-        const Store store("<a x='1'><!-- c --><b y='2'/></a>", "xml");
+        const FileStore store("<a x='1'><!-- c --><b y='2'/></a>", "xml");
         const CapturedOutput said;
         store.printConfigTree(store.document->documentElement().firstChild());
         QCOMPARE(said.bytes(), QByteArray("a\nx = 1\nb\ny = 2\n"));
