@@ -4,7 +4,6 @@
 #   korvel_add_program_test(name source more...)
 #                                          builds a test that runs the renderer itself, as
 #                                          KORVEL_PRINT, and more targets, named the same way
-#   korvel_repeat_with_hash_seeds(name)    runs a test again with twenty seeds of the toolkit's hash
 #   korvel_add_fuzz_target(name libraries...)
 #                                          builds fuzz/fuzz_<name>.cpp and runs it on its corpus;
 #                                          with KORVEL_FUZZERS builds the fuzzer too
@@ -58,15 +57,6 @@ function(korvel_add_test_from name source)
     add_dependencies(tst_${name} korvel-test-locale)
     add_test(NAME ${name} COMMAND tst_${name})
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "${KORVEL_TEST_ENVIRONMENT}")
-endfunction()
-
-# The toolkit takes 0 for a fixed seed and any other number for a random one.
-function(korvel_repeat_with_hash_seeds name)
-    foreach(seed RANGE 19)
-        add_test(NAME ${name}-hash-seed-${seed} COMMAND tst_${name})
-        set_tests_properties(${name}-hash-seed-${seed} PROPERTIES ENVIRONMENT
-            "${KORVEL_TEST_ENVIRONMENT};QT_HASH_SEED=${seed}")
-    endforeach()
 endfunction()
 
 option(KORVEL_FUZZERS "Build the fuzzers, which takes clang's -fsanitize=fuzzer" OFF)

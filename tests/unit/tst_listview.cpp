@@ -1,7 +1,7 @@
 // The settings in a list view, and the view read back, without a display.
-#include "config/config.h"
 #include "config/configuration.h"
-#include "support/bytes.h"
+#include "support/settingsview.h"
+#include "support/store.h"
 #include "support/temporaryhome.h"
 
 #include <QHeaderView>
@@ -10,60 +10,11 @@
 
 namespace {
 
-/// Rows as lines: indented by depth, "*" before one that can be edited.
-void addRows(const QTreeWidgetItem *row, int depth, QStringList &lines)
+/// The view of a store's settings.
+std::unique_ptr<QTreeWidget> viewOf(const libconfig::Config &store)
 {
-    const QString mark = row->flags() & Qt::ItemIsEditable ? "*" : "";
-    lines.append(QString(2 * depth, ' ') + mark + row->text(0));
-    for (int i = 0; i < row->childCount(); ++i)
-        addRows(row->child(i), depth + 1, lines);
+    return std::unique_ptr<QTreeWidget>(store.newConfigListView());
 }
-
-QStringList rowsOf(const QTreeWidget &view)
-{
-    QStringList lines;
-    for (int i = 0; i < view.topLevelItemCount(); ++i)
-        addRows(view.topLevelItem(i), 0, lines);
-    return lines;
-}
-
-/// The row that a path of texts leads to from the top row.
-QTreeWidgetItem *rowAt(const QTreeWidget &view, const QStringList &path)
-{
-    QTreeWidgetItem *row = view.topLevelItem(0);
-    for (const QString &text : path) {
-        QTreeWidgetItem *next = nullptr;
-        for (int i = 0; row && i < row->childCount() && !next; ++i)
-            if (row->child(i)->text(0) == text)
-                next = row->child(i);
-        row = next;
-    }
-    return row;
-}
-
-/// A store on a file of its own.
-class Store : public libconfig::Config
-{
-public:
-    Store(const QByteArray &bytes, const QString &notation)
-    {
-        QFile file(path());
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("cannot write the settings");
-        file.close();
-        readFile(path(), notation);
-    }
-
-    [[nodiscard]] QString path() const { return folder.path() + "/settings"; }
-    [[nodiscard]] std::unique_ptr<QTreeWidget> view() const
-    {
-        return std::unique_ptr<QTreeWidget>(newConfigListView());
-    }
-    using libconfig::Config::document;
-
-private:
-    QTemporaryDir folder;
-};
 
 } // namespace
 
@@ -100,14 +51,14 @@ private slots:
         QFETCH(QByteArray, settings);
         QFETCH(QString, notation);
         QFETCH(QStringList, rows);
-        const Store store(settings, notation);
-        QCOMPARE(rowsOf(*store.view()), QStringList(store.path()) + rows);
+        const FileStore store(settings, notation);
+        QCOMPARE(rowsOf(*viewOf(store)), QStringList(store.path()) + rows);
     }
 
     void oneColumn()
     {
-        const Store store("a:{x=1;};", "cfg");
-        const auto view = store.view();
+        const FileStore store("a:{x=1;};", "cfg");
+        const auto view = viewOf(store);
         QCOMPARE(view->columnCount(), 1);
         QCOMPARE(view->headerItem()->text(0), "ConfigurationFile");
         QCOMPARE(view->header()->sectionResizeMode(0), QHeaderView::ResizeToContents);
@@ -117,8 +68,8 @@ private slots:
 
     void emptyStores()
     {
-        QCOMPARE(rowsOf(*Store("", "cfg").view()), QStringList());
-        QCOMPARE(rowsOf(*Store("a:{};", "cfg").view()), QStringList());
+        QCOMPARE(rowsOf(*viewOf(FileStore("", "cfg"))), QStringList());
+        QCOMPARE(rowsOf(*viewOf(FileStore("a:{};", "cfg"))), QStringList());
         const std::unique_ptr<QTreeWidget> view(libconfig::Config().newConfigListView());
         QCOMPARE(view->topLevelItemCount(), 0);
     }
@@ -126,9 +77,9 @@ private slots:
     void theViewIsASnapshot()
     {
         const QByteArray before = "a: \n{\n    x = \"1\";\n};\n\n";
-        const Store store(before, "cfg");
-        const auto view = store.view();
-        rowAt(*view, {"a", "x", "1"})->setText(0, "2");
+        const FileStore store(before, "cfg");
+        const auto view = viewOf(store);
+        rowAt(*view, "a.x.1")->setText(0, "2");
         QCOMPARE(store.lookup("a.x"), "1");
         QCOMPARE(bytesOf(store.path()), before);
     }
@@ -159,8 +110,8 @@ private slots:
     {
         QFETCH(QByteArray, settings);
         QFETCH(QString, notation);
-        Store store(settings, notation);
-        const auto view = store.view();
+        FileStore store(settings, notation);
+        const auto view = viewOf(store);
         QVERIFY(QFile::remove(store.path()));
         store.loadListView(view.get());
         QCOMPARE(linesOf(bytesOf(store.path())), linesOf(settings));
@@ -170,8 +121,8 @@ private slots:
     void sampleSettingsSurviveEveryWay()
     {
         const QByteArray sample = bytesOf(KORVEL_SOURCE_DIR "/examples/korvel.conf");
-        Store store(sample, "cfg");
-        const auto view = store.view();
+        FileStore store(sample, "cfg");
+        const auto view = viewOf(store);
 
         QHash<QString, QString> before;
         for (int group = 0; group < view->topLevelItem(0)->child(0)->childCount(); ++group) {
@@ -185,7 +136,7 @@ private slots:
         QVERIFY(before.size() > 50);
 
         store.loadListView(view.get());
-        const Store again(bytesOf(store.path()), "cfg");
+        const FileStore again(bytesOf(store.path()), "cfg");
         for (auto it = before.cbegin(); it != before.cend(); ++it) {
             QCOMPARE(store.lookup(it.key()), it.value());
             QCOMPARE(again.lookup(it.key()), it.value());
@@ -194,20 +145,21 @@ private slots:
 
     void anEditedValueIsAnswered()
     {
-        Store store("korvel:{receiptdoc:{paperWidth=32;priceFieldWidth=7;};};", "cfg");
-        const auto view = store.view();
-        rowAt(*view, {"korvel", "receiptdoc", "paperWidth", "32"})->setText(0, "40");
+        FileStore store("korvel:{receiptdoc:{paperWidth=32;priceFieldWidth=7;};};", "cfg");
+        const auto view = viewOf(store);
+        rowAt(*view, "korvel.receiptdoc.paperWidth.32")->setText(0, "40");
         store.loadListView(view.get());
         QCOMPARE(store.lookup("korvel.receiptdoc.paperWidth"), "40");
         QCOMPARE(store.lookup("korvel.receiptdoc.priceFieldWidth"), "7");
-        QCOMPARE(Store(bytesOf(store.path()), "cfg").lookup("korvel.receiptdoc.paperWidth"), "40");
+        QCOMPARE(FileStore(bytesOf(store.path()), "cfg").lookup("korvel.receiptdoc.paperWidth"),
+                 "40");
     }
 
     void rowsAreWrittenInTheirOrder()
     {
-        Store store("a:{m=1;c=2;z=3;a=4;q=5;b=6;y=7;d=8;x=9;e=10;w=11;f=12;};", "cfg");
-        const auto view = store.view();
-        QTreeWidgetItem *group = rowAt(*view, {"a"});
+        FileStore store("a:{m=1;c=2;z=3;a=4;q=5;b=6;y=7;d=8;x=9;e=10;w=11;f=12;};", "cfg");
+        const auto view = viewOf(store);
+        QTreeWidgetItem *group = rowAt(*view, "a");
         group->addChild(group->takeChild(0));       // m goes last
         group->insertChild(0, group->takeChild(5)); // y goes first
         store.loadListView(view.get());
@@ -219,9 +171,9 @@ private slots:
 
     void twoRowsOfOneName()
     {
-        Store store("a:{x=1;y=2;};", "cfg");
-        const auto view = store.view();
-        rowAt(*view, {"a", "y"})->setText(0, "x");
+        FileStore store("a:{x=1;y=2;};", "cfg");
+        const auto view = viewOf(store);
+        rowAt(*view, "a.y")->setText(0, "x");
         store.loadListView(view.get());
         QCOMPARE(bytesOf(store.path()), "a: \n{\n    x = \"2\";\n};\n\n");
     }
@@ -261,16 +213,16 @@ private slots:
     {
         QFETCH(QByteArray, settings);
         QFETCH(QByteArray, written);
-        Store store(settings, "cfg");
-        store.loadListView(store.view().get());
+        FileStore store(settings, "cfg");
+        store.loadListView(viewOf(store).get());
         QCOMPARE(linesOf(bytesOf(store.path())), linesOf(written));
         QCOMPARE(bytesOf(store.path()), written);
     }
 
     void secondTopLevelGroupStaysInTheTree()
     {
-        Store store("a:{x=1;};b:{y=2;};", "cfg");
-        store.loadListView(store.view().get());
+        FileStore store("a:{x=1;};b:{y=2;};", "cfg");
+        store.loadListView(viewOf(store).get());
         const QDomElement second =
             store.document->documentElement().firstChildElement().nextSiblingElement();
         QCOMPARE(second.tagName(), "b");
@@ -279,10 +231,10 @@ private slots:
 
     void rowsWithoutChildrenAreEmptyGroups()
     {
-        Store store("a:{x=1;y=2;};", "cfg");
-        const auto view = store.view();
-        delete rowAt(*view, {"a", "y", "2"});
-        new QTreeWidgetItem(rowAt(*view, {"a"}), {"b"});
+        FileStore store("a:{x=1;y=2;};", "cfg");
+        const auto view = viewOf(store);
+        delete rowAt(*view, "a.y.2");
+        new QTreeWidgetItem(rowAt(*view, "a"), {"b"});
         store.loadListView(view.get());
         QCOMPARE(bytesOf(store.path()),
                  "a: \n{\n    x = \"1\";\n    y: \n    {\n    };\n\n    b: \n    {\n    };\n\n"
@@ -292,14 +244,14 @@ private slots:
     /// Only the rows below it tell a group from a setting.
     void aGroupThatBeginsWithAnEmptyOneIsTakenForASetting()
     {
-        Store store("<a><b/><c x='1'/></a>", "xml");
-        store.loadListView(store.view().get());
+        FileStore store("<a><b/><c x='1'/></a>", "xml");
+        store.loadListView(viewOf(store).get());
         QCOMPARE(bytesOf(store.path()), "a = \"b\";\n");
     }
 
     void anEmptyViewGivesAnEmptyTree()
     {
-        Store store("a:{x=1;};", "cfg");
+        FileStore store("a:{x=1;};", "cfg");
         const QTreeWidget view;
         store.loadListView(&view);
         QCOMPARE(store.lookup("a.x"), "");
@@ -308,7 +260,7 @@ private slots:
 
     void noViewChangesNothing()
     {
-        Store store("a:{x=1;};", "cfg");
+        FileStore store("a:{x=1;};", "cfg");
         store.loadListView(static_cast<const QTreeWidget *>(nullptr));
         QCOMPARE(store.lookup("a.x"), "1");
         QCOMPARE(bytesOf(store.path()), "a:{x=1;};");
@@ -316,9 +268,9 @@ private slots:
 
     void anotherNotationWritesNoFile()
     {
-        Store store("a:{x=1;};", "ini");
-        const Store other("a:{x=2;};", "cfg");
-        store.loadListView(other.view().get());
+        FileStore store("a:{x=1;};", "ini");
+        const FileStore other("a:{x=2;};", "cfg");
+        store.loadListView(viewOf(other).get());
         QCOMPARE(store.lookup("a.x"), "2");
         QCOMPARE(bytesOf(store.path()), "a:{x=1;};");
     }
@@ -328,17 +280,17 @@ private slots:
         const QTemporaryDir folder;
         libconfig::Config store;
         store.readFile(folder.path() + "/missing/settings", "xml");
-        const Store other("a:{x=2;};", "cfg");
-        store.loadListView(other.view().get());
+        const FileStore other("a:{x=2;};", "cfg");
+        store.loadListView(viewOf(other).get());
         QCOMPARE(store.lookup("a.x"), "2");
         QVERIFY(!QFile::exists(folder.path() + "/missing"));
     }
 
     void namelessRows()
     {
-        Store store("a:{x=1;b:{y=2;};};", "cfg");
-        const auto view = store.view();
-        rowAt(*view, {"a", "b"})->setText(0, "");
+        FileStore store("a:{x=1;b:{y=2;};};", "cfg");
+        const auto view = viewOf(store);
+        rowAt(*view, "a.b")->setText(0, "");
         store.loadListView(view.get());
         QCOMPARE(bytesOf(store.path()), "a: \n{\n    x = \"1\";\n};\n\n");
         view->topLevelItem(0)->setText(0, "");
@@ -349,7 +301,7 @@ private slots:
     /// What is read below a nameless row is gone; what comes after it keeps its own order.
     void rowsAfterANamelessOneKeepTheirOrder()
     {
-        Store store("a:{x=1;};", "cfg");
+        FileStore store("a:{x=1;};", "cfg");
         for (int i = 0; i < 50; ++i) {
             QTreeWidget view;
             auto *top = new QTreeWidgetItem(&view, {"file"});
