@@ -40,3 +40,12 @@ inline QTreeWidgetItem *rowAt(const QTreeWidget &view, const QString &path)
     }
     return row;
 }
+
+/// Sets a value as the view's editor does; a test of a setting that is not there ends.
+inline void setValue(const QTreeWidget &view, const QString &path, const QString &value)
+{
+    QTreeWidgetItem *row = rowAt(view, path);
+    if (!row || row->childCount() != 1)
+        qFatal("there is no setting %s", qPrintable(path));
+    row->child(0)->setText(0, value);
+}
