@@ -1,0 +1,182 @@
+// Saving in the settings editor: what would be lost, what others changed, what cannot be written.
+#include "support/answers.h"
+#include "support/settingseditor.h"
+#include "support/settingstext.h"
+
+#include <QDir>
+#include <QTest>
+
+class TestSettingsSaving : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { answers.clear(); }
+
+    void cleanup() { answers.verifyUsedUp(); }
+
+    void theModifiedMark()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        QVERIFY2(editor.window.windowTitle().contains("korvel.conf[*]"),
+                 qPrintable(editor.window.windowTitle()));
+        QVERIFY(!editor.window.isWindowModified());
+        // Neither moving about nor an editor that changes nothing is an edit.
+        editor.begin("receiptdoc.paperWidth", "40");
+        Editor::press(Qt::Key_Escape);
+        editor.edit("receiptdoc.paperWidth", "32");
+        QTest::qWait(100);
+        QVERIFY(!editor.window.isWindowModified());
+        editor.edit("receiptdoc.paperWidth", "31");
+        QVERIFY(editor.window.isWindowModified());
+        editor.save();
+        QVERIFY(!editor.window.isWindowModified());
+        // The marks in the tree are no edits either.
+        QTest::qWait(200);
+        QVERIFY(!editor.window.isWindowModified());
+    }
+
+    // A value that is being typed counts as much as one behind Enter.
+    void savingTakesTheOpenEditorAlong()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        editor.begin("receiptdoc.paperWidth", "40");
+        Editor::press(Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(linesOf(bytesOf(home.settingsPath())), linesOf(sampleOf40()));
+        QVERIFY(!editor.window.isWindowModified());
+    }
+
+    void whatIsLostIsNamed_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QString>("value"); // of doc.style
+        QTest::addColumn<QString>("named");
+        const QByteArray doc = settingsFile(documentGroup("doc", "style = a;"));
+        QTest::newRow("a quote") << doc << "1\""
+                                 << "korvel.doc.style";
+        QTest::newRow("a semicolon") << doc << "a;b"
+                                     << "korvel.doc.style";
+        QTest::newRow("beyond Latin-1") << doc << QString::fromUtf8("5 €") << "korvel.doc.style";
+        QTest::newRow("markup") << doc << "\"<b>bold</b>"
+                                << "korvel.doc.style";
+        QTest::newRow("a second group") << doc + "second: { a = 1; };"
+                                        << "b"
+                                        << "second";
+        QTest::newRow("a group that would move")
+            << settingsFile("doc: { style = a; }; receiptdoc: { deep: { a = 1; }; };") << "b"
+            << "korvel.receiptdoc";
+    }
+
+    void whatIsLostIsNamed()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QString, value);
+        QFETCH(QString, named);
+        const TemporaryHome home(file);
+        Editor editor(home.settingsPath());
+        editor.edit("doc.style", value);
+        for (const char *answer : {Answers::enter, Answers::escape}) {
+            answers.give({answer});
+            editor.save();
+            QVERIFY2(!answers.seen.isEmpty(), "nothing was asked");
+            const Dialog asked = answers.seen.takeFirst();
+            QVERIFY2(asked.text.contains(named), qPrintable(asked.text));
+            QCOMPARE(asked.defaultRole, QString("cancel"));
+            QCOMPARE(bytesOf(home.settingsPath()), file);
+            QVERIFY(!QFile::exists(home.settingsPath() + '~'));
+            QVERIFY(editor.window.isWindowModified());
+            QCOMPARE(editor.valueRow("doc.style")->text(0), value);
+        }
+        answers.give({"Save the rest"});
+        editor.save();
+        QVERIFY(bytesOf(home.settingsPath()) != file);
+        QCOMPARE(bytesOf(home.settingsPath() + '~'), file);
+        QVERIFY(!editor.window.isWindowModified());
+    }
+
+    void aFileThatAnotherProgramChanged()
+    {
+        const QByteArray others = settingsFile(documentGroup("doc", "style = other;"));
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        editor.edit("receiptdoc.paperWidth", "40");
+        writeFile(home.settingsPath(), others);
+        for (const char *answer : {Answers::enter, Answers::escape}) {
+            answers.give({answer});
+            editor.save();
+            QCOMPARE(answers.seen.size(), 1);
+            QCOMPARE(answers.seen.takeFirst().defaultRole, QString("cancel"));
+            QCOMPARE(bytesOf(home.settingsPath()), others);
+            QVERIFY(editor.window.isWindowModified());
+        }
+        answers.give({"Save all the same"});
+        editor.save();
+        QCOMPARE(linesOf(bytesOf(home.settingsPath())), linesOf(sampleOf40()));
+        QCOMPARE(bytesOf(home.settingsPath() + '~'), others);
+        QVERIFY(!editor.window.isWindowModified());
+    }
+
+    void aFileThatIsGone()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        editor.edit("receiptdoc.paperWidth", "40");
+        QVERIFY(QDir(home.path() + "/.korvel").removeRecursively());
+        answers.give({"Save all the same"});
+        editor.save();
+        QCOMPARE(linesOf(bytesOf(home.settingsPath())), linesOf(sampleOf40()));
+    }
+
+    void whatCannotBeWritten_data()
+    {
+        QTest::addColumn<QString>("obstacle");
+        QTest::addColumn<QStringList>("answersBefore");
+        QTest::newRow("a folder in its place") << "folder" << QStringList{"Save all the same"};
+        QTest::newRow("a file for its folder") << "file" << QStringList{"Save all the same"};
+        QTest::newRow("no place for the previous file") << "backup" << QStringList();
+    }
+
+    void whatCannotBeWritten()
+    {
+        QFETCH(QString, obstacle);
+        QFETCH(QStringList, answersBefore);
+        const TemporaryHome home(example("korvel.conf"));
+        const QString path = home.settingsPath();
+        Editor editor(path);
+        editor.edit("receiptdoc.paperWidth", "40");
+        if (obstacle == "folder") {
+            QVERIFY(QFile::remove(path) && QDir().mkpath(path + "/inner"));
+        } else if (obstacle == "file") {
+            QVERIFY(QDir(home.path() + "/.korvel").removeRecursively());
+            writeFile(home.path() + "/.korvel", "no folder");
+        } else {
+            QVERIFY(QDir().mkpath(path + "~/inner"));
+        }
+        answers.give(answersBefore + QStringList{Answers::enter});
+        editor.save();
+        QCOMPARE(answers.seen.size(), answersBefore.size() + 1);
+        QVERIFY2(answers.seen.last().text.contains(home.path()),
+                 qPrintable(answers.seen.last().text));
+        QVERIFY(editor.window.isWindowModified());
+        QCOMPARE(editor.valueRow("receiptdoc.paperWidth")->text(0), QString("40"));
+        QTRY_COMPARE_WITH_TIMEOUT(editor.stream(), receiptOf40(), longEnough);
+        if (obstacle == "backup")
+            QCOMPARE(bytesOf(path), example("korvel.conf"));
+
+        // Closing does not lose the edits either: the file cannot be saved, so the window stays.
+        answers.seen.clear();
+        answers.give(QStringList{"Save"} + answersBefore + QStringList{Answers::enter});
+        QVERIFY(!editor.window.close());
+        QVERIFY(editor.window.isVisible());
+        QVERIFY(editor.window.isWindowModified());
+    }
+
+private:
+    Answers answers;
+};
+
+int main(int argc, char *argv[]) { return runWindowTest<TestSettingsSaving>(argc, argv); }
+
+#include "tst_settingssaving.moc"
