@@ -125,8 +125,8 @@ private slots:
         row("no address", "<printers name='1' charsize='2' port='4'/>", "initPrinter |1|2||4|");
         row("no port", "<printers name='1' charsize='2' ipaddress='3'/>", "initPrinter |1|2|3||");
         row("nothing", "<printers/>", "initPrinter |||||");
-        row("names in another letter case", "<printers Name='1' charSize='2' IP='3' Port='4'/>",
-            "initPrinter |||||");
+        row("names in another letter case",
+            "<printers Name='1' charSize='2' ipAddress='3' Port='4'/>", "initPrinter |||||");
         row("texts as given", "<printers name=' a ' charsize='big' ipaddress='%1' port='-'/>",
             "initPrinter | a |big|%1|-|");
     }
