@@ -1,12 +1,15 @@
 # Tests run in a locale with a decimal comma and with a HOME that does not exist.
 #
-#   korvel_add_test(name libraries...)     builds unit/tst_<name>.cpp
-#   korvel_add_program_test(name source more...)
+#   korvel_add_test(name [SLOW] [SOURCE file] libraries...)
+#                                          builds unit/tst_<name>.cpp, or the file
+#   korvel_add_program_test(name [SLOW] [SOURCE file] [PROGRAMS targets...] [LIBRARIES ...])
 #                                          builds a test that runs the renderer itself, as
-#                                          KORVEL_PRINT, and more targets, named the same way
+#                                          KORVEL_PRINT, and other programs, named the same way
 #   korvel_add_fuzz_target(name libraries...)
 #                                          builds fuzz/fuzz_<name>.cpp and runs it on its corpus;
 #                                          with KORVEL_FUZZERS builds the fuzzer too
+#
+# All have the label "quick" but those that are SLOW: they take seconds.
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 find_program(LOCALEDEF localedef REQUIRED)
@@ -29,34 +32,50 @@ set(KORVEL_TEST_ENVIRONMENT
     HOME=${PROJECT_BINARY_DIR}/no-home
     QT_QPA_PLATFORM=offscreen)
 
-function(korvel_add_test name)
-    korvel_add_test_from(${name} unit/tst_${name}.cpp ${ARGN})
+# Most of a test's time in the compiler goes into the toolkit's headers: they are compiled once, for
+# all tests but those of windows, to which the toolkit's headers show more.
+function(korvel_compile_test_headers)
+    add_library(korvel-test-headers OBJECT ${PROJECT_SOURCE_DIR}/tests/support/headers.cpp)
+    target_link_libraries(korvel-test-headers PRIVATE Qt6::Test korvel-warnings)
+    target_precompile_headers(korvel-test-headers PRIVATE <QtTest> <QDir> <QDirIterator> <QFile>
+        <QProcess> <QRegularExpression> <QTemporaryDir> <algorithm> <memory> <vector>)
 endfunction()
 
-function(korvel_add_program_test name source)
-    korvel_add_test_from(${name} ${source} korvel::config)
+function(korvel_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 test "SLOW" "SOURCE" "")
+    if(NOT test_SOURCE)
+        set(test_SOURCE unit/tst_${name}.cpp)
+    endif()
+    add_executable(tst_${name} ${test_SOURCE})
+    set_target_properties(tst_${name} PROPERTIES AUTOMOC ON)
+    target_include_directories(tst_${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_compile_definitions(tst_${name} PRIVATE KORVEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    target_link_libraries(tst_${name} PRIVATE
+        Qt6::Test korvel-warnings ${test_UNPARSED_ARGUMENTS})
+    if(NOT test_UNPARSED_ARGUMENTS MATCHES "korvel::(listview|picture|settings)")
+        target_precompile_headers(tst_${name} REUSE_FROM korvel-test-headers)
+    endif()
+    add_dependencies(tst_${name} korvel-test-locale)
+    add_test(NAME ${name} COMMAND tst_${name})
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT "${KORVEL_TEST_ENVIRONMENT}"
+        LABELS $<IF:$<BOOL:${test_SLOW}>,slow,quick>)
+endfunction()
+
+function(korvel_add_program_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 test "" "" "PROGRAMS;LIBRARIES")
+    korvel_add_test(${name} ${test_UNPARSED_ARGUMENTS} korvel::config ${test_LIBRARIES})
     add_dependencies(tst_${name} korvel-print korvel-translations)
     target_compile_definitions(tst_${name} PRIVATE
         KORVEL_BINARY_DIR="${PROJECT_BINARY_DIR}"
         KORVEL_VERSION="${PROJECT_VERSION}"
         KORVEL_PRINT="$<TARGET_FILE:korvel-print>")
-    foreach(target IN LISTS ARGN)
+    foreach(target IN LISTS test_PROGRAMS)
         string(TOUPPER ${target} definition)
         string(REPLACE - _ definition ${definition})
         add_dependencies(tst_${name} ${target})
         target_compile_definitions(tst_${name} PRIVATE ${definition}="$<TARGET_FILE:${target}>")
     endforeach()
-endfunction()
-
-function(korvel_add_test_from name source)
-    add_executable(tst_${name} ${source})
-    set_target_properties(tst_${name} PROPERTIES AUTOMOC ON)
-    target_include_directories(tst_${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-    target_compile_definitions(tst_${name} PRIVATE KORVEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
-    target_link_libraries(tst_${name} PRIVATE Qt6::Test korvel-warnings ${ARGN})
-    add_dependencies(tst_${name} korvel-test-locale)
-    add_test(NAME ${name} COMMAND tst_${name})
-    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${KORVEL_TEST_ENVIRONMENT}")
 endfunction()
 
 option(KORVEL_FUZZERS "Build the fuzzers, which takes clang's -fsanitize=fuzzer" OFF)
@@ -76,7 +95,8 @@ function(korvel_add_fuzz_target name)
     endforeach()
     add_test(NAME fuzz-${name}
         COMMAND replay_${name} ${PROJECT_SOURCE_DIR}/tests/fuzz/corpus/${name})
-    set_tests_properties(fuzz-${name} PROPERTIES ENVIRONMENT "${KORVEL_TEST_ENVIRONMENT}")
+    set_tests_properties(fuzz-${name} PROPERTIES
+        ENVIRONMENT "${KORVEL_TEST_ENVIRONMENT}" LABELS quick)
 endfunction()
 
 # Builds and tests tests/consumer, a project of its own, on the installed libraries;
@@ -91,7 +111,7 @@ function(korvel_add_consumer_test)
     add_test(NAME consumer-install
         COMMAND ${CMAKE_COMMAND} --install ${PROJECT_BINARY_DIR}
             --component development --prefix ${work}/installed)
-    set_tests_properties(consumer-install PROPERTIES FIXTURES_SETUP consumer)
+    set_tests_properties(consumer-install PROPERTIES FIXTURES_SETUP consumer LABELS slow)
     add_test(NAME consumer
         COMMAND ${CMAKE_CTEST_COMMAND}
             --build-and-test ${consumer} ${work}/build
@@ -102,10 +122,11 @@ function(korvel_add_consumer_test)
                 -DCMAKE_CXX_FLAGS=${flags}
                 -DKorvelPrint_ROOT=${work}/installed
             --test-command ${CMAKE_CTEST_COMMAND} --output-on-failure)
-    set_tests_properties(consumer PROPERTIES FIXTURES_REQUIRED consumer)
+    set_tests_properties(consumer PROPERTIES FIXTURES_REQUIRED consumer LABELS slow)
     add_test(NAME consumer-page
         COMMAND ${CMAKE_COMMAND}
             -DPAGE=${PROJECT_SOURCE_DIR}/docs/add-a-printer.md
             "-DSOURCES=${consumer}/textprinter.h;${consumer}/main.cpp"
             -P ${consumer}/page.cmake)
+    set_tests_properties(consumer-page PROPERTIES LABELS quick)
 endfunction()

@@ -1,0 +1,1 @@
+// Compiles the headers that most tests include, for all of them.
