@@ -32,11 +32,16 @@ set(KORVEL_TEST_ENVIRONMENT
     HOME=${PROJECT_BINARY_DIR}/no-home
     QT_QPA_PLATFORM=offscreen)
 
+# Optimised is what is tested, not the test.
+add_library(korvel-test-options INTERFACE)
+target_link_libraries(korvel-test-options INTERFACE korvel-warnings)
+target_compile_options(korvel-test-options INTERFACE $<$<CONFIG:Release>:-O1>)
+
 # Most of a test's time in the compiler goes into the toolkit's headers: they are compiled once, for
 # all tests but those of windows, to which the toolkit's headers show more.
 function(korvel_compile_test_headers)
     add_library(korvel-test-headers OBJECT ${PROJECT_SOURCE_DIR}/tests/support/headers.cpp)
-    target_link_libraries(korvel-test-headers PRIVATE Qt6::Test korvel-warnings)
+    target_link_libraries(korvel-test-headers PRIVATE Qt6::Test korvel-test-options)
     target_precompile_headers(korvel-test-headers PRIVATE <QtTest> <QDir> <QDirIterator> <QFile>
         <QProcess> <QRegularExpression> <QTemporaryDir> <algorithm> <memory> <vector>)
 endfunction()
@@ -51,7 +56,7 @@ function(korvel_add_test name)
     target_include_directories(tst_${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_compile_definitions(tst_${name} PRIVATE KORVEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     target_link_libraries(tst_${name} PRIVATE
-        Qt6::Test korvel-warnings ${test_UNPARSED_ARGUMENTS})
+        Qt6::Test korvel-test-options ${test_UNPARSED_ARGUMENTS})
     if(NOT test_UNPARSED_ARGUMENTS MATCHES "korvel::(listview|picture|settings)")
         target_precompile_headers(tst_${name} REUSE_FROM korvel-test-headers)
     endif()
