@@ -16,8 +16,11 @@ namespace {
 struct AmountText
 {
     bool isNumber = false;
-    bool hasComma = false;
+    QChar mark;            // of its decimals, if it has one
     bool hasParts = false; // of a hundredth
+    bool isNegative = false;
+    QString digits; // in front of the mark
+    QString decimals;
 };
 
 /// Digits with one mark, behind the last three digits' groups; a currency sign or code beside them.
@@ -25,34 +28,52 @@ struct AmountText
 AmountText amountIn(const QString &value)
 {
     static const QRegularExpression amount(
-        uR"(^\s*+(?:\p{Sc}|[A-Z]{3})?+\s*+[+-]?+\s*+(?:\p{Sc}\s*+)?+)"
-        uR"((?:\d++|(?=\.\d)|\d{1,3}(?:[.,'\x{2019}\x{a0}\x{202f} ]\d{3}(?!\d))++))"
-        uR"((?:([.,])(\d*+))?+\s*+-?+\s*+(?:\p{Sc}|[A-Z]{3})?+\s*+$)"_s);
+        uR"(^\s*+(?:\p{Sc}|[A-Z]{3})?+\s*+([+-]?+)\s*+(?:\p{Sc}\s*+)?+)"
+        uR"((\d++|(?=\.\d)|\d{1,3}(?:[.,'\x{2019}\x{a0}\x{202f} ]\d{3}(?!\d))++))"
+        uR"((?:([.,])(\d*+))?+\s*+(-?+)\s*+(?:\p{Sc}|[A-Z]{3})?+\s*+$)"_s);
     const auto match = amount.match(value);
     AmountText result;
     result.isNumber = match.hasMatch();
-    result.hasComma = match.captured(1) == ","_L1;
-    const QString behind = match.captured(2).mid(2);
+    result.isNegative = match.captured(1) == "-"_L1 || match.captured(5) == "-"_L1;
+    result.digits = match.captured(2).remove(QRegularExpression(u"\\D"_s));
+    if (!match.captured(3).isEmpty())
+        result.mark = match.captured(3).front();
+    result.decimals = match.captured(4);
+    const QString behind = result.decimals.mid(2);
     result.hasParts = std::any_of(behind.begin(), behind.end(), [](QChar c) { return c != u'0'; });
     return result;
 }
 
 } // namespace
 
+std::optional<qint64> hundredthsOf(const QString &value)
+{
+    constexpr qsizetype mostDigits = 13; // what the printer registers
+    const AmountText amount = amountIn(value);
+    if (!amount.isNumber || amount.hasParts || amount.digits.size() > mostDigits)
+        return {};
+    const QString digits = amount.digits + amount.decimals.leftJustified(2, u'0', true);
+    const qint64 hundredths = digits.toLongLong();
+    return amount.isNegative ? -hundredths : hundredths;
+}
+
 void checkAmount(Context &context, const JobAttribute &attribute)
 {
     if (attribute.value.isEmpty())
         return; // empty on purpose
     const AmountText amount = amountIn(attribute.value);
-    const auto note = [&](Code code) {
-        context.note(attribute.place, code, attribute.name, quoted(attribute.value));
-    };
     if (!amount.isNumber)
-        note(Code::Amount);
+        context.note(attribute.place, Code::Amount, attribute.name, quoted(attribute.value));
     else if (amount.hasParts)
-        note(Code::Hundredths);
-    if (amount.isNumber && amount.hasComma)
-        note(Code::DecimalComma);
+        context.note(attribute.place, Code::Hundredths, attribute.name, quoted(attribute.value));
+    if (amount.mark.isNull() || context.mixesMarks)
+        return;
+    if (context.decimalMark.isNull())
+        context.decimalMark = amount.mark;
+    context.mixesMarks = context.decimalMark != amount.mark;
+    if (context.mixesMarks)
+        context.note(attribute.place, Code::DecimalComma, attribute.name, quoted(attribute.value),
+                     context.decimalMark == u',' ? phrase::comma : phrase::point);
 }
 
 void checkVariantQuantity(Context &context, const JobAttribute &attribute)

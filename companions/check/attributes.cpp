@@ -16,6 +16,16 @@ using vocabulary::Value;
 namespace element = vocabulary::element;
 namespace name = vocabulary::attribute;
 
+/// What an element lacks, and what stands in it that the document does not read.
+struct Gaps
+{
+    QStringList figures; // and names and serial numbers, whose places print empty
+    QStringList texts;   // that are switched on
+    QStringList registered;
+    QStringList unused; // what the document would read
+    QList<const JobAttribute *> unread;
+};
+
 /// Whether an attribute that is printed in a line is missing. Without settings, nobody knows
 /// whether what has a switch is printed.
 bool isMissing(const Context &context, const Tag &tag, const Attribute &row)
@@ -25,10 +35,12 @@ bool isMissing(const Context &context, const Tag &tag, const Attribute &row)
            && !tag.find(row.name);
 }
 
-void noteMissing(Context &context, const Tag &tag, const QStringList &missing)
+void noteMissing(Context &context, const Tag &tag, Code code, const QStringList &missing)
 {
+    if (missing.isEmpty())
+        return;
     const bool isMark = tag.name == element::variant && missing == QStringList(name::quantity);
-    context.note(tag.place, Code::MissingAttribute, tag.name, quoted(missing),
+    context.note(tag.place, code, tag.name, quoted(missing),
                  isMark                ? phrase::leftOut
                  : missing.size() == 1 ? phrase::emptyPlace
                                        : phrase::emptyPlaces);
@@ -66,24 +78,47 @@ void checkKnown(Context &context, const Tag &tag, const Attribute &row, bool ded
     }
 }
 
-/// The attributes that the document does not know by name.
-void checkOthers(Context &context, const Tag &tag, const Element &element,
-                 const QList<Attribute> &known)
+/// What an element lacks and what it has too much.
+Gaps gapsOf(const Context &context, const Tag &tag, const Element &element,
+            const QList<Attribute> &known)
 {
+    const bool deduction = isDeduction(tag, known);
+    Gaps gaps;
     QStringList names;
-    QStringList unused;
     for (const Attribute &row : known) {
         names.append(row.name);
-        if (!tag.find(row.name))
-            unused.append(row.name);
+        const JobAttribute *attribute = tag.find(row.name);
+        if (!attribute)
+            gaps.unused.append(row.name);
+        if (isMissing(context, tag, row))
+            (row.setting.isEmpty() ? gaps.figures : gaps.texts).append(row.name);
+        else if (isRegistered(row) && !deduction && (!attribute || attribute->value.isEmpty()))
+            gaps.registered.append(row.name);
     }
     for (const JobAttribute &attribute : tag.attributes) {
-        if (names.contains(attribute.name))
-            continue;
-        if (element.anyAttribute)
-            checkText(context, tag, attribute);
+        if (!element.anyAttribute && !names.contains(attribute.name))
+            gaps.unread.append(&attribute);
+    }
+    return gaps;
+}
+
+/// Notes what nothing reads, together with what is missing for it: takes that out of the gaps.
+void noteUnread(Context &context, const Tag &tag, Gaps &gaps)
+{
+    for (const JobAttribute *attribute : std::as_const(gaps.unread)) {
+        QString meant = nearestName(attribute->name, gaps.unused);
+        const QString question = orName(meant);
+        const QStringList missing = gaps.figures + gaps.registered;
+        if (meant.isEmpty() && gaps.unread.size() == 1 && missing.size() == 1)
+            meant = missing.constFirst();
+        gaps.unused.removeOne(meant);
+        gaps.texts.removeOne(meant);
+        if (gaps.figures.removeOne(meant) || gaps.registered.removeOne(meant))
+            context.note(attribute->place, Code::MisspeltAttribute, attribute->name, tag.name,
+                         meant, question);
         else
-            noteUnread(context, tag, attribute, unused);
+            context.note(attribute->place, Code::UnknownAttribute, attribute->name, tag.name,
+                         question);
     }
 }
 
@@ -121,18 +156,22 @@ void checkAttributes(Context &context, const Tag &tag, const Element &element)
 {
     const QList<Attribute> known = vocabulary::attributesOf(tag.name, context.method->document);
     const bool deduction = isDeduction(tag, known);
-    QStringList missing;
-    for (const Attribute &row : known) {
-        if (isMissing(context, tag, row))
-            missing.append(row.name);
-        else
-            checkKnown(context, tag, row, deduction);
+    Gaps gaps = gapsOf(context, tag, element, known);
+    for (const Attribute &row : known)
+        checkKnown(context, tag, row, deduction);
+    noteUnread(context, tag, gaps);
+    if (!noteContents(context, tag)) {
+        noteIncomplete(context, tag, gaps.registered);
+        noteMissing(context, tag, Code::MissingAttribute, gaps.figures);
+        noteMissing(context, tag, Code::MissingText, gaps.texts);
     }
-    if (!deduction)
-        checkComplete(context, tag, known);
-    if (!missing.isEmpty())
-        noteMissing(context, tag, missing);
-    checkOthers(context, tag, element, known);
+    if (element.anyAttribute) {
+        for (const JobAttribute &attribute : tag.attributes) {
+            if (!std::any_of(known.begin(), known.end(),
+                             [&](const Attribute &row) { return row.name == attribute.name; }))
+                checkText(context, tag, attribute);
+        }
+    }
     if (tag.name == element::cancelledsummary)
         checkCancelled(context, tag);
 }
@@ -141,7 +180,7 @@ void noteUnread(Context &context, const Tag &tag, const JobAttribute &attribute,
                 const QStringList &unused)
 {
     context.note(attribute.place, Code::UnknownAttribute, attribute.name, tag.name,
-                 orNearest(attribute.name, unused));
+                 orName(nearestName(attribute.name, unused)));
 }
 
 } // namespace korvel::check

@@ -30,8 +30,12 @@ enum class Code {
     // Elements and attributes.
     UnknownElement,
     IgnoredElement,
+    LostElement,
+    TextContent,
     UnknownAttribute,
+    MisspeltAttribute,
     MissingAttribute,
+    MissingText,
     CancelledList,
 
     // Amounts and quantities.
@@ -43,6 +47,14 @@ enum class Code {
     FiscalAmount,
     FiscalHundredths,
     FiscalQuantity,
+    FiscalDepartment,
+
+    // Sums.
+    RowSum,
+    TotalSum,
+    TaxSum,
+    NoTotal,
+    BehindTotal,
 
     // Texts.
     EndsCommand,
@@ -105,7 +117,7 @@ inline constexpr CodeInfo codeTable[] = {
      "There is no document of that name. The renderer says \"File Format Not Supported\" and "
      "the job ends there."_L1,
      "Use one of the thirteen names; upper and lower case are different."_L1},
-    {Code::SecondMethod, Level::Warning, "second-method"_L1,
+    {Code::SecondMethod, Level::Error, "second-method"_L1,
      "a second method: the section of the %1 is not closed"_L1,
      "The job selects a second document. Both open a section on the printer, and only one is "
      "closed."_L1,
@@ -125,15 +137,34 @@ inline constexpr CodeInfo codeTable[] = {
      "<%1> prints nothing in the document \"%2\"%3%4"_L1,
      "Other documents know the element, but this one ignores it. It prints nothing."_L1,
      "Leave it out, or select the document that prints it."_L1},
+    {Code::LostElement, Level::Error, "lost-element"_L1,
+     "<%1> prints nothing in the document \"%2\"%3: its figures are lost%4"_L1,
+     "The document ignores an element that carries a figure: a quantity, a price, an amount. The "
+     "figure is not on the paper."_L1,
+     "Select the document that prints it, or send what this document prints in its place."_L1},
+    {Code::TextContent, Level::Error, "text-content"_L1,
+     "%1"_L1,
+     "A text stands between tags. Documents print the values of attributes alone."_L1,
+     "Send it as an attribute: <receipe name=\"Coffee\" price=\"1.20\"/>."_L1},
     {Code::UnknownAttribute, Level::Warning, "unknown-attribute"_L1,
      "nothing reads \"%1\" of <%2> in this document%3"_L1,
      "This document does not read an attribute of that name. It is not printed."_L1,
      "Correct the name, or leave the attribute out."_L1},
-    {Code::MissingAttribute, Level::Warning, "missing-attribute"_L1,
+    {Code::MisspeltAttribute, Level::Error, "misspelt-attribute"_L1,
+     "nothing reads \"%1\" of <%2>, and its \"%3\" is missing%4"_L1,
+     "A figure, a name or a serial number stands under a name that the document does not read. "
+     "Its place on the paper stays empty."_L1,
+     "Correct the name; upper and lower case are different."_L1},
+    {Code::MissingAttribute, Level::Error, "missing-attribute"_L1,
      "<%1> has no %2: %3"_L1,
-     "An attribute is missing. Its label or its column is printed all the same, with nothing "
-     "in it."_L1,
+     "A figure, a name or a serial number is missing. Its label or its column is printed all the "
+     "same, with nothing in it."_L1,
      "Send the attribute. Where the place is meant to stay empty, send it empty."_L1},
+    {Code::MissingText, Level::Warning, "missing-text"_L1,
+     "<%1> has no %2: %3"_L1,
+     "The settings switch on a text that the job does not send. Its label is printed all the "
+     "same, with nothing behind it."_L1,
+     "Send the attribute, empty where the place is meant to stay empty, or switch it off."_L1},
     {Code::CancelledList, Level::Error, "cancelled-list"_L1,
      "%1"_L1,
      "The list of cancelled documents is not read as it is meant: `number` and `totals` must "
@@ -152,11 +183,10 @@ inline constexpr CodeInfo codeTable[] = {
      "The amount has parts of a hundredth. It is printed as it is, not rounded."_L1,
      "Round amounts to hundredths before they are sent."_L1},
     {Code::DecimalComma, Level::Warning, "decimal-comma"_L1,
-     "\"%1\" is %2 and prints with its comma"_L1,
-     "The amount has a decimal comma. Only fiscal receipts read amounts; everywhere else it is "
-     "printed as it is, with its comma."_L1,
-     "Send the decimal mark that is to stand on the paper, the same in all amounts. If that is "
-     "the comma, this warning can be ignored."_L1},
+     "\"%1\" is %2; other amounts of this job have a %3 as their decimal mark"_L1,
+     "Some amounts of the job have a decimal comma and some a point. Amounts are printed as they "
+     "are, so that both stand on the paper."_L1,
+     "Send the decimal mark that is to stand on the paper, the same in all amounts."_L1},
     {Code::VariantQuantity, Level::Warning, "variant-quantity"_L1,
      "the quantity %1 is no number and prints as \"-\", something left out"_L1,
      "The quantity of a variant is no number. It prints as \"-\", as something left out."_L1,
@@ -178,9 +208,38 @@ inline constexpr CodeInfo codeTable[] = {
      "registers whole hundredths."_L1,
      "Round prices to hundredths before they are sent."_L1},
     {Code::FiscalQuantity, Level::Error, "fiscal-quantity"_L1,
-     "\"%1\" of a sale row is %2, no plain number"_L1,
-     "The quantity of a sale row is no plain number. It is sent as it is."_L1,
+     "\"%1\" of a sale row is %2, no number above 0"_L1,
+     "The quantity of a sale row is no plain number, or none above 0. It is sent as it is, and "
+     "the printer refuses it."_L1,
      "Send digits, with a decimal point where a part of a piece is sold."_L1},
+    {Code::FiscalDepartment, Level::Error, "fiscal-department"_L1,
+     "\"%1\" of a sale row is %2; the printer takes a number from 1 on"_L1,
+     "The department of a sale row is no whole number from 1 on. It is sent as it is, and the "
+     "printer refuses it."_L1,
+     "Send the department's number on the printer."_L1},
+
+    // Sums.
+    {Code::RowSum, Level::Warning, "row-sum"_L1,
+     "%1 times %2 is %3, and \"%4\" is %5"_L1,
+     "The quantity of a row times its price is not its total. All are printed as they are."_L1,
+     "Send the amount that the quantity and the price come to."_L1},
+    {Code::TotalSum, Level::Warning, "total-sum"_L1,
+     "the rows come to %1, and \"%2\" is %3"_L1,
+     "The amounts of the rows, discounts and variants among them, do not come to the total."_L1,
+     "Send the total of what is printed above it."_L1},
+    {Code::TaxSum, Level::Warning, "tax-sum"_L1,
+     "%1 %2, and \"%3\" is %4"_L1,
+     "The tax is not the rate's part of what is taxable, or the two do not come to the total of "
+     "the tax line."_L1,
+     "Send the tax to the hundredth, and as the total what is taxable and the tax together."_L1},
+    {Code::NoTotal, Level::Warning, "no-total"_L1,
+     "the %1 has rows and no <%2>: no total is printed"_L1,
+     "A document that ends with a total has none."_L1,
+     "Send the total behind the rows."_L1},
+    {Code::BehindTotal, Level::Warning, "behind-total"_L1,
+     "<%1> stands behind the total and prints below it"_L1,
+     "A row stands behind the total. It prints below it, in the order of the job."_L1,
+     "Send all rows in front of the total."_L1},
 
     // Texts.
     {Code::EndsCommand, Level::Error, "ends-command"_L1,
@@ -207,7 +266,7 @@ inline constexpr CodeInfo codeTable[] = {
      "The text has the word TOTALE, which is printed as T0TALE, with a zero: the printer "
      "reserves the word."_L1,
      "Nothing, if the zero does no harm; else write Totale."_L1},
-    {Code::Address, Level::Warning, "address"_L1,
+    {Code::Address, Level::Error, "address"_L1,
      "\"%1\" has an empty part: what follows is not printed"_L1,
      "An address has an empty part between two commas. What follows it is not printed."_L1,
      "Leave the empty part out; one with a blank prints an empty line."_L1},

@@ -5,13 +5,21 @@
 #include "companions/check/settingsfile.h"
 #include "companions/check/vocabulary.h"
 
+#include <QHash>
+
+#include <optional>
+
 namespace korvel::check {
 
 struct Context
 {
+    const Job &job;
     const SettingsFile *settings;               // null when none are given
     const vocabulary::Method *method = nullptr; // selected last; null before the first
     QList<Finding> findings;
+    QHash<qsizetype, QStringList> spelledOut; // by tag: elements in it that stand for attributes
+    QChar decimalMark;                        // of the first amount that has one
+    bool mixesMarks = false;                  // once that is said
 
     /// Notes a finding that says the wording of its code with these words.
     template<typename... Words>
@@ -33,6 +41,19 @@ struct Context
         return settings && !key.isEmpty() && !settings->isOn(method->group, key);
     }
 };
+
+// contents.cpp
+
+/// Whether a tag is an attribute spelt as an element: <price>7.00</price>. What it stands in says
+/// so.
+bool standsForAttribute(const Context &context, const Tag &tag);
+
+/// Finds the elements that stand for attributes, before any rule.
+void gatherContents(Context &context);
+
+/// Notes a text in an element, or elements in it that stand for attributes; false when there is
+/// none, and the attributes are to be looked for.
+bool noteContents(Context &context, const Tag &tag);
 
 // attributes.cpp
 
@@ -56,6 +77,9 @@ bool hasControl(const JobAttribute &attribute);
 
 // amounts.cpp
 
+/// An amount in hundredths; nothing for what is none, or has parts of a hundredth.
+std::optional<qint64> hundredthsOf(const QString &value);
+
 /// An amount that is printed as it is.
 void checkAmount(Context &context, const JobAttribute &attribute);
 
@@ -70,11 +94,16 @@ bool isRegistered(const vocabulary::Attribute &row);
 /// Whether a sale row is sent as a deduction, which carries its price alone.
 bool isDeduction(const Tag &tag, const QList<vocabulary::Attribute> &known);
 
-/// What a sale row lacks, or has empty.
-void checkComplete(Context &context, const Tag &tag, const QList<vocabulary::Attribute> &known);
+/// Notes what a sale row lacks, or has empty, if anything.
+void noteIncomplete(Context &context, const Tag &tag, const QStringList &lacking);
 
 /// A text, a quantity or a price that is sent to be registered.
 void checkRegistered(Context &context, vocabulary::Value kind, const JobAttribute &attribute);
+
+// sums.cpp
+
+/// The rows of a job beside each other: their own totals, the job's total, the tax.
+void checkSums(Context &context);
 
 // columns.cpp
 

@@ -119,6 +119,7 @@ public:
         Q_CHECK_PTR(parser);
         XML_SetUserData(parser.get(), this);
         XML_SetElementHandler(parser.get(), call<&Reader::readTag>, call<&Reader::closeTag>);
+        XML_SetCharacterDataHandler(parser.get(), call<&Reader::readText>);
         XML_SetProcessingInstructionHandler(parser.get(), call<&Reader::readInstruction>);
         XML_SetXmlDeclHandler(parser.get(), call<&Reader::readDeclaration>);
         XML_SetEntityDeclHandler(parser.get(), call<&Reader::readEntity>);
@@ -197,6 +198,8 @@ private:
         Tag tag;
         tag.name = QString::fromUtf8(name);
         tag.place = places.of(start);
+        if (!open.isEmpty())
+            tag.parent = open.constLast().tag;
         if (!isName(tag.name))
             return stopAtMalformed(tag.place, filled(phrase::noName, tag.name));
 
@@ -248,6 +251,23 @@ private:
             tag.attributes.append(attribute);
         }
         return declared;
+    }
+
+    void readText(const char *bytes, int length)
+    {
+        constexpr qsizetype longest = 80; // of what findings show
+        Tag &tag = job.tags[open.constLast().tag];
+        QByteArrayView text(bytes, length);
+        if (tag.text.isEmpty()) {
+            while (!text.isEmpty() && QByteArrayView(" \t\r\n").contains(text.front()))
+                text = text.sliced(1);
+            if (text.isEmpty())
+                return;
+            const bool spelt = document[offset()] == *bytes; // else it comes out of an entity
+            tag.textPlace = places.of(offset() + (spelt ? length - text.size() : 0));
+        }
+        if (tag.text.size() < longest)
+            tag.text += QString::fromUtf8(text.first(std::min(text.size(), longest)));
     }
 
     void closeTag(const char * /*name*/) { namespaces -= open.takeLast().namespaces; }

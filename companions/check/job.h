@@ -35,6 +35,9 @@ struct Tag
     QList<JobAttribute> attributes;
     Place place;
     bool holdsOthers = false;
+    qsizetype parent = -1; // which tag of the job it stands in; -1 for the root
+    QString text;          // in it, from the first character that is no blank; its beginning
+    Place textPlace;       // of that character
 
     /// The attribute of that name; null when there is none.
     [[nodiscard]] const JobAttribute *find(QAnyStringView attribute) const;

@@ -52,7 +52,12 @@ inline constexpr Phrase settingsReadOver{
 inline constexpr Phrase noDocument{"no document is called %1"};
 inline constexpr Phrase noMethodName{"the method has no name"};
 
-// IgnoredElement: the documents that print it
+// TextContent
+inline constexpr Phrase childElements{
+    "<%1> has %2 as elements, which print nothing: write them as attributes"};
+inline constexpr Phrase strayText{"the text %1 in <%2> is not printed: write it as an attribute"};
+
+// IgnoredElement, LostElement: the documents that print it
 inline constexpr Phrase onlyIn{", only in %1"};
 
 // MissingAttribute: what the lack of it prints
@@ -67,6 +72,14 @@ inline constexpr Phrase listBeginsWrong{
 inline constexpr Phrase listNotInThrees{
     "each cancelled document takes three attributes, and there are %1"};
 inline constexpr Phrase listMiscounted{"\"number\" says %1 cancelled documents, and %2 are listed"};
+
+// DecimalComma: the mark of the others
+inline constexpr Phrase comma{"comma"};
+inline constexpr Phrase point{"point"};
+
+// TaxSum: what comes to something else
+inline constexpr Phrase taxOfRate{"%1 of %2 is"};
+inline constexpr Phrase taxableAndTax{"%1 and %2 come to"};
 
 // FiscalIncomplete: what the lack of it does
 inline constexpr Phrase zeroRegistered{"0 is registered"};

@@ -50,6 +50,21 @@ void checkPrice(Context &context, const JobAttribute &attribute)
         note(Code::FiscalHundredths);
 }
 
+/// A quantity that is sold.
+bool isAboveZero(const QString &value)
+{
+    const auto number = plainNumber(value);
+    return number.hasMatch() && number.captured(1) != "-"_L1
+           && !(number.captured(2).isEmpty() && number.captured(3).isEmpty());
+}
+
+bool isDepartment(const QString &value)
+{
+    const bool digits =
+        std::all_of(value.begin(), value.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return digits && std::any_of(value.begin(), value.end(), [](QChar c) { return c != u'0'; });
+}
+
 /// A character that ends or splits the printer's command, as findings call it; empty for none.
 /// A description may have a slash.
 QLatin1StringView endOfCommand(const JobAttribute &attribute)
@@ -80,16 +95,8 @@ bool isDeduction(const Tag &tag, const QList<Attribute> &known)
     });
 }
 
-void checkComplete(Context &context, const Tag &tag, const QList<Attribute> &known)
+void noteIncomplete(Context &context, const Tag &tag, const QStringList &lacking)
 {
-    QStringList lacking;
-    for (const Attribute &row : known) {
-        if (!isRegistered(row))
-            continue;
-        const JobAttribute *attribute = tag.find(row.name);
-        if (!attribute || attribute->value.isEmpty())
-            lacking.append(row.name);
-    }
     if (!lacking.isEmpty())
         context.note(tag.place, Code::FiscalIncomplete, quoted(lacking),
                      lacking.constLast() == vocabulary::attribute::price ? phrase::zeroRegistered
@@ -110,8 +117,10 @@ void checkRegistered(Context &context, Value kind, const JobAttribute &attribute
     if (hasControl(attribute))
         context.note(attribute.place, Code::ControlCharacter,
                      filled(phrase::saleRowHas, attribute.name, value));
-    if (kind == Value::RegisteredCount && !plainNumber(attribute.value).hasMatch())
+    if (kind == Value::RegisteredCount && !isAboveZero(attribute.value))
         context.note(attribute.place, Code::FiscalQuantity, attribute.name, value);
+    if (attribute.name == vocabulary::attribute::department && !isDepartment(attribute.value))
+        context.note(attribute.place, Code::FiscalDepartment, attribute.name, value);
 }
 
 } // namespace korvel::check

@@ -71,6 +71,20 @@ void checkBeforeMethod(Context &context, const Tag &tag, bool isRoot)
         context.note(tag.place, Code::BeforeMethod, tag.name);
 }
 
+/// Whether a tag carries a figure that another document prints for it.
+bool carriesFigure(const Tag &tag)
+{
+    return hundredthsOf(tag.text).has_value()
+           || std::any_of(vocabulary::attributes().begin(), vocabulary::attributes().end(),
+                          [&](const vocabulary::Attribute &row) {
+                              const JobAttribute *attribute =
+                                  row.element == tag.name && vocabulary::isFigure(row)
+                                      ? tag.find(row.name)
+                                      : nullptr;
+                              return attribute && !attribute->value.isEmpty();
+                          });
+}
+
 /// An element that the document does not know.
 void checkIgnored(Context &context, const Tag &tag, bool isRoot)
 {
@@ -82,14 +96,18 @@ void checkIgnored(Context &context, const Tag &tag, bool isRoot)
     }
     if (isElement(tag.name)) {
         const Documents elsewhere = printedIn(tag.name);
-        context.note(tag.place, Code::IgnoredElement, tag.name, context.method->title,
+        const Code code = carriesFigure(tag) ? Code::LostElement : Code::IgnoredElement;
+        context.note(tag.place, code, tag.name, context.method->title,
                      elsewhere == 0 ? QString()
                                     : filled(phrase::onlyIn, vocabulary::titlesOf(elsewhere)),
                      orLonger(tag.name, own));
         return;
     }
     const bool holder = isRoot || (tag.holdsOthers && tag.attributes.isEmpty());
-    if (!holder)
+    const bool carriesTexts = context.spelledOut.contains(&tag - context.job.tags.constData());
+    if (holder && !carriesTexts)
+        noteContents(context, tag);
+    else
         context.note(tag.place, Code::UnknownElement, tag.name, orSimilar(tag.name, own, shared));
 }
 
@@ -117,6 +135,8 @@ bool checkTag(Context &context, const Tag &tag, bool isRoot)
 {
     if (tag.name == element::method)
         return checkMethod(context, tag);
+    if (context.method && standsForAttribute(context, tag))
+        return true;
     if (!context.method)
         checkBeforeMethod(context, tag, isRoot);
     else if (const Element *row = vocabulary::findElement(tag.name, context.method->document))
@@ -131,7 +151,8 @@ bool checkTag(Context &context, const Tag &tag, bool isRoot)
 QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings)
 {
     const Job read = readJob(job);
-    Context context{settings, nullptr, {}};
+    Context context{read, settings, nullptr, {}, {}, {}, false};
+    gatherContents(context);
     for (const Fault &fault : read.faults)
         context.findings.append({fault.place, fault.code, fault.text, {}, 0});
     const bool goesOn = std::all_of(read.tags.begin(), read.tags.end(), [&](const Tag &tag) {
@@ -141,6 +162,7 @@ QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings)
         context.findings.clear(); // all of them are before the method that is missing
         context.note({}, Code::NoMethod);
     }
+    checkSums(context);
     sortByPlace(context.findings);
     return context.findings;
 }

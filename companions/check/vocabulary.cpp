@@ -67,6 +67,13 @@ bool isOptional(const Attribute &row)
            || row.element == element::printers;
 }
 
+bool isFigure(const Attribute &row)
+{
+    return row.value == Value::Amount || row.value == Value::RegisteredPrice
+           || row.value == Value::RegisteredCount || row.value == Value::VariantQuantity
+           || row.column != NoColumn;
+}
+
 QList<Attribute> attributesOf(QAnyStringView element, Document document)
 {
     QList<Attribute> rows;

@@ -52,6 +52,9 @@ bool isShared(const Element &row);
 /// What `printers` names is printed with `headers`, if there are any.
 bool isOptional(const Attribute &row);
 
+/// Whether an attribute is a figure: a quantity, a price, an amount.
+bool isFigure(const Attribute &row);
+
 /// The attributes of an element in one document, those of anyAttribute not among them.
 QList<Attribute> attributesOf(QAnyStringView element, Document document);
 

@@ -2,22 +2,13 @@
 #include "companions/check/words.h"
 
 #include "companions/check/codes.h"
+#include "companions/check/synonyms.h"
 #include "companions/check/vocabulary.h"
 #include "companions/shared/oneline.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::check {
-
-namespace {
-
-/// A question for a name; empty for none.
-QString orName(const QString &name)
-{
-    return name.isEmpty() ? QString() : filled(phrase::didYouMean, name);
-}
-
-} // namespace
 
 QString quoted(const QString &value)
 {
@@ -28,9 +19,20 @@ QString quoted(const QString &value)
 
 QString quoted(const QStringList &names) { return u'"' + names.join("\", \""_L1) + u'"'; }
 
+QString nearestName(const QString &name, const QStringList &names)
+{
+    const QString nearest = vocabulary::nearest(name, names);
+    return nearest.isEmpty() ? synonymOf(name, names) : nearest;
+}
+
+QString orName(const QString &name)
+{
+    return name.isEmpty() ? QString() : filled(phrase::didYouMean, name);
+}
+
 QString orNearest(const QString &name, const QStringList &names)
 {
-    return orName(vocabulary::nearest(name, names));
+    return orName(nearestName(name, names));
 }
 
 QString orLonger(const QString &name, const QStringList &names)
@@ -47,7 +49,7 @@ QString orSimilar(const QString &name, const QStringList &own, const QStringList
     QStringList all = own;
     for (const vocabulary::Element &row : vocabulary::elements())
         all.append(row.name);
-    const QString nearest = vocabulary::nearest(name, all);
+    const QString nearest = nearestName(name, all);
     if (nearest.isEmpty() || own.contains(nearest) || shared.contains(nearest))
         return orName(nearest);
     return orLonger(nearest, own);

@@ -11,7 +11,13 @@ QString quoted(const QString &value);
 /// Several names in quotes, parted by commas.
 QString quoted(const QStringList &names);
 
-/// A question for the name of a list that a misspelt one is most like; empty when none is near.
+/// The name of a list that a misspelt one is most like, or that means the same; empty for none.
+QString nearestName(const QString &name, const QStringList &names);
+
+/// A question for a name; empty for none.
+QString orName(const QString &name);
+
+/// A question for the name of a list that nearestName() gives; empty when none is near.
 QString orNearest(const QString &name, const QStringList &names);
 
 /// A question for the name of a list that a name is the beginning of, or the other way round:

@@ -1,0 +1,158 @@
+// The list of words, and how it is searched.
+#include "companions/check/synonyms.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace korvel::check {
+
+namespace {
+
+struct Synonyms
+{
+    QLatin1StringView name;  // of an element or an attribute
+    QLatin1StringView words; // in small letters without accents, parted by blanks
+};
+
+// English, Italian, German, French, Spanish. What means several things comes more than once; the
+// first of them that the place takes counts.
+// clang-format off
+constexpr Synonyms synonyms[] = {
+    {"method"_L1,
+     "document documento dokument type doctype"_L1},
+    {"orderinfo"_L1,
+     "order info orderdata ordine bestellung commande pedido auftrag"_L1},
+    {"customer"_L1,
+     "client buyer guest cliente kunde gast acheteur comprador"_L1},
+    {"company"_L1,
+     "firm shop store business ditta azienda negozio firma unternehmen societe entreprise "
+     "magasin empresa tienda"_L1},
+    {"headers"_L1,
+     "header heading intestazione kopfzeile kopf entete encabezado cabecera"_L1},
+    {"receipt"_L1,
+     "scontrino ricevuta beleg quittung bon recu recibo ticket"_L1},
+    {"invoice"_L1,
+     "bill fattura rechnung facture factura"_L1},
+    {"delivery"_L1,
+     "deliverynote shipment bolla consegna lieferschein lieferung livraison albaran "
+     "entrega"_L1},
+    {"receipe"_L1,
+     "item product article position line row dish recipe plu articolo prodotto piatto voce "
+     "riga artikel produkt gericht posten speise zeile produit plat ligne articulo "
+     "producto plato linea"_L1},
+    {"receipe_type"_L1,
+     "category group kind categoria reparto kategorie gruppe categorie groupe grupo"_L1},
+    {"variant"_L1,
+     "extra option modifier addition variante opzione aggiunta modifica zusatz supplement "
+     "opcion"_L1},
+    {"notPaid"_L1,
+     "unpaid due open nonpagato dovuto offen unbezahlt impaye nopagado pendiente"_L1},
+    {"number"_L1,
+     "quantity qty count pieces pcs units quantita qta pezzi numero menge anzahl stueck "
+     "stuck stk quantite qte nombre cantidad cant unidades"_L1},
+    {"quantity"_L1,
+     "number qty count pieces pcs units quantita qta pezzi numero menge anzahl stueck "
+     "stuck stk quantite qte nombre cantidad cant unidades"_L1},
+    {"name"_L1,
+     "description title label caption text article item product nome descrizione "
+     "denominazione articolo prodotto bezeichnung beschreibung artikel designation libelle "
+     "nom nombre descripcion producto"_L1},
+    {"description"_L1,
+     "name title label caption text article item product nome descrizione denominazione "
+     "articolo prodotto bezeichnung beschreibung artikel designation libelle nom nombre "
+     "descripcion producto"_L1},
+    {"price"_L1,
+     "unitprice cost rate prezzo prezzounitario costo preis einzelpreis stueckpreis "
+     "stuckpreis kosten prix prixunitaire cout precio preciounitario coste"_L1},
+    {"totalPrice"_L1,
+     "total amount sum linetotal rowtotal subtotal value totale importo gesamtpreis gesamt "
+     "summe betrag montant somme importe"_L1},
+    {"amount"_L1,
+     "total sum value price totalprice importo totale prezzo betrag summe preis montant "
+     "somme importe precio"_L1},
+    {"price"_L1,
+     "total amount sum value importo totale betrag summe montant somme importe"_L1},
+    {"total"_L1,
+     "sum amount grandtotal value totale importo gesamt gesamtbetrag summe betrag montant "
+     "somme importe suma"_L1},
+    {"totals"_L1,
+     "sums total amounts totali summen totaux totales"_L1},
+    {"telephone"_L1,
+     "phone tel mobile cell cellphone cellulare telefono telefon handy portable movil"_L1},
+    {"tax"_L1,
+     "vat iva imposta mwst ust steuer tva taxe impot impuesto"_L1},
+    {"taxrate"_L1,
+     "vatrate rate vat tax aliquota iva steuersatz mwst mwstsatz taux tva tipo"_L1},
+    {"taxable"_L1,
+     "net base netto imponibile bemessungsgrundlage ht neto baseimponible"_L1},
+    {"department"_L1,
+     "dept dep vatgroup reparto abteilung warengruppe rayon departement departamento "
+     "seccion"_L1},
+    {"serialnumber"_L1,
+     "number serial no documentnumber invoicenumber receiptnumber numero nummer "
+     "belegnummer rechnungsnummer"_L1},
+    {"waiter"_L1,
+     "server operator staff user cameriere operatore kellner bedienung serveur camarero"_L1},
+    {"table"_L1,
+     "tavolo tisch mesa seat"_L1},
+    {"note"_L1,
+     "comment remark memo text nota commento bemerkung hinweis notiz remarque commentaire "
+     "comentario observacion"_L1},
+    {"credit"_L1,
+     "balance credito guthaben avoir saldo"_L1},
+    {"date"_L1,
+     "day data datum tag jour fecha"_L1},
+    {"time"_L1,
+     "hour ora orario zeit uhrzeit heure hora"_L1},
+    {"billingaddress"_L1,
+     "address invoiceaddress indirizzo adresse anschrift rechnungsadresse direccion"_L1},
+    {"deliveryaddress"_L1,
+     "shippingaddress shipto lieferadresse indirizzoconsegna adresselivraison "
+     "direccionentrega"_L1},
+    {"fiscalcode"_L1,
+     "taxcode taxid codicefiscale steuernummer codefiscal nif"_L1},
+    {"licensenumber"_L1,
+     "licence vatnumber vatid partitaiva piva ustid numerotva cif"_L1},
+    {"begindate"_L1,
+     "from start startdate since dal inizio von beginn debut desde inicio"_L1},
+    {"enddate"_L1,
+     "to end until till al fine bis ende fin hasta"_L1},
+    {"cash"_L1,
+     "contanti bar bargeld especes efectivo"_L1},
+    {"creditCard"_L1,
+     "card carta cartadicredito kreditkarte karte carte tarjeta"_L1},
+    {"bancomat"_L1,
+     "debit debitcard debito girocard ec"_L1},
+    {"other"_L1,
+     "others rest altro altri sonstige autre otro otros"_L1},
+    {"type"_L1,
+     "kind reason tipo causale art typ grund genre motivo"_L1},
+};
+// clang-format on
+
+/// A word as the list has it.
+QString plain(const QString &word)
+{
+    QString letters;
+    for (const QChar c : word.normalized(QString::NormalizationForm_D)) {
+        if (c.isLetter())
+            letters += c.toLower();
+    }
+    return letters;
+}
+
+} // namespace
+
+QString synonymOf(const QString &word, const QStringList &names)
+{
+    const QString looked = plain(word);
+    for (const auto &[name, words] : synonyms) {
+        const QStringList all = QString(words).split(u' ');
+        if (all.contains(looked) && names.contains(name))
+            return name;
+    }
+    return {};
+}
+
+} // namespace korvel::check

@@ -1,0 +1,12 @@
+// Words that tills use for what jobs call otherwise, in five languages.
+#pragma once
+
+#include <QStringList>
+
+namespace korvel::check {
+
+/// The first name of a list that means what a word means, whatever its letter case, accents and
+/// joints; empty when none does.
+QString synonymOf(const QString &word, const QStringList &names);
+
+} // namespace korvel::check
