@@ -1,7 +1,7 @@
 // RELAX NG, written from the tables.
 #include "companions/check/schema.h"
 
-#include "companions/check/vocabulary.h"
+#include "companions/check/schematexts.h"
 
 #include <QXmlStreamWriter>
 
@@ -15,7 +15,9 @@ using vocabulary::Attribute;
 using vocabulary::Element;
 using vocabulary::Method;
 
-class SchemaWriter
+const QString annotations = u"http://relaxng.org/ns/compatibility/annotations/1.0"_s;
+
+class RelaxNgWriter
 {
 public:
     QByteArray write()
@@ -25,8 +27,10 @@ public:
         xml.writeStartDocument();
         xml.writeStartElement(u"grammar"_s);
         xml.writeDefaultNamespace(u"http://relaxng.org/ns/structure/1.0"_s);
+        xml.writeNamespace(annotations, u"a"_s);
         xml.writeStartElement(u"start"_s);
         xml.writeStartElement(u"element"_s); // the root, whatever its name
+        writeDocumentation(rootDocumentation);
         xml.writeEmptyElement(u"anyName"_s);
         writeOtherAttributes({});
         xml.writeStartElement(u"choice"_s);
@@ -41,9 +45,11 @@ private:
     {
         xml.writeStartElement(u"group"_s);
         xml.writeStartElement(u"element"_s);
-        xml.writeAttribute(u"name"_s, u"method"_s);
+        xml.writeAttribute(u"name"_s, vocabulary::element::method);
+        writeDocumentation(methodDocumentation);
         xml.writeStartElement(u"attribute"_s);
-        xml.writeAttribute(u"name"_s, u"name"_s);
+        xml.writeAttribute(u"name"_s, vocabulary::attribute::name);
+        writeDocumentation(method.title);
         xml.writeStartElement(u"value"_s);
         xml.writeAttribute(u"type"_s, u"string"_s);
         xml.writeCharacters(method.name);
@@ -67,6 +73,7 @@ private:
     {
         xml.writeStartElement(u"element"_s);
         xml.writeAttribute(u"name"_s, element.name);
+        writeDocumentation(documentationOf(element));
         const QList<Attribute> known = vocabulary::attributesOf(element.name, method.document);
         for (const Attribute &attribute : known)
             writeAttribute(attribute);
@@ -83,8 +90,10 @@ private:
         const bool optional = vocabulary::isOptional(attribute);
         if (optional)
             xml.writeStartElement(u"optional"_s);
-        xml.writeEmptyElement(u"attribute"_s);
+        xml.writeStartElement(u"attribute"_s);
         xml.writeAttribute(u"name"_s, attribute.name);
+        writeDocumentation(documentationOf(attribute));
+        xml.writeEndElement();
         if (optional)
             xml.writeEndElement();
     }
@@ -107,12 +116,17 @@ private:
         xml.writeEndElement();
     }
 
+    void writeDocumentation(const QString &text)
+    {
+        xml.writeTextElement(annotations, u"documentation"_s, text);
+    }
+
     QByteArray bytes;
     QXmlStreamWriter xml{&bytes};
 };
 
 } // namespace
 
-QByteArray relaxNgSchema() { return SchemaWriter().write(); }
+QByteArray relaxNgSchema() { return RelaxNgWriter().write(); }
 
 } // namespace korvel::check
