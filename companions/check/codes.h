@@ -2,6 +2,7 @@
 #pragma once
 
 #include "companions/check/phrases.h"
+#include "companions/shared/oneline.h"
 
 #include <QList>
 #include <QString>
@@ -328,11 +329,12 @@ const CodeInfo *findCode(QAnyStringView name);
 /// "error" or "warning".
 QLatin1StringView levelName(Level level);
 
-/// What a finding says: the wording of its code with words at its places.
+/// What a finding says: the wording of its code with words at its places, in one line whatever they
+/// are.
 template<typename... Words>
 QString worded(Code code, const Words &...words)
 {
-    return filled(infoOf(code).wording, words...);
+    return shared::inOneLine(filled(infoOf(code).wording, words...), u' ');
 }
 
 } // namespace korvel::check

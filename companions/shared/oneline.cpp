@@ -3,6 +3,8 @@
 
 #include <QList>
 
+#include <algorithm>
+
 namespace korvel::shared {
 
 bool isPrintable(char32_t character)
@@ -14,6 +16,8 @@ bool isPrintable(char32_t character)
 
 QString inOneLine(const QString &text, QChar substitute)
 {
+    if (std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u' ' && c <= u'~'; }))
+        return text; // as most are, and fast
     QString shown;
     for (const uint point : text.toUcs4()) { // half a pair comes as a replacement character
         if (isPrintable(point))
