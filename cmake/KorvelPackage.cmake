@@ -73,7 +73,7 @@ receipt printer, in the terminal or as a PNG or PDF, and says what is wrong
 with it. korvel-check says what is wrong with a print job or with the settings
 of a shop, before anything is printed.
 
-A RELAX NG schema of print jobs is included.")
+Schemas of print jobs, in RELAX NG and as an XSD, are included.")
 
 korvel_package(settings korvel-settings
     SECTION utils

@@ -1,5 +1,6 @@
 // korvel-check: what is wrong with a job, before it is printed.
 #include "companions/check/checks.h"
+#include "companions/check/explain.h"
 #include "companions/check/schema.h"
 #include "companions/check/settingsfile.h"
 #include "companions/shared/commandline.h"
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
@@ -27,11 +29,17 @@ constexpr qint64 largestFile = 67'108'864; // 64 MiB
 const QCommandLineOption settingsOption(u"settings"_s,
                                         u"Check by this settings file too, and the file itself."_s,
                                         u"file"_s);
+const QCommandLineOption ignoreOption(u"ignore"_s,
+                                      u"Leave out findings of these codes, parted by commas."_s,
+                                      u"codes"_s);
 const QCommandLineOption strictOption(u"strict"_s, u"Let warnings count as errors."_s);
 const QCommandLineOption jsonOption(u"json"_s, u"Write a JSON object for each finding."_s);
-const QCommandLineOption explainOption(u"explain"_s, u"Say what a code means, and what to do."_s,
+const QCommandLineOption listCodesOption(u"list-codes"_s, u"List all codes."_s);
+const QCommandLineOption explainOption(u"explain"_s,
+                                       u"Say what a code means, and what to do, by an example."_s,
                                        u"code"_s);
-const QCommandLineOption schemaOption(u"schema"_s, u"Write a RELAX NG schema of jobs."_s);
+const QCommandLineOption schemaOption(u"schema"_s,
+                                      u"Write a schema of jobs: RELAX NG (rng), or xsd."_s);
 
 QString lineOf(const QString &file, const check::Finding &finding)
 {
@@ -39,6 +47,23 @@ QString lineOf(const QString &file, const check::Finding &finding)
            + QString::number(finding.place.column) + u": "_s
            + check::levelName(infoOf(finding.code).level) + u": "_s + finding.text + u" ["_s
            + infoOf(finding.code).name + u"]\n"_s;
+}
+
+/// JSON with what does not print as escapes.
+QString escaped(const QString &json)
+{
+    if (inOneLine(json) == json)
+        return json;
+    QString text;
+    for (const uint point : json.toUcs4()) {
+        if (isPrintable(point)) {
+            text += QChar::fromUcs4(point);
+            continue;
+        }
+        for (const char16_t unit : QChar::fromUcs4(point))
+            text += u"\\u"_s + QString::number(unit, 16).rightJustified(4, u'0');
+    }
+    return text;
 }
 
 QString jsonOf(const QString &file, const check::Finding &finding)
@@ -51,53 +76,59 @@ QString jsonOf(const QString &file, const check::Finding &finding)
         {u"code"_s, QString(infoOf(finding.code).name)},
         {u"text"_s, finding.text},
     };
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + u'\n';
+    return escaped(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact))) + u'\n';
 }
 
-int explain(const QString &code)
+/// Findings as lines, and the status that they make.
+struct Report
 {
-    const check::CodeInfo *row = check::findCode(code);
-    if (!row)
-        return trouble(u"there is no code \""_s + code + u"\"; docs/checks.md has them all"_s);
-    return writeOut(row->name + u" ("_s + check::levelName(row->level) + u")\n"_s + row->meaning
-                        + u'\n' + row->advice + u'\n',
-                    Clean);
-}
-
-int run(const QStringList &arguments)
-{
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        u"Says what is wrong with print jobs, before they are printed."_s);
-    parser.addPositionalArgument(u"JOB"_s, u"A job for korvel-print; - for standard input."_s,
-                                 u"[JOB...]"_s);
-    parser.addOptions({settingsOption, strictOption, jsonOption, explainOption, schemaOption});
-    if (const auto status = readCommandLine(parser, arguments))
-        return *status;
-    const QStringList jobs = parser.positionalArguments();
-    if (parser.isSet(explainOption) || parser.isSet(schemaOption)) {
-        if (!jobs.isEmpty() || parser.optionNames().size() > 1)
-            return trouble(u"--explain and --schema stand alone"_s);
-        return parser.isSet(explainOption)
-                   ? explain(parser.value(explainOption))
-                   : writeOut(QString::fromUtf8(check::relaxNgSchema()), Clean);
-    }
-    if (jobs.isEmpty() && !parser.isSet(settingsOption))
-        return trouble(u"a job is needed; see --help"_s);
-
+    bool json;
+    bool strict;
+    QList<check::Code> ignored = {};
+    QString lines = {};
     int status = Clean;
-    QString output;
-    QString error;
-    const bool json = parser.isSet(jsonOption);
-    const bool strict = parser.isSet(strictOption);
-    const auto report = [&](const QString &file, const QList<check::Finding> &findings) {
+
+    void add(const QString &file, const QList<check::Finding> &findings)
+    {
         for (const check::Finding &finding : findings) {
-            output += json ? jsonOf(file, finding) : lineOf(file, finding);
-            if (strict || infoOf(finding.code).level == check::Level::Error)
+            const check::CodeInfo &info = infoOf(finding.code);
+            if (ignored.contains(finding.code))
+                continue;
+            lines += json ? jsonOf(file, finding) : lineOf(file, finding);
+            if (strict || info.level == check::Level::Error)
                 status = std::max<int>(status, Findings);
         }
-    };
+    }
+};
 
+/// What stands alone: explanations and schemas. Nothing when none is asked for.
+std::optional<int> tellAbout(const QCommandLineParser &parser)
+{
+    const bool schema = parser.isSet(schemaOption);
+    if (!schema && !parser.isSet(explainOption) && !parser.isSet(listCodesOption))
+        return {};
+    const QStringList words = parser.positionalArguments();
+    if (parser.optionNames().size() > 1 || words.size() > (schema ? 1 : 0))
+        return trouble(u"--explain, --list-codes and --schema stand alone"_s);
+    if (parser.isSet(listCodesOption))
+        return writeOut(check::codeList(), Clean);
+    if (schema) {
+        const QString format = words.value(0, u"rng"_s);
+        if (format != "rng"_L1 && format != "xsd"_L1)
+            return trouble(u"there is no schema \""_s + format + u"\"; write rng or xsd"_s);
+        return writeOut(
+            QString::fromUtf8(format == "xsd"_L1 ? check::xmlSchema() : check::relaxNgSchema()),
+            Clean);
+    }
+    const QString name = parser.value(explainOption);
+    const check::CodeInfo *row = check::findCode(name);
+    return row ? writeOut(check::explained(*row), Clean) : trouble(check::noSuchCode(name));
+}
+
+/// Checks the settings, then the jobs, as far as they can be read.
+int checkFiles(const QCommandLineParser &parser, Report &report)
+{
+    QString error;
     std::unique_ptr<check::SettingsFile> settings;
     if (parser.isSet(settingsOption)) {
         const QString path = parser.value(settingsOption);
@@ -108,16 +139,44 @@ int run(const QStringList &arguments)
         if (!bytes)
             return trouble(path + u": "_s + error);
         settings = std::make_unique<check::SettingsFile>(*bytes);
-        report(path, checkSettings(*settings));
+        report.add(path, checkSettings(*settings));
     }
-    for (const QString &path : jobs) {
+    for (const QString &path : parser.positionalArguments()) {
         const auto job = readWhole(path, largestFile, error);
         if (job)
-            report(path, checkJob(*job, settings.get()));
+            report.add(path, checkJob(*job, settings.get()));
         else
-            status = trouble(path + u": "_s + error);
+            report.status = trouble(path + u": "_s + error);
     }
-    return writeOut(output, status);
+    return writeOut(report.lines, report.status);
+}
+
+int run(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        u"Says what is wrong with print jobs, before they are printed."_s);
+    parser.addPositionalArgument(u"JOB"_s, u"A job for korvel-print; - for standard input."_s,
+                                 u"[JOB...]"_s);
+    parser.addOptions({settingsOption, ignoreOption, strictOption, jsonOption, listCodesOption,
+                       explainOption, schemaOption});
+    if (const auto status = readCommandLine(parser, arguments))
+        return *status;
+    if (const auto status = tellAbout(parser))
+        return *status;
+    if (parser.positionalArguments().isEmpty() && !parser.isSet(settingsOption))
+        return trouble(u"a job is needed; see --help"_s);
+
+    Report report{parser.isSet(jsonOption), parser.isSet(strictOption)};
+    for (const QString &names : parser.values(ignoreOption)) {
+        for (const QString &name : names.split(u',')) {
+            const check::CodeInfo *row = check::findCode(name);
+            if (!row)
+                return trouble(check::noSuchCode(name));
+            report.ignored.append(row->code);
+        }
+    }
+    return checkFiles(parser, report);
 }
 
 } // namespace

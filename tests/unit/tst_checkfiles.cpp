@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A name as --json gives it: half a pair for a byte that is no UTF-8.
+/// A name as --json gives it: half a pair for a byte that is no UTF-8, what does not print escaped.
 QByteArray inJson(const QByteArray &name)
 {
     QByteArray text;
@@ -20,7 +20,7 @@ QByteArray inJson(const QByteArray &name)
                            : "\\udc" + rest.first(1).toByteArray().toHex();
         rest = rest.sliced(std::max<qsizetype>(1, length));
     }
-    return text.replace("\x1b", "\\u001b");
+    return text.replace("\x1b", "\\u001b").replace("\xEF\xBB\xBF", "\\ufeff");
 }
 
 } // namespace
@@ -142,7 +142,9 @@ private slots:
         QTest::newRow("findings") << QStringList{"error.xml"};
         QTest::newRow("JSON") << QStringList{"--json", "error.xml"};
         QTest::newRow("schema") << QStringList{"--schema"};
+        QTest::newRow("XSD") << QStringList{"--schema", "xsd"};
         QTest::newRow("explanation") << QStringList{"--explain", "limit"};
+        QTest::newRow("codes") << QStringList{"--list-codes"};
         QTest::newRow("help") << QStringList{"--help"};
     }
 

@@ -1,14 +1,8 @@
-// korvel-check as a user meets it: options, exit statuses, and findings in one line each.
-#include "companions/check/codes.h"
+// korvel-check as a user meets it: options, exit statuses, schemas.
 #include "support/checkdesk.h"
 
 #include <QMap>
-#include <QRegularExpression>
 #include <QTest>
-
-#include <algorithm>
-
-namespace check = korvel::check;
 
 class TestCheckProgram : public QObject
 {
@@ -64,13 +58,11 @@ private slots:
         QTest::newRow("settings without a file") << QStringList{"error.xml", "--settings"};
         QTest::newRow("a value for an option that has none")
             << QStringList{"--strict=yes", "error.xml"};
-        QTest::newRow("explain without a code") << QStringList{"--explain"};
-        QTest::newRow("an unknown code") << QStringList{"--explain", "no-such-code"};
-        QTest::newRow("an empty code") << QStringList{"--explain", ""};
-        QTest::newRow("explain and a job") << QStringList{"--explain", "limit", "error.xml"};
         QTest::newRow("schema and a job") << QStringList{"--schema", "error.xml"};
-        QTest::newRow("explain and settings")
-            << QStringList{"--explain", "limit", "--settings", "korvel.conf"};
+        QTest::newRow("schema in another language") << QStringList{"--schema", "dtd"};
+        QTest::newRow("schema in no language") << QStringList{"--schema", ""};
+        QTest::newRow("schema in two languages") << QStringList{"--schema", "rng", "xsd"};
+        QTest::newRow("schema and a job beside it") << QStringList{"--schema", "rng", "error.xml"};
         QTest::newRow("schema and JSON") << QStringList{"--schema", "--json"};
         QTest::newRow("explain and schema") << QStringList{"--explain", "limit", "--schema"};
     }
@@ -90,36 +82,33 @@ private slots:
         }
     }
 
-    void explain_data()
+    void schemasForEditors_data()
     {
-        QTest::addColumn<QByteArray>("explanation");
-        for (const check::CodeInfo &row : check::codes())
-            QTest::newRow(row.name.data())
-                << QByteArray(row.name.data()) + " ("
-                       + (row.level == check::Level::Error ? "error" : "warning") + ")\n"
-                       + row.meaning.data() + '\n' + row.advice.data() + '\n';
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("language");
+        QTest::newRow("of itself") << QStringList{"--schema"} << "--relaxng";
+        QTest::newRow("RELAX NG") << QStringList{"--schema", "rng"} << "--relaxng";
+        QTest::newRow("XSD") << QStringList{"--schema", "xsd"} << "--schema";
     }
 
-    void explain()
+    void schemasForEditors()
     {
-        QFETCH(QByteArray, explanation);
-        const Run run = checker({"--explain", QTest::currentDataTag()});
-        VERIFY_ENDED(run, 0);
-        QCOMPARE(linesOf(run.standardOutput), linesOf(explanation));
-    }
-
-    void schemaForEditors()
-    {
-        const Run run = checker({"--schema"});
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, language);
+        const Run run = checker(arguments);
         VERIFY_ENDED(run, 0);
         const Desk desk;
-        writeFile(desk.path("job.rng"), run.standardOutput);
-        for (const auto &[job, status] :
-             QMap<QString, int>{{"clean.xml", 0}, {"warning.xml", 3}, {"error.xml", 3}}.toStdMap())
-            QCOMPARE(runProgram("xmllint", {"--noout", "--relaxng", "job.rng", job},
+        writeFile(desk.path("job.schema"), run.standardOutput);
+        const QByteArray sound = "<printjob><method name=\"printSold\"/></printjob>";
+        writeFile(desk.path("sound.xml"), sound);
+        writeFile(desk.path("unsound.xml"), QByteArray(sound).replace("<method ", "<methods "));
+        for (const auto &[job, valid] :
+             QMap<QString, bool>{{"sound.xml", true}, {"unsound.xml", false}}.toStdMap())
+            QCOMPARE(runProgram("xmllint", {"--noout", language, "job.schema", job},
                                 {desk.folder.path(), {}, {}})
-                         .status,
-                     status);
+                             .status
+                         == 0,
+                     valid);
     }
 
     void outputIsUtf8InAnyLocale()
@@ -129,49 +118,6 @@ private slots:
         const Run run = checker({"name.xml"}, {desk.folder.path(), {"LC_ALL=C"}, {}});
         VERIFY_ENDED(run, 1);
         QVERIFY2(run.standardOutput.contains("\"Caff\xC3\xA8\""), run.standardOutput.constData());
-    }
-
-    /// What a job says is shown in one line, whatever it is.
-    void oneLineAFinding()
-    {
-        static const QRegularExpression finding("^-:\\d+:\\d+: error: \\S.* \\[[a-z-]+\\]$");
-        const Desk desk;
-        for (const QByteArray &job : QByteArrayList{
-                 "<job><method name=\"a&#10;b\"/></job>",
-                 "<?xml version=\"1.0\" encoding=\"a\nb\"?><job/>",
-                 "<job>\x01</job>",
-                 "<job><method name=\"a&#x2028;b&#x2029;c\"/></job>",
-                 "<job><method name=\"printPartialOrder\"/><receipe number=\"1\" name=\"x\" "
-                 "\xE2\x80\xA8=\"\"/></job>",
-             }) {
-            const Run run = desk.run({"-"}, job);
-            QVERIFY(run.exited);
-            const QStringList lines = linesWithoutEnds(run.standardOutput);
-            QVERIFY(!lines.isEmpty());
-            for (const QString &line : lines) {
-                QVERIFY2(finding.match(line).hasMatch(), qPrintable(line));
-                QVERIFY2(std::all_of(line.begin(), line.end(),
-                                     [](QChar c) {
-                                         return (c.isPrint() || c.isSurrogate())
-                                                && c.category() != QChar::Separator_Line
-                                                && c.category() != QChar::Separator_Paragraph;
-                                     }),
-                         qPrintable(line));
-            }
-        }
-    }
-
-    /// So is what a settings file says.
-    void oneLineAFindingOfSettings()
-    {
-        const Desk desk;
-        writeFile(desk.path("shop.conf"),
-                  "korvel:\n{\n  a\x1B[1m:\n  {\n    b\x1B[2m = \"1\";\n  };\n};\n");
-        const Run run = desk.run({"--settings", "shop.conf"});
-        VERIFY_ENDED(run, 0);
-        QCOMPARE(run.standardOutput,
-                 "shop.conf:5:5: warning: nothing reads korvel.a [1m.b [2m: no document reads the "
-                 "group a [1m [unread-key]\n");
     }
 };
 
