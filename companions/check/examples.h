@@ -54,6 +54,31 @@ inline constexpr QLatin1StringView prices{
     "  <receipe number=\"2\" name=\"Coffee\" price=\"1.20\" totalPrice=\"2.40\"/>\n"
     "  <total price=\"%1\"/>\n"
     "</job>"};
+inline constexpr QLatin1StringView row{
+    "<job>\n"
+    "  <method name=\"printFullOrderReceipt\"/>\n"
+    "  <receipe number=\"2\" name=\"Coffee\" price=\"1.20\" totalPrice=\"%1\"/>\n"
+    "  <total price=\"%1\"/>\n"
+    "</job>"};
+inline constexpr QLatin1StringView item{
+    "<job>\n"
+    "  <method name=\"printFullOrderReceipt\"/>\n"
+    "  <receipe number=\"2\" name=\"Coffee\" price=\"1.20\" totalPrice=\"2.40\"/>\n"
+    "  %1\n"
+    "</job>"};
+inline constexpr QLatin1StringView invoice{"<job>\n"
+                                           "  <method name=\"printFullOrderInvoice\"/>\n"
+                                           "  %1\n"
+                                           "</job>"};
+inline constexpr QLatin1StringView table{"korvel:\n"
+                                         "{\n"
+                                         "  doc:\n"
+                                         "  {\n"
+                                         "    paperWidth = \"32\";\n"
+                                         "    quantityFieldWidth = \"3\";\n"
+                                         "    printTable = \"true\";\n"
+                                         "  };\n"
+                                         "};"};
 inline constexpr QLatin1StringView company{"<job>\n"
                                            "  <method name=\"printFullOrderReceipt\"/>\n"
                                            "  <company name=\"Trattoria Da Nino\"/>\n"
@@ -145,12 +170,24 @@ inline constexpr Example exampleTable[] = {
     {Code::IgnoredElement, example::none, example::customer,
      "printAbstractOrderReceipt"_L1,
      "printFullOrderReceipt"_L1},
+    {Code::LostElement, example::none, example::order,
+     "<total price=\"12.00\"/>"_L1,
+     "<receipe number=\"1\" name=\"Coffee\"/>"_L1},
+    {Code::TextContent, example::none, example::order,
+     "<receipe number=\"2\">Coffee</receipe>"_L1,
+     "<receipe number=\"2\" name=\"Coffee\"/>"_L1},
     {Code::UnknownAttribute, example::none, example::receipt,
      "<receipt serialnumber=\"118\" cashier=\"Lucia\"/>"_L1,
      "<receipt serialnumber=\"118\"/>"_L1},
+    {Code::MisspeltAttribute, example::none, example::order,
+     "<receipe quantity=\"2\" name=\"Coffee\"/>"_L1,
+     "<receipe number=\"2\" name=\"Coffee\"/>"_L1},
     {Code::MissingAttribute, example::none, example::receipt,
      "<total/>"_L1,
      "<total price=\"12.00\"/>"_L1},
+    {Code::MissingText, example::table, example::order,
+     "<orderinfo/>"_L1,
+     "<orderinfo table=\"7\"/>"_L1},
     {Code::CancelledList, example::none, example::report,
      "<cancelledsummary number=\"2\" totals=\"9.00\" a=\"116\" b=\"9.00\" c=\"10\"/>"_L1,
      "<cancelledsummary number=\"1\" totals=\"9.00\" a=\"116\" b=\"9.00\" c=\"10\"/>"_L1},
@@ -174,6 +211,24 @@ inline constexpr Example exampleTable[] = {
     {Code::FiscalQuantity, example::none, example::fiscal,
      "<receipe department=\"1\" number=\"2 cups\" name=\"Coffee\" price=\"1.20\"/>"_L1,
      "<receipe department=\"1\" number=\"2\" name=\"Coffee\" price=\"1.20\"/>"_L1},
+    {Code::FiscalDepartment, example::none, example::fiscal,
+     "<receipe department=\"Bar\" number=\"2\" name=\"Coffee\" price=\"1.20\"/>"_L1,
+     "<receipe department=\"1\" number=\"2\" name=\"Coffee\" price=\"1.20\"/>"_L1},
+
+    // Sums.
+    {Code::RowSum, example::none, example::row, "2.20"_L1, "2.40"_L1},
+    {Code::TotalSum, example::none, example::prices, "2.50"_L1, "2.40"_L1},
+    {Code::TaxSum, example::none, example::invoice,
+     "<totals taxable=\"10.00\" taxrate=\"10%\" tax=\"2.00\" total=\"12.00\"/>"_L1,
+     "<totals taxable=\"10.00\" taxrate=\"10%\" tax=\"1.00\" total=\"11.00\"/>"_L1},
+    {Code::NoTotal, example::none, example::item,
+     "<receipt serialnumber=\"118\"/>"_L1,
+     "<total price=\"2.40\"/>"_L1},
+    {Code::BehindTotal, example::none, example::receipt,
+     "<total price=\"0.00\"/>\n"
+     "  <receipe number=\"1\" name=\"Water\" price=\"0.00\" totalPrice=\"0.00\"/>"_L1,
+     "<receipe number=\"1\" name=\"Water\" price=\"0.00\" totalPrice=\"0.00\"/>\n"
+     "  <total price=\"0.00\"/>"_L1},
 
     // Texts.
     {Code::EndsCommand, example::none, example::fiscal,
