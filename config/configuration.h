@@ -16,6 +16,13 @@ public:
     /// every setting empty.
     KVConfiguration();
 
+    /// Settings from these bytes instead, for a program that lays out by others than the user's. No
+    /// file is touched, nothing reported. Here, because most programs link no reader of bytes.
+    explicit KVConfiguration(const QByteArray &bytes)
+    {
+        readBytes(bytes, QString(), QStringLiteral("cfg"));
+    }
+
     /**
      * The value of a setting, Latin-1, or the empty string when it is missing or empty.
      *

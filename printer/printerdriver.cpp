@@ -25,6 +25,13 @@ PrinterDriver::PrinterDriver(const QString &outputPath, bool append)
         std::cout << "PrintManager::printAbstractOrder(...): Unable To Open File" << std::endl;
 }
 
+PrinterDriver::PrinterDriver(KVConfiguration &ownSettings, QString &output)
+    : settings(&ownSettings)
+    , outputStream(std::make_unique<QTextStream>(&output))
+    , justification(u"left"_s)
+{
+}
+
 PrinterDriver::~PrinterDriver() = default;
 
 bool PrinterDriver::oneTime() { return !std::exchange(oneTimeDone, true); }

@@ -53,6 +53,17 @@ public:
      */
     PrinterDriver(const QString &outputPath, bool append);
 
+    /**
+     * Sends what a job prints into a text, without a file and without the user's settings: for
+     * programs that look at it.
+     *
+     * @param settings by which documents are laid out
+     * @param output   commands are appended to it
+     *
+     * Both belong to the caller and outlive the driver.
+     */
+    PrinterDriver(KVConfiguration &settings, QString &output);
+
     /// Flushes and closes the output file.
     ~PrinterDriver() override;
 
@@ -288,11 +299,11 @@ protected:
     /// Writes a command to the output file, as UTF-8. Discarded when the file did not open.
     void write(const QString &command);
 
-    KVConfiguration *settings; // the user's settings; belongs to its singleton
+    KVConfiguration *settings; // the user's, which belong to their singleton, or the caller's
     QString currentMethod;     // name of the method last selected; empty when there is none
 
 private:
-    std::unique_ptr<QFile> outputFile;
+    std::unique_ptr<QFile> outputFile;         // null when the output is a text
     std::unique_ptr<QTextStream> outputStream; // null when the file did not open; goes first
 
 protected:

@@ -56,8 +56,6 @@ void checkPrinted(Context &context, const Tag &tag, const Attribute &row,
         checkAddress(context, attribute);
     else if (row.value == Value::VariantQuantity)
         checkVariantQuantity(context, attribute);
-    if (context.settings)
-        checkWidth(context, row, attribute);
 }
 
 /// An attribute that the document knows.

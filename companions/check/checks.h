@@ -11,8 +11,7 @@ class SettingsFile;
  * What is wrong with a job, in the order of the file.
  *
  * @param job      bytes of any kind
- * @param settings when given, also what the settings switch off, and figures wider than their
- *                 columns
+ * @param settings when given, also what the settings switch off, and lines wider than the paper
  */
 QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings);
 

@@ -67,7 +67,8 @@ enum class Code {
 
     // The job beside its settings.
     SwitchedOff,
-    WideFigure,
+    WideLine,
+    CutCharacter,
 
     // The settings.
     Columns,
@@ -278,16 +279,24 @@ inline constexpr CodeInfo codeTable[] = {
      "The settings switch off what the job sends. It is not printed."_L1,
      "Switch it on in the settings if it is meant to be printed, with exactly true; else leave "
      "it out of the job."_L1},
-    {Code::WideFigure, Level::Warning, "wide-figure"_L1,
-     "\"%1\" is %2 in a column of %3 (%4 in %5): the line grows by %6"_L1,
-     "A figure is wider than its column. It is not cut; the line grows, maybe past the paper."_L1,
-     "Widen the column in the settings."_L1},
+    {Code::WideLine, Level::Warning, "wide-line"_L1,
+     "a line of %1 characters is wider than the paper (%2): %3%4"_L1,
+     "A line of this job, laid out by these settings and in their language, is wider than the "
+     "paper. The printer breaks it or cuts it. Labels that are too wide by themselves are not "
+     "reported, nor what the settings alone make wide."_L1,
+     "Shorten the text, or the label in the catalogue; if it is a figure in a column, widen the "
+     "column in the settings."_L1},
+    {Code::CutCharacter, Level::Warning, "cut-character"_L1,
+     "\"%1\" is cut in the middle of %2, which prints as another character"_L1,
+     "A text is cut to the width of its column in the middle of a character that counts as two, "
+     "such as an emoji. Another character, or none, is printed in its place."_L1,
+     "Shorten the text, or lengthen it by a blank before the character, or leave that out."_L1},
 
     // The settings.
     {Code::Columns, Level::Warning, "columns"_L1,
      "%1"_L1,
-     "The columns of a document leave no room for the description, or its lines are wider than "
-     "the printer's 32 characters."_L1,
+     "The columns of a document leave no room for the description, one of them has a negative "
+     "width, or its lines are wider than the printer's 32 characters."_L1,
      "Make the columns narrower, so that the description has at least one character, and set "
      "paperWidth to 32 or less."_L1},
     {Code::UnreadKey, Level::Warning, "unread-key"_L1,

@@ -1,12 +1,9 @@
-// Which figure stands in which column, and what the columns leave of a line.
+// What the columns leave of a line.
 #include "companions/check/columns.h"
 
-#include "companions/check/context.h"
-#include "companions/check/words.h"
+#include "companions/check/vocabulary.h"
 #include "vocabulary/columns.h"
 #include "vocabulary/paper.h"
-
-#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,7 +11,7 @@ namespace korvel::check {
 
 namespace {
 
-/// Whether the columns of a document leave room for its description.
+/// Whether the columns of a document leave room for its description, and no more than there is.
 void checkRow(const SettingsFile &settings, const vocabulary::Method &method,
               const vocabulary::RowStyle &style, Place place, QList<Finding> &findings)
 {
@@ -24,30 +21,23 @@ void checkRow(const SettingsFile &settings, const vocabulary::Method &method,
     const qint64 room = style.descriptionWidth(width, number(vocabulary::key::quantityFieldWidth),
                                                number(vocabulary::key::priceFieldWidth),
                                                number(vocabulary::key::totalPriceFieldWidth));
-    if (room > 0)
+    QString words;
+    for (const auto &[column, setting] : vocabulary::columnWidths) {
+        if ((style.columns & column) != 0 && number(setting) < 0)
+            words = filled(phrase::negativeWidth, setting, QString::number(number(setting)),
+                           method.title);
+    }
+    if (room <= 0)
+        words = filled(phrase::noRoom, method.title, QString::number(width - room),
+                       QString::number(width));
+    if (words.isEmpty())
         return;
-    const QString text =
-        worded(Code::Columns, filled(phrase::noRoom, method.title, QString::number(width - room),
-                                     QString::number(width)));
+    const QString text = worded(Code::Columns, words);
     const QStringList group = {vocabulary::group::korvel, method.group};
     findings.append({place, Code::Columns, text, group, 0});
 }
 
 } // namespace
-
-void checkWidth(Context &context, const vocabulary::Attribute &row, const JobAttribute &attribute)
-{
-    for (const auto &[column, setting] : vocabulary::columnWidths) {
-        if (row.column != column)
-            continue;
-        const QLatin1StringView group = context.method->group;
-        const qsizetype width = std::max(context.settings->number(group, setting), 0);
-        const qsizetype beyond = attribute.value.size() - width;
-        if (beyond > 0)
-            context.note(attribute.place, Code::WideFigure, attribute.name, quoted(attribute.value),
-                         QString::number(width), setting, group, QString::number(beyond));
-    }
-}
 
 void checkColumns(const SettingsFile &settings, const QHash<QString, Place> &groups,
                   QList<Finding> &findings)

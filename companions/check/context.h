@@ -105,9 +105,9 @@ void checkRegistered(Context &context, vocabulary::Value kind, const JobAttribut
 /// The rows of a job beside each other: their own totals, the job's total, the tax.
 void checkSums(Context &context);
 
-// columns.cpp
+// lines.cpp
 
-/// A figure beside the column that the settings give it; they must be given.
-void checkWidth(Context &context, const vocabulary::Attribute &row, const JobAttribute &attribute);
+/// The lines that the engine prints of these tags by the settings, which must be given.
+void checkLines(Context &context, const QList<Tag> &tags);
 
 } // namespace korvel::check

@@ -104,9 +104,14 @@ inline constexpr Phrase elementNotPrinted{"<%1> is not printed"};
 inline constexpr Phrase attributeNotPrinted{"\"%1\" is not printed"};
 inline constexpr Phrase onlyPrinterName{"of <headers> only the printer's name is printed"};
 
+// WideLine: the figure that makes it so
+inline constexpr Phrase wideFigure{"; \"%1\" is %2 in a column of %3 (%4 in %5)"};
+
 // Columns
 inline constexpr Phrase noRoom{"the columns of the %1 leave no room for the description: "
                                "the others and the blanks take %2 of %3 characters"};
+inline constexpr Phrase negativeWidth{
+    "%1 is %2: the description of the %3 gets as many characters too many"};
 inline constexpr Phrase widePaper{
     "paperWidth is %1: lines are wider than the printer's %2 characters"};
 

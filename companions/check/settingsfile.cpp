@@ -54,9 +54,9 @@ std::vector<Tree::Index> groupsInOrder(const Tree &tree)
 } // namespace
 
 SettingsFile::SettingsFile(const QByteArray &bytes)
-    : lineStarts{0}
+    : KVConfiguration(bytes)
+    , lineStarts{0}
 {
-    readBytes(bytes, QString(), u"cfg"_s);
     for (qsizetype feed = -1; (feed = bytes.indexOf('\n', feed + 1)) >= 0;)
         lineStarts.append(feed + 1);
 }
@@ -104,6 +104,12 @@ bool SettingsFile::isOn(QLatin1StringView group, QLatin1StringView key) const
 int SettingsFile::number(QLatin1StringView group, QLatin1StringView key) const
 {
     return value(group, key).toInt();
+}
+
+KVConfiguration &SettingsFile::forEngine() const
+{
+    // Back ends have had a pointer to what could be changed from the first.
+    return const_cast<SettingsFile &>(*this);
 }
 
 /// Where a byte of the file stands; bytes are characters of Latin-1.

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "companions/check/job.h"
-#include "config/config.h"
+#include "config/configuration.h"
 
 namespace korvel::check {
 
 /// The settings of a file in the brace notation, read as the renderer reads them.
-class SettingsFile : private libconfig::Config
+class SettingsFile : private KVConfiguration
 {
 public:
     /// A setting of the file.
@@ -39,6 +39,9 @@ public:
 
     /// A number of a document, 0 when it is missing or none.
     [[nodiscard]] int number(QLatin1StringView group, QLatin1StringView key) const;
+
+    /// The same settings as the engine takes them. It only asks them.
+    [[nodiscard]] KVConfiguration &forEngine() const;
 
 private:
     [[nodiscard]] Place placeOf(qint64 offset) const;

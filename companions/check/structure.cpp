@@ -158,6 +158,8 @@ QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings)
     const bool goesOn = std::all_of(read.tags.begin(), read.tags.end(), [&](const Tag &tag) {
         return checkTag(context, tag, &tag == &read.tags.constFirst());
     });
+    if (settings)
+        checkLines(context, read.tags);
     if (!context.method && goesOn && read.faults.isEmpty()) {
         context.findings.clear(); // all of them are before the method that is missing
         context.note({}, Code::NoMethod);

@@ -68,7 +68,7 @@ private:
         case Kind::Line:
             inspectText(command.offset + commands::lineOpener.size() + command.spaces,
                         command.content);
-            inspectWidth(command, command.spaces + decoded(command.content).size(), u"line"_s);
+            inspectWidth(command, u"line"_s);
             break;
         case Kind::SectionOpened:
             if (open)
@@ -93,7 +93,7 @@ private:
                               command.offset + commands::announceDeduction.size()
                                   + commands::deductionAmount.size(),
                               u"deduction"_s);
-            inspectRowWidth(command, u"deduction"_s);
+            inspectWidth(command, u"deduction"_s);
             countDeduction(command);
             break;
         case Kind::Unknown:
@@ -117,7 +117,7 @@ private:
         else
             note(quantity, u"the quantity "_s + nameOf(row.quantity) + u" is no number"_s);
         inspectText(description, row.description);
-        inspectRowWidth(row, u"sale row"_s);
+        inspectWidth(row, u"sale row"_s);
     }
 
     void inspectRegistered(const Command &row, qsizetype amountAt, const QString &what)
@@ -145,18 +145,9 @@ private:
         count(deduction, amount ? std::optional(-*amount) : std::nullopt, u"deduction"_s);
     }
 
-    /// A row of the paper may hold more than the description: a quantity, a department.
-    void inspectRowWidth(const Command &row, const QString &what)
+    void inspectWidth(const Command &command, const QString &what)
     {
-        qsizetype width = 0;
-        Roll roll(columns,
-                  [&](const PaperRow &line) { width = std::max(width, line.text.size()); });
-        roll.print(row);
-        inspectWidth(row, width, what);
-    }
-
-    void inspectWidth(const Command &command, qsizetype width, const QString &what)
-    {
+        const qsizetype width = widestRow(command, columns).size();
         if (width > columns)
             note(command.offset, u"a "_s + what + u" of "_s + QString::number(width)
                                      + u" characters is wider than the paper ("_s
@@ -234,6 +225,22 @@ private:
 QList<Finding> findings(const QByteArray &stream, int columns)
 {
     return Inspector(stream, columns).inspect();
+}
+
+QString widestRow(const Command &command, int columns)
+{
+    QString widest;
+    if (command.kind == Kind::Line) {
+        widest = QString(command.spaces, u' ') + decoded(command.content);
+    } else if (command.kind == Kind::SaleRow || command.kind == Kind::Deduction) {
+        // A row may hold more than the description: a quantity, a department.
+        Roll roll(columns, [&](const PaperRow &row) {
+            if (row.text.size() > widest.size())
+                widest = row.text;
+        });
+        roll.print(command);
+    }
+    return widest;
 }
 
 } // namespace korvel::preview

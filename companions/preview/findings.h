@@ -32,4 +32,10 @@ inline constexpr qsizetype mostFindings = 1000;
  */
 QList<Finding> findings(const QByteArray &stream, int columns);
 
+/**
+ * The widest row of the paper that a command takes, a line as it was sent: what is held against the
+ * width of the paper. Empty for a command that is no line, sale row or deduction.
+ */
+QString widestRow(const Command &command, int columns);
+
 } // namespace korvel::preview

@@ -64,6 +64,12 @@ CompanyPrinterDriver::CompanyPrinterDriver(const QString &outputPath, bool appen
 {
 }
 
+CompanyPrinterDriver::CompanyPrinterDriver(KVConfiguration &ownSettings, QString &output)
+    : PrinterDriver(ownSettings, output)
+    , pendingLine(commands::lineOpener)
+{
+}
+
 int CompanyPrinterDriver::getPaperWidth() { return commands::lineWidth; }
 
 void CompanyPrinterDriver::setBold() { }

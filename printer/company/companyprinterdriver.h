@@ -15,6 +15,9 @@ public:
     /// Opens the output file; see PrinterDriver.
     CompanyPrinterDriver(const QString &outputPath, bool append);
 
+    /// Sends its commands into a text; see PrinterDriver.
+    CompanyPrinterDriver(KVConfiguration &settings, QString &output);
+
     using PrinterDriver::printRowFiscal; // the overload for a total, which prints nothing
 
     /// 32, the device's line width in characters.

@@ -1,6 +1,7 @@
 // The printer back end: the bytes of lines, sections and sale rows.
 #include "printer/company/companyprinterdriver.h"
 #include "support/bytes.h"
+#include "support/capturedoutput.h"
 #include "support/temporaryhome.h"
 
 #include <QTest>
@@ -309,6 +310,30 @@ private slots:
     {
         const TemporaryHome home(QByteArray{});
         QCOMPARE(Printer(home.path() + "/stream.out").getPaperWidth(), 32);
+    }
+
+    void commandsInATextBySettingsOfOnesOwn()
+    {
+        const TemporaryHome home; // whose settings nobody reads
+        KVConfiguration settings("korvel: { doc: { quantityFieldWidth = 2; paperWidth = 12; }; };");
+        QString text = "=before\n";
+        QXmlAttributes method;
+        method.append("name", {}, "name", "printPartialOrder");
+        QXmlAttributes item;
+        item.append("number", {}, "number", "1");
+        item.append("name", {}, "name", "Caffè 🍕");
+        const auto print = [&] {
+            CompanyPrinterDriver driver(settings, text);
+            driver.startDocument();
+            driver.startElement({}, {}, "method", method);
+            driver.startElement({}, {}, "receipe", item);
+            QCOMPARE(text, QString("=before\n=o\n=\"/( 1 Caffè ") + QChar(0xD83C) + " )\n");
+            text.clear();
+            driver.endDocument();
+        };
+        QCOMPARE(outputOf(print), "");
+        QCOMPARE(text, "=o\n");
+        QVERIFY(!SyncSingleton<KVConfiguration>::instance_pointer);
     }
 
     void withoutAStreamNothingHappens()

@@ -179,6 +179,14 @@ private slots:
         QCOMPARE(KVConfiguration().getStrValue("korvel.a"), "");
     }
 
+    void ofBytes()
+    {
+        const TemporaryHome home("korvel: { a = user; };");
+        const KVConfiguration settings("korvel: { a = own\xE8; };");
+        QCOMPARE(settings.getStrValue("korvel.a"), QString("ownè"));
+        QCOMPARE(KVConfiguration(QByteArray()).getStrValue("korvel.a"), "");
+    }
+
     void madeOnFirstUse()
     {
         const TemporaryHome home(width24);
