@@ -37,6 +37,15 @@ struct Culprit
     QString figure;
 };
 
+/// An attribute that the document knows by name.
+struct Known
+{
+    Attribute row;
+    const JobAttribute *attribute;
+    bool told = false;     // to make an earlier line wide
+    qsizetype reached = 0; // by earlier lines, of an address
+};
+
 /// Goes through the lines of a job as they are printed.
 class LineChecker
 {
@@ -53,7 +62,7 @@ public:
         if (!element.commands.isValidUtf16())
             noteCut(element);
         const QStringList rows = rowsOf(element.commands);
-        told.clear();
+        inElement.clear();
         for (qsizetype i = 0; i < rows.size(); ++i) {
             if (rows[i].size() > paper)
                 noteWide(element, i, rows);
@@ -91,7 +100,7 @@ private:
 
     void noteWide(const Printed &element, qsizetype row, const QStringList &rows)
     {
-        const Culprit culprit = culpritOf(element, row, rows[row]);
+        const Culprit culprit = culpritOf(element, row, rows);
         if (!culprit.attribute && element.method.group == vocabulary::group::fiscaldoc)
             return; // a price or a quantity, which have rules of their own
         const QString text = worded(Code::WideLine, QString::number(rows[row].size()),
@@ -105,10 +114,11 @@ private:
                      {place, Code::WideLine, text, {}, 0}});
     }
 
-    Culprit culpritOf(const Printed &element, qsizetype row, QString line)
+    Culprit culpritOf(const Printed &element, qsizetype row, const QStringList &rows)
     {
-        line.replace(commands::reservedWordInPrint, vocabulary::reservedWord);
         const Tag &tag = element.tag;
+        QString line = rows[row];
+        line.replace(commands::reservedWordInPrint, vocabulary::reservedWord);
         // Where any attributes are printed, each has a line, in their order.
         if (row < tag.attributes.size() && tag.attributes[row].value == line)
             return {&tag.attributes[row], {}};
@@ -116,41 +126,74 @@ private:
             const JobAttribute *name = printer->find(vocabulary::attribute::name);
             return {name && name->value == line ? name : nullptr, {}};
         }
+        if (tag.name == element::cancelledsummary) {
+            if (const JobAttribute *listed = listedIn(tag, rows.size() - row))
+                return {listed, {}};
+        }
+        return knownIn(element, line);
+    }
 
-        Culprit culprit;
-        Culprit longest;
+    /// Of the attributes that a list of cancelled documents has in a row, three in each, the
+    /// longest; null when the row is none of the list. Rows are counted from the last, which is 1.
+    static const JobAttribute *listedIn(const Tag &tag, qsizetype fromLast)
+    {
+        const qsizetype count = tag.attributes.size();
+        const qsizetype begin = count - (count % 3 + 1) - 3 * (fromLast - 1); // after the first two
+        const qsizetype end = std::min(begin + 3, count);
+        if (begin < 2)
+            return nullptr;
+        return &*std::max_element(tag.attributes.begin() + begin, tag.attributes.begin() + end,
+                                  [](const JobAttribute &a, const JobAttribute &b) {
+                                      return a.value.size() < b.value.size();
+                                  });
+    }
+
+    /// What makes a line wide of the attributes that the document knows by name: figures in
+    /// columns, or the longest value.
+    Culprit knownIn(const Printed &element, const QString &line)
+    {
+        if (inElement.isEmpty()) {
+            for (const Attribute &row :
+                 vocabulary::attributesOf(element.tag.name, element.method.document))
+                if (const JobAttribute *attribute = element.tag.find(row.name))
+                    inElement.append({row, attribute});
+        }
+        Culprit figures;
+        Known *longest = nullptr;
         vocabulary::Columns columns = 0; // that a figure was found for
-        for (const Attribute &known : vocabulary::attributesOf(tag.name, element.method.document)) {
-            const JobAttribute *attribute = tag.find(known.name);
-            if (!attribute || !isIn(line, known.value, *attribute))
+        for (Known &known : inElement) {
+            if (!isIn(line, known))
                 continue;
-            if (known.column == vocabulary::NoColumn) {
-                if (!longest.attribute || attribute->value.size() > longest.attribute->value.size())
-                    longest.attribute = attribute;
-            } else if (const QString figure = wideFigure(element, known, *attribute);
-                       !figure.isEmpty() && (columns & known.column) == 0) {
-                columns |= known.column;
-                culprit.figure += figure;
-                culprit.attribute = culprit.attribute ? culprit.attribute : attribute;
-                told.append(attribute);
+            if (known.row.column == vocabulary::NoColumn) {
+                if (!longest || known.attribute->value.size() > longest->attribute->value.size())
+                    longest = &known;
+            } else if (const QString figure = wideFigure(element, known.row, *known.attribute);
+                       !figure.isEmpty() && (columns & known.row.column) == 0) {
+                columns |= known.row.column;
+                figures.figure += figure;
+                figures.attribute = figures.attribute ? figures.attribute : known.attribute;
+                known.told = true;
             }
         }
-        if (culprit.attribute)
-            return culprit;
-        told.append(longest.attribute);
-        return longest;
+        if (figures.attribute || !longest)
+            return figures;
+        longest->told = true;
+        return {longest->attribute, {}};
     }
 
     /// Whether a line has an attribute's value, and not one of the same words that was told of an
-    /// earlier line.
-    [[nodiscard]] bool isIn(const QString &line, Value kind, const JobAttribute &attribute) const
+    /// earlier line. Of an address it has a part, behind those of earlier lines.
+    static bool isIn(const QString &line, Known &known)
     {
-        if (kind == Value::Address)
-            return attribute.value.contains(line.trimmed());
-        if (kind == Value::RegisteredPrice || kind == Value::RegisteredCount)
-            return false;
-        return !attribute.value.isEmpty() && line.contains(attribute.value)
-               && !told.contains(&attribute);
+        const QString &value = known.attribute->value;
+        if (known.row.value == Value::Address) {
+            const qsizetype at = value.indexOf(line.trimmed(), known.reached);
+            known.reached = std::max(known.reached, at);
+            return at >= 0;
+        }
+        return known.row.value != Value::RegisteredPrice
+               && known.row.value != Value::RegisteredCount && !known.told && !value.isEmpty()
+               && line.contains(value);
     }
 
     /// What is said of a figure that is wider than its column; nothing of any other.
@@ -167,8 +210,8 @@ private:
     }
 
     Context &context;
-    const Tag *printer = nullptr;     // the one named last
-    QList<const JobAttribute *> told; // of the element that is looked at
+    const Tag *printer = nullptr; // the one named last
+    QList<Known> inElement;       // that is looked at; asked for with its first wide line
 };
 
 /// How wide lines are in another trial; below 0 where their element has other lines there.
