@@ -83,6 +83,13 @@ inline constexpr QLatin1StringView company{"<job>\n"
                                            "  <method name=\"printFullOrderReceipt\"/>\n"
                                            "  <company name=\"Trattoria Da Nino\"/>\n"
                                            "</job>"};
+inline constexpr QLatin1StringView emoji{
+    "<job>\n"
+    "  <method name=\"printFullOrderReceipt\"/>\n"
+    "  <receipe number=\"1\" name=\"Caprese x&#127829;\"\n"
+    "           price=\"7.00\" totalPrice=\"7.00\"/>\n"
+    "  <total price=\"7.00\"/>\n"
+    "</job>"};
 inline constexpr QLatin1StringView total{"<job>\n"
                                          "  <method name=\"printFullOrderReceipt\"/>\n"
                                          "  <total price=\"1200000.00\"/>\n"
@@ -254,9 +261,12 @@ inline constexpr Example exampleTable[] = {
     {Code::SwitchedOff, example::settings, example::company,
      "printCompany = \"false\";"_L1,
      "printCompany = \"true\";"_L1},
-    {Code::WideFigure, example::widths, example::total,
+    {Code::WideLine, example::widths, example::total,
      "totalPriceFieldWidth = \"8\";"_L1,
      "totalPriceFieldWidth = \"10\";"_L1},
+    {Code::CutCharacter, example::widths, example::emoji,
+     "totalPriceFieldWidth = \"8\";"_L1,
+     "totalPriceFieldWidth = \"7\";"_L1},
 
     // The settings.
     {Code::Columns, example::widths, example::none,
