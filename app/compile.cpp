@@ -2,13 +2,13 @@
 #include "app/compile.h"
 
 #include "app/jobguard.h"
+#include "config/catalogue.h"
 #include "config/configuration.h"
 #include "config/path.h"
 #include "printer/company/companyprinterdriver.h"
 #include "vocabulary/settings.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <QTranslator>
 
 #include <iostream>
@@ -26,16 +26,14 @@ void silence(QtMsgType /*type*/, const QMessageLogContext & /*context*/, const Q
 {
 }
 
-/// Loads the catalogue that the settings name: by the system's locale when the file is "/", else
-/// the file itself. The toolkit completes the name; what it does not find leaves labels
-/// untranslated.
+/// Loads the catalogue that the settings name. The toolkit completes the name; what it does not find
+/// leaves labels untranslated.
 void loadTranslation(QTranslator &translator, const KVConfiguration &settings)
 {
-    const QString baseDir = settings.getStrValue(pathOf(group::language, language::basedir));
-    QString file = settings.getStrValue(pathOf(group::language, language::file));
-    if (file == "/"_L1)
-        file = "/korvel_"_L1 + QLocale::system().name();
-    if (const QString name = baseDir + file; !name.isEmpty())
+    const QString name = korvel::catalogue::nameOf(
+        settings.getStrValue(pathOf(group::language, language::basedir)),
+        settings.getStrValue(pathOf(group::language, language::file)));
+    if (!name.isEmpty())
         static_cast<void>(translator.load(korvel::path::forToolkit(name)));
 }
 
