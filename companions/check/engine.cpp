@@ -2,12 +2,12 @@
 #include "companions/check/engine.h"
 
 #include "companions/preview/findings.h"
+#include "config/catalogue.h"
 #include "config/path.h"
 #include "printer/company/companyprinterdriver.h"
 #include "vocabulary/paper.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <QTranslator>
 #include <QXmlAttributes>
 
@@ -43,10 +43,9 @@ bool hasRows(const Method &method)
 /// The path of the catalogue that settings name; empty for none.
 QString catalogueOf(const SettingsFile &settings)
 {
-    QString file = settings.value(vocabulary::group::language, language::file);
-    if (file == "/"_L1)
-        file = "/korvel_"_L1 + QLocale::system().name();
-    const QString name = settings.value(vocabulary::group::language, language::basedir) + file;
+    const QString name = catalogue::nameOf(
+        settings.value(vocabulary::group::language, language::basedir),
+        settings.value(vocabulary::group::language, language::file));
     return name.isEmpty() ? QString() : path::forToolkit(name);
 }
 

@@ -107,6 +107,41 @@ inline constexpr Phrase onlyPrinterName{"of <headers> only the printer's name is
 // WideLine: the figure that makes it so
 inline constexpr Phrase wideFigure{"; \"%1\" is %2 in a column of %3 (%4 in %5)"};
 
+// NoSettings: why
+inline constexpr Phrase emptyFile{"it is empty"};
+inline constexpr Phrase noGroup{"it has no group korvel: { ... };"};
+inline constexpr Phrase noSetting{"no setting stands in it"};
+inline constexpr Phrase otherNotation{
+    "it is written as %1; settings are written korvel: { doc: { paperWidth = \"32\"; }; };"};
+inline constexpr Phrase otherFirstGroup{"its first group is %1, not korvel%2"};
+
+// ByteOrderMark
+inline constexpr Phrase markInFront{"a byte order mark stands in front of it"};
+inline constexpr Phrase wideCharacters{"it is written as UTF-16"};
+
+// Comment: what is lost by it
+inline constexpr Phrase theGroup{"the group %1"};
+inline constexpr Phrase whatFollows{"what follows"};
+
+// Unterminated
+inline constexpr Phrase noSemicolon{"%1 is %2: does the line end with ;?"};
+inline constexpr Phrase lineEnd{"; does the line end with ;?"};
+inline constexpr Phrase braceAlone{"a } has no ; behind it: %1 is skipped"};
+inline constexpr Phrase groupOpen{"the group %1 is not closed: a }; is missing here"};
+inline constexpr Phrase fileEnds{"the file ends inside the group %1: a }; is missing, if not more"};
+inline constexpr Phrase braceTooMany{"a } closes %1 too early: what follows is not read"};
+inline constexpr Phrase closesFile{"a } closes nothing: what follows is not read"};
+inline constexpr Phrase noBrace{"the group %1 has no { behind its name"};
+inline constexpr Phrase noColon{"the group %1 has no : behind its name"};
+inline constexpr Phrase equalsBefore{"a group is written %1: {, not %1 = {"};
+inline constexpr Phrase colonBefore{"a setting is written %1 = ..., not %1: ..."};
+inline constexpr Phrase noEquals{"%1 has no = behind its name and is not read"};
+
+// Catalogue
+inline constexpr Phrase notFound{"no catalogue is found as %1"};
+inline constexpr Phrase notLoaded{"%1 is no catalogue"};
+inline constexpr Phrase beginsWithSlash{"; file must begin with a /"};
+
 // Columns
 inline constexpr Phrase noRoom{"the columns of the %1 leave no room for the description: "
                                "the others and the blanks take %2 of %3 characters"};

@@ -1,4 +1,5 @@
 // A settings file by itself: what nothing reads, and values that are hardly meant.
+#include "companions/check/catalogue.h"
 #include "companions/check/checks.h"
 #include "companions/check/columns.h"
 #include "companions/check/settingsfile.h"
@@ -8,6 +9,7 @@
 #include "vocabulary/paper.h"
 
 #include <QHash>
+#include <QSet>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -45,6 +47,13 @@ QStringList keysOf(QStringView group)
     return keys;
 }
 
+/// Whether settings may stand in such groups.
+bool isRead(const QStringList &groups)
+{
+    return groups.size() == 2 && groups.constFirst() == vocabulary::group::korvel
+           && vocabulary::groupNames().contains(groups.constLast());
+}
+
 /// Why no document reads a setting; empty when one does, or when it is a known one that nothing
 /// depends on.
 QString whyUnread(const SettingsFile::Entry &entry)
@@ -58,17 +67,20 @@ QString whyUnread(const SettingsFile::Entry &entry)
     if (entry.groups.size() < 2)
         return filled(phrase::misplaced, QString());
 
-    QStringList groups = {vocabulary::group::language};
-    for (const Method &method : vocabulary::methods())
-        groups.append(method.group);
     const QString &group = entry.groups.constLast();
-    if (!groups.contains(group))
+    if (!vocabulary::groupNames().contains(group))
         return filled(phrase::unknownGroup, shared::inOneLine(group, u' '),
-                      orNearest(group, groups));
+                      orNearest(group, vocabulary::groupNames()));
     const QStringList keys = keysOf(group);
     if (!keys.contains(entry.key))
         return filled(phrase::unknownSetting, orNearest(entry.key, keys));
     return {};
+}
+
+/// A question for what ends a value of several lines.
+QString orLineEnd(const QString &value)
+{
+    return value.contains(u'\n') ? QString(phrase::lineEnd) : QString();
 }
 
 /// How the value of a setting is read, where that is hardly meant.
@@ -80,9 +92,11 @@ void checkValue(const SettingsFile::Entry &entry, QList<Finding> &findings)
     bool isNumber = false;
     const int number = entry.value.toInt(&isNumber);
     if (setting->kind == Kind::Switch && entry.value != vocabulary::on && entry.value != "false"_L1)
-        findings.append(about(entry, Code::NotTrue, entry.key, quoted(entry.value)));
+        findings.append(
+            about(entry, Code::NotTrue, entry.key, quoted(entry.value), orLineEnd(entry.value)));
     if (setting->kind == Kind::Number && !isNumber)
-        findings.append(about(entry, Code::NotANumber, entry.key, quoted(entry.value)));
+        findings.append(
+            about(entry, Code::NotANumber, entry.key, quoted(entry.value), orLineEnd(entry.value)));
     const auto documents = vocabulary::documentsOf(entry.groups.constLast());
     if (entry.key == vocabulary::key::paperWidth && (setting->documents & documents) != 0
         && number > vocabulary::lineWidth)
@@ -91,14 +105,23 @@ void checkValue(const SettingsFile::Entry &entry, QList<Finding> &findings)
                                      QString::number(vocabulary::lineWidth))));
 }
 
-} // namespace
-
-QList<Finding> checkSettings(const SettingsFile &settings)
+/// What the settings say, but for lines that are written wrong.
+QList<Finding> checkEntries(const SettingsFile &settings)
 {
     QList<Finding> findings;
     QHash<QString, Place> groups; // of documents, where their first setting stands
+    QSet<qsizetype> wrongLines;
+    for (const Finding &slip : settings.slips())
+        wrongLines.insert(slip.place.line);
+    QSet<QStringList> unread; // groups that are reported
     for (const SettingsFile::Entry &entry : settings.entries()) {
+        if (wrongLines.contains(entry.place.line))
+            continue;
         if (const QString why = whyUnread(entry); !why.isEmpty()) {
+            // Settings of a group that nothing reads are one mistake.
+            if (!isRead(entry.groups) && unread.contains(entry.groups))
+                continue;
+            unread.insert(entry.groups);
             const QString name = shared::inOneLine(pathOf(entry).join(u'.'), u' ').simplified();
             findings.append(about(entry, Code::UnreadKey, name, why));
             continue;
@@ -108,6 +131,19 @@ QList<Finding> checkSettings(const SettingsFile &settings)
             groups.insert(group, entry.place);
     }
     checkColumns(settings, groups, findings);
+    // Without one of the two settings that are misspelt there, another catalogue is named.
+    if (!unread.contains({vocabulary::group::korvel, vocabulary::group::language}))
+        checkCatalogue(settings, findings);
+    return findings;
+}
+
+} // namespace
+
+QList<Finding> checkSettings(const SettingsFile &settings)
+{
+    QList<Finding> findings = settings.slips();
+    if (!settings.isLost())
+        findings += checkEntries(settings);
     if (const qsizetype count = settings.leftOut(); count > 0) {
         const QString words = filled(phrase::settingsReadOver, QString::number(count));
         findings.append({Place(), Code::Limit, worded(Code::Limit, words), {}, 0});

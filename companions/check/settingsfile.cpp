@@ -1,6 +1,8 @@
 // The settings of a file, gone through group by group.
 #include "companions/check/settingsfile.h"
 
+#include "companions/check/vocabulary.h"
+#include "companions/check/words.h"
 #include "config/tree.h"
 #include "vocabulary/settings.h"
 
@@ -54,11 +56,74 @@ std::vector<Tree::Index> groupsInOrder(const Tree &tree)
 } // namespace
 
 SettingsFile::SettingsFile(const QByteArray &bytes)
-    : KVConfiguration(bytes)
+    : KVConfiguration(QByteArray()) // what is meant is read below
     , lineStarts{0}
 {
     for (qsizetype feed = -1; (feed = bytes.indexOf('\n', feed + 1)) >= 0;)
         lineStarts.append(feed + 1);
+    Notation notation = readNotation(bytes);
+    nothingRead = notation.isLost;
+    for (const Slip &slip : notation.slips)
+        slipsFound.append({placeOf(slip.offset), slip.code, slip.text, slip.setting, 0});
+    read(bytes, notation.edits);
+    if (!nothingRead)
+        checkFirstGroup(bytes, notation);
+}
+
+/// Reads a file as it is meant.
+void SettingsFile::read(const QByteArray &bytes, const QList<Edit> &edits)
+{
+    QByteArray meant;
+    qint64 from = 0; // what is still to be taken over
+    edited.clear();
+    for (const Edit &edit : edits) {
+        if (edit.offset > from)
+            meant += QByteArrayView(bytes).sliced(from, edit.offset - from);
+        meant += edit.text;
+        from = std::max(from, edit.offset + edit.length);
+        edited.append({meant.size(), from});
+    }
+    meant += QByteArrayView(bytes).sliced(from);
+    readBytes(meant, QString(), u"cfg"_s);
+}
+
+/// The first group that holds anything is the only one that is searched, and must be called korvel.
+void SettingsFile::checkFirstGroup(const QByteArray &bytes, Notation &notation)
+{
+    const Tree &tree = *document.tree();
+    if (tree.isEmpty() && notation.hasTop)
+        return; // all is meant to be at its default
+    if (tree.isEmpty())
+        return lose({}, phrase::noSetting, {});
+    const Tree::Index first = tree.groups().front().firstChild;
+    if (first == Tree::none)
+        return lose({}, phrase::noGroup, {});
+    const Tree::Group &group = tree.groups()[first];
+    const QString name = tree.text(group.name);
+    const QString top = korvel::vocabulary::group::korvel;
+    if (name == top)
+        return;
+    const QString nearest = korvel::vocabulary::nearest(name, {top});
+    const QString question = nearest.isEmpty() ? QString() : filled(phrase::didYouMean, top);
+    const QString text = filled(phrase::otherFirstGroup, quoted(name), question);
+    if (nearest.isEmpty())
+        return lose(placeOfMeant(group.place), text, {name});
+    const qint64 offset = offsetOfMeant(group.place);
+    slipsFound.append(
+        {placeOf(offset), Code::NoSettings, worded(Code::NoSettings, text), {name}, 0});
+    QList<Edit> &edits = notation.edits;
+    const auto behind =
+        std::upper_bound(edits.begin(), edits.end(), offset,
+                         [](qint64 at, const Edit &edit) { return at < edit.offset; });
+    edits.insert(behind, {offset, group.name.length, top.toLatin1()});
+    read(bytes, edits);
+}
+
+/// Notes that nothing is read, which is all there is to say.
+void SettingsFile::lose(Place place, const QString &text, const QStringList &group)
+{
+    nothingRead = true;
+    slipsFound = {{place, Code::NoSettings, worded(Code::NoSettings, text), group, 0}};
 }
 
 QList<SettingsFile::Entry> SettingsFile::entries() const
@@ -80,7 +145,8 @@ QList<SettingsFile::Entry> SettingsFile::entries() const
             const QString key = tree.text(setting.name);
             found.append({names[index], key, tree.text(setting.value),
                           counts[names[index] + QStringList(key)]++,
-                          index != Tree::file && tops[index] == searched, placeOf(setting.place)});
+                          index != Tree::file && tops[index] == searched,
+                          placeOfMeant(setting.place)});
         }
     }
     return found;
@@ -117,6 +183,20 @@ Place SettingsFile::placeOf(qint64 offset) const
 {
     const auto next = std::upper_bound(lineStarts.begin(), lineStarts.end(), offset);
     return {next - lineStarts.begin(), offset - *std::prev(next) + 1};
+}
+
+/// Likewise, of a byte of the file as it is meant.
+Place SettingsFile::placeOfMeant(qint64 offset) const { return placeOf(offsetOfMeant(offset)); }
+
+qint64 SettingsFile::offsetOfMeant(qint64 meant) const
+{
+    const auto next =
+        std::upper_bound(edited.begin(), edited.end(), meant,
+                         [](qint64 at, const Behind &behind) { return at < behind.meant; });
+    if (next == edited.begin())
+        return meant;
+    const Behind &last = *std::prev(next);
+    return last.offset + meant - last.meant;
 }
 
 } // namespace korvel::check

@@ -151,14 +151,16 @@ bool checkTag(Context &context, const Tag &tag, bool isRoot)
 QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings)
 {
     const Job read = readJob(job);
-    Context context{read, settings, nullptr, {}, {}, {}, false};
+    // All would be switched off when nothing is read of the settings: that is said of them alone.
+    const SettingsFile *usable = settings && settings->isLost() ? nullptr : settings;
+    Context context{read, usable, nullptr, {}, {}, {}, false};
     gatherContents(context);
     for (const Fault &fault : read.faults)
         context.findings.append({fault.place, fault.code, fault.text, {}, 0});
     const bool goesOn = std::all_of(read.tags.begin(), read.tags.end(), [&](const Tag &tag) {
         return checkTag(context, tag, &tag == &read.tags.constFirst());
     });
-    if (settings)
+    if (usable)
         checkLines(context, read.tags);
     if (!context.method && goesOn && read.faults.isEmpty()) {
         context.findings.clear(); // all of them are before the method that is missing

@@ -89,6 +89,19 @@ const Setting *findSetting(QAnyStringView key)
     return find(settings(), [&](const Setting &row) { return row.key == key; });
 }
 
+const QStringList &groupNames()
+{
+    static const QStringList names = [] {
+        QStringList all = {group::language};
+        for (const Method &method : methods()) {
+            if (!all.contains(method.group))
+                all.append(method.group);
+        }
+        return all;
+    }();
+    return names;
+}
+
 Documents documentsOf(QAnyStringView group)
 {
     Documents documents = 0;

@@ -6,6 +6,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <iterator>
 
@@ -60,6 +61,9 @@ QList<Attribute> attributesOf(QAnyStringView element, Document document);
 
 /// The setting of that key; null when there is none.
 const Setting *findSetting(QAnyStringView key);
+
+/// The groups that may have settings, in that of the file: "language" and those of documents.
+const QStringList &groupNames();
 
 /// The documents that read a group of the settings; none for a group that no document reads.
 Documents documentsOf(QAnyStringView group);

@@ -25,6 +25,8 @@ struct CheckCase
         , jobLines(takeRemarks(job))
         , settingsLines(takeRemarks(settings))
     {
+        if (!settings.isEmpty())
+            blankRemarks();
     }
 
     [[nodiscard]] QStringList findings() const // as remarks expect them
@@ -55,8 +57,8 @@ struct CheckCase
     }
 
     /// Remarks as they are written, a line each: a comment, or an instruction where the words have
-    /// "--". Settings know neither; there it is a group that holds nothing. One may go on in the
-    /// next line.
+    /// "--". Settings know neither; there it is a group that holds nothing, and blank when the
+    /// settings are read. One may go on in the next line.
     [[nodiscard]] QString remarks(const QString &kind, const QStringList &all) const
     {
         QString lines;
@@ -71,17 +73,32 @@ struct CheckCase
 private:
     static QString withoutEnding(const QString &path) { return path.left(path.lastIndexOf('.')); }
 
-    QStringList takeRemarks(const QByteArray &bytes)
+    static const QRegularExpression &remark()
     {
-        static const QRegularExpression remark(
+        static const QRegularExpression expression(
             R"(\n?[ ]*(?:<!-- |<\?)?(expect|near): (.*?)(?: -->| \?>| \{\};))",
             QRegularExpression::DotMatchesEverythingOption);
+        return expression;
+    }
+
+    void blankRemarks()
+    {
+        QString text = QString::fromLatin1(settings);
+        for (const auto &match : remark().globalMatch(QString(text)))
+            for (qsizetype i = match.capturedStart(); i < match.capturedEnd(); ++i)
+                if (text[i] != '\n')
+                    text[i] = ' ';
+        settings = text.toLatin1();
+    }
+
+    QStringList takeRemarks(const QByteArray &bytes)
+    {
         static const QRegularExpression lineEnd("\n *");
-        QString text = QString::fromUtf8(bytes);
-        for (const auto &match : remark.globalMatch(text))
+        QString text = QString::fromLatin1(bytes); // a byte order mark is part of the first line
+        for (const auto &match : remark().globalMatch(text))
             (match.captured(1) == "near" ? near : expected)
-                .append(match.captured(2).replace(lineEnd, " "));
-        return text.remove(remark).trimmed().split('\n');
+                .append(QString::fromUtf8(match.captured(2).toLatin1()).replace(lineEnd, " "));
+        return text.remove(remark()).trimmed().split('\n');
     }
 
     /// Between what two texts begin with and what they end with.

@@ -46,8 +46,8 @@ private slots:
         const Run run =
             checker(QStringList{"--json", "--settings",
                                 top
-                                    + "tests/golden/cases/settings/"
-                                      "only-the-first-top-level-group-counts/korvel.conf"}
+                                    + "tests/golden/cases/two-methods/"
+                                      "a-fiscal-document-hears-of-no-printer/korvel.conf"}
                     + filesBelow(top + "tests/golden/cases", "job.xml"));
         VERIFY_ENDED(run, 1);
         const qsizetype count = run.standardOutput.count('\n');

@@ -80,7 +80,9 @@ private slots:
             {"korvel.docs.paperWidth", "korvel.docs.paperWidth.30"}, "No document");
         row("a key outside a document's group", "paperWidth = 30;",
             {"korvel.paperWidth", "korvel.paperWidth.30"}, "No document");
-        row("the keys of the language", "language: { basedir = /; file = /; };", {}, {});
+        row("the keys of the language", "language: { basedir = /; file = ; };", {}, {});
+        row("a catalogue that is not there", "language: { basedir = /; file = /; };",
+            {"korvel.language.file", "korvel.language.file./"}, "catalogue");
         row("another key of the language", "language: { name = it; };",
             {"korvel.language.name", "korvel.language.name.it"}, "No document");
         row("a key too deep", doc("inner: { paperWidth = 30; };"),

@@ -1,0 +1,11 @@
+// Whether the catalogue of labels that settings name is there.
+#pragma once
+
+#include "companions/check/settingsfile.h"
+
+namespace korvel::check {
+
+/// Notes a catalogue that cannot be loaded, at the setting that names it.
+void checkCatalogue(const SettingsFile &settings, QList<Finding> &findings);
+
+} // namespace korvel::check
