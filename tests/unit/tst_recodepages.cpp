@@ -1,0 +1,188 @@
+// Every character through every code page of the machine: columns, commands, and what comes back.
+#include "companions/preview/decoder.h"
+#include "companions/recode/codepage.h"
+#include "companions/recode/substitutes.h"
+#include "support/streams.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <utility>
+
+using namespace korvel::recode;
+using korvel::preview::Command;
+
+namespace {
+
+/// Names that any iconv() may know; those that it knows here are found by trying.
+QByteArrayList names()
+{
+    QByteArrayList all = {"ASCII",           "ISO_8859-1",  "KOI8-R",    "KOI8-U", "KOI8-T",
+                          "KOI8-RU",         "MACINTOSH",   "MAC-IS",    "MAC-UK", "MACCYRILLIC",
+                          "TIS-620",         "GEORGIAN-PS", "ARMSCII-8", "RK1048", "PT154",
+                          "HP-ROMAN8",       "HP-ROMAN9",   "HP-GREEK8", "MIK",    "VISCII",
+                          "GEORGIAN-ACADEMY"};
+    for (int i = 1; i <= 16; ++i)
+        all.append("ISO-8859-" + QByteArray::number(i));
+    for (int i = 1; i < 1300; ++i)
+        all.append("CP" + QByteArray::number(i));
+    return all;
+}
+
+/// The code pages that this machine has, without UTF-8.
+const QList<CodePage> &pages()
+{
+    static const QList<CodePage> all = [] {
+        QList<CodePage> found;
+        for (const QByteArray &name : names()) {
+            if (const auto page = CodePage::named(name))
+                found.append(*page);
+        }
+        return found;
+    }();
+    return all;
+}
+
+/// The basic plane without the halves of pairs, and some of those beyond.
+QString everyCharacter()
+{
+    QString text;
+    for (char32_t c = 0; c < 0x10000; ++c) {
+        if (!QChar::isSurrogate(c))
+            text += QChar(static_cast<char16_t>(c));
+    }
+    for (const char32_t c : {0x10000U, 0x1D538U, 0x1F355U, 0x20000U, 0xE0001U, 0x10FFFFU})
+        text += QChar::fromUcs4(c);
+    return text;
+}
+
+bool isOfTheLanguage(QChar c)
+{
+    return c == u')' || c == u'(' || c == u'/' || c == u'=' || c.unicode() < 0x20
+           || (c.unicode() >= 0x7F && c.unicode() < 0xA0);
+}
+
+/// The kinds of a stream's commands, each with its blanks and texts as the code page has them.
+QStringList commandsOf(const QByteArray &stream, const CodePage &page)
+{
+    QStringList all;
+    korvel::preview::Decoder decoder(stream);
+    while (const auto command = decoder.next()) {
+        QStringList parts = {QString::number(int(command->kind)),
+                             QString::number(int(command->section)),
+                             QString::number(command->line)};
+        for (const QByteArray &text :
+             {QByteArray(command->spaces, ' ') + command->content, command->department,
+              command->amount, command->quantity, command->description})
+            parts.append(page.decode(text));
+        all.append(parts.join(u'|'));
+    }
+    return all;
+}
+
+} // namespace
+
+class TestRecodePages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(pages().size() > 40); }
+
+    /// One byte for each UTF-16 unit; what is not lost comes back whole, what is lost comes back as
+    /// its substitute.
+    void everyCharacterKeepsItsColumns()
+    {
+        const QString text = everyCharacter();
+        for (const CodePage &page : pages()) {
+            QList<Loss> losses;
+            const QByteArray bytes = page.encode(text, &losses);
+            QCOMPARE(bytes.size(), text.size());
+
+            QString expected = text;
+            const qsizetype second = text.indexOf(u'\n') + 1; // line; all that is lost is in it
+            bool inPlace = true;
+            for (const Loss &loss : std::as_const(losses)) {
+                const qsizetype from = second + loss.column - 1;
+                QString character;
+                character += QChar::fromUcs4(loss.character); // a byte order mark, too
+                const qsizetype units = loss.substitute.size();
+                inPlace = inPlace && loss.line == 2 && character == text.mid(from, units);
+                std::copy_n(loss.substitute.begin(), units, expected.begin() + from);
+            }
+            QVERIFY2(inPlace, qPrintable(page.name()));
+            QVERIFY2(page.decode(bytes) == expected, qPrintable(page.name()));
+        }
+    }
+
+    void noSubstituteIsOfThePrintersLanguage()
+    {
+        const QString text = everyCharacter();
+        for (const CodePage &page : pages()) {
+            QList<Loss> losses;
+            page.encode(text, &losses);
+            QVERIFY(!losses.isEmpty());
+            QVERIFY2(std::none_of(losses.cbegin(), losses.cend(),
+                                  [](const Loss &loss) {
+                                      return std::any_of(loss.substitute.begin(),
+                                                         loss.substitute.end(), isOfTheLanguage);
+                                  }),
+                     qPrintable(page.name()));
+        }
+    }
+
+    /// A code page has what its bytes stand for, and nothing of that is lost.
+    void everyByteComesBack()
+    {
+        for (const CodePage &page : pages()) {
+            for (int i = 0; i < 256; ++i) {
+                const QString character = page.decode(QByteArray(1, static_cast<char>(i)));
+                QCOMPARE(character.size(), 1);
+                if (i < 128)
+                    QCOMPARE(character.front().unicode(), char16_t(i));
+                if (character.front() == QChar::ReplacementCharacter)
+                    continue;
+                QList<Loss> losses;
+                QCOMPARE(page.decode(page.encode(character, &losses)), character);
+                QVERIFY2(losses.isEmpty(), qPrintable(page.name()));
+            }
+        }
+    }
+
+    void likenessEnds()
+    {
+        int most = 0;
+        for (char32_t c = 0; c < 0x110000; ++c) {
+            int steps = 0;
+            for (char16_t like = likeCharacter(c); like != 0 && steps < 9;)
+                like = (++steps, likeCharacter(like));
+            most = std::max(most, steps);
+        }
+        QCOMPARE(most, 3); // a letter with two accents, and the letter alone
+    }
+
+    /// Streams in other bytes are the same commands with the same texts, but for what is lost.
+    /// Beyond the characters that code pages have, the first in the plane will do.
+    void commandsStayCommands()
+    {
+        const auto utf8 = CodePage::named("UTF-8");
+        const QString text = everyCharacter().left(0x2600).remove(u'\n').remove(u')');
+        QByteArray everything;
+        for (qsizetype i = 0; i < text.size(); i += 64) {
+            const QByteArray piece = text.mid(i, 64).toUtf8();
+            everything += "=K\n=C1\n=R1/$120/*2/(" + piece + ")\n=S\r\n=V/$5\r\n=T1\n=o\n"
+                          + line(piece) + line("a)" + piece) + "=?" + piece + "\n=o\n";
+        }
+        const QByteArrayList streams = brokenStreams + QByteArrayList{everything};
+        for (const CodePage &page : pages()) {
+            for (const QByteArray &stream : streams) {
+                const QByteArray sent = recoded(stream, *utf8, page);
+                const QString substituted = page.decode(page.encode(utf8->decode(stream)));
+                QCOMPARE(commandsOf(sent, page), commandsOf(substituted.toUtf8(), *utf8));
+            }
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestRecodePages)
+#include "tst_recodepages.moc"
