@@ -1,5 +1,6 @@
 // The attributes of an element: missing, unread, and each by what it is to the document.
 #include "companions/check/context.h"
+#include "companions/check/mojibake.h"
 #include "companions/check/words.h"
 
 #include <algorithm>
@@ -50,7 +51,8 @@ void checkPrinted(Context &context, const Tag &tag, const Attribute &row,
                   const JobAttribute &attribute)
 {
     checkText(context, tag, attribute);
-    if (row.value == Value::Amount)
+    const bool mojibake = !beforeMojibake(attribute.value).isEmpty(); // and so no number
+    if (row.value == Value::Amount && !mojibake)
         checkAmount(context, attribute);
     else if (row.value == Value::Address)
         checkAddress(context, attribute);

@@ -3,6 +3,10 @@
 
 #include "companions/check/findings.h"
 
+namespace korvel::recode {
+class CodePage;
+}
+
 namespace korvel::check {
 
 class SettingsFile;
@@ -12,8 +16,10 @@ class SettingsFile;
  *
  * @param job      bytes of any kind
  * @param settings when given, also what the settings switch off, and lines wider than the paper
+ * @param charset  when given, also what this code page of the printer lacks
  */
-QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings);
+QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings,
+                        const recode::CodePage *charset = nullptr);
 
 /// What is wrong with a settings file, in its order.
 QList<Finding> checkSettings(const SettingsFile &settings);

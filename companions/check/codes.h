@@ -64,6 +64,8 @@ enum class Code {
     ControlCharacter,
     Totale,
     Address,
+    Mojibake,
+    NotInCharset,
 
     // The job beside its settings.
     SwitchedOff,
@@ -279,6 +281,17 @@ inline constexpr CodeInfo codeTable[] = {
      "\"%1\" has an empty part: what follows is not printed"_L1,
      "An address has an empty part between two commas. What follows it is not printed."_L1,
      "Leave the empty part out; one with a blank prints an empty line."_L1},
+    {Code::Mojibake, Level::Warning, "mojibake"_L1,
+     "\"%1\" is %2, probably %3: UTF-8 was read as Latin-1 and saved again"_L1,
+     "The text has two or three odd characters in place of an accented letter or a sign. Its "
+     "UTF-8 was read in another encoding and saved again. It prints as it is."_L1,
+     "Correct the text where it is kept, and read it as UTF-8 on its way into the job."_L1},
+    {Code::NotInCharset, Level::Warning, "not-in-charset"_L1,
+     "\"%1\" has what %2 lacks: %3"_L1,
+     "A text that is printed or registered has a character that the printer's code page lacks. "
+     "Another one is printed in its place."_L1,
+     "Send a character that the code page has, or set the printer to another one; --charset "
+     "names it."_L1},
 
     // The job beside its settings.
     {Code::SwitchedOff, Level::Warning, "switched-off"_L1,

@@ -4,6 +4,7 @@
 #include "companions/check/findings.h"
 #include "companions/check/settingsfile.h"
 #include "companions/check/vocabulary.h"
+#include "companions/recode/codepage.h"
 
 #include <QHash>
 
@@ -20,6 +21,7 @@ struct Context
     QHash<qsizetype, QStringList> spelledOut; // by tag: elements in it that stand for attributes
     QChar decimalMark;                        // of the first amount that has one
     bool mixesMarks = false;                  // once that is said
+    const recode::CodePage *charset = nullptr; // of the printer; null when none is given
 
     /// Notes a finding that says the wording of its code with these words.
     template<typename... Words>
@@ -64,6 +66,14 @@ void checkAttributes(Context &context, const Tag &tag, const vocabulary::Element
 void noteUnread(Context &context, const Tag &tag, const JobAttribute &attribute,
                 const QStringList &unused);
 
+// characters.cpp
+
+/// The characters of a text that is printed or registered: those that are control characters, that
+/// came of a wrong encoding, or that the printer's code page lacks.
+///
+/// @param bearer words for what has a control character
+void checkCharacters(Context &context, const JobAttribute &attribute, const QString &bearer);
+
 // texts.cpp
 
 /// What is printed in a line.
@@ -71,9 +81,6 @@ void checkText(Context &context, const Tag &tag, const JobAttribute &attribute);
 
 /// What is printed in lines, parted at commas.
 void checkAddress(Context &context, const JobAttribute &attribute);
-
-/// Whether a value has a control character other than a line break.
-bool hasControl(const JobAttribute &attribute);
 
 // amounts.cpp
 

@@ -3,6 +3,7 @@
 #include "companions/check/explain.h"
 #include "companions/check/schema.h"
 #include "companions/check/settingsfile.h"
+#include "companions/recode/codepage.h"
 #include "companions/shared/commandline.h"
 #include "companions/shared/files.h"
 #include "companions/shared/oneline.h"
@@ -17,6 +18,7 @@
 #include <memory>
 #include <optional>
 
+using korvel::recode::CodePage;
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
 
@@ -32,6 +34,8 @@ const QCommandLineOption settingsOption(u"settings"_s,
 const QCommandLineOption ignoreOption(u"ignore"_s,
                                       u"Leave out findings of these codes, parted by commas."_s,
                                       u"codes"_s);
+const QCommandLineOption
+    charsetOption(u"charset"_s, u"Say what the printer's code page lacks, too."_s, u"name"_s);
 const QCommandLineOption strictOption(u"strict"_s, u"Let warnings count as errors."_s);
 const QCommandLineOption jsonOption(u"json"_s, u"Write a JSON object for each finding."_s);
 const QCommandLineOption listCodesOption(u"list-codes"_s, u"List all codes."_s);
@@ -125,10 +129,21 @@ std::optional<int> tellAbout(const QCommandLineParser &parser)
     return row ? writeOut(check::explained(*row), Clean) : trouble(check::noSuchCode(name));
 }
 
+int noCodePage(const QString &name)
+{
+    return trouble(u"there is no code page \""_s + name
+                   + u"\"; take UTF-8, or one that iconv knows of one byte a character, with ASCII "
+                     "below 128, such as cp858"_s);
+}
+
 /// Checks the settings, then the jobs, as far as they can be read.
 int checkFiles(const QCommandLineParser &parser, Report &report)
 {
     QString error;
+    const QString charsetName = parser.value(charsetOption);
+    const auto charset = CodePage::named(charsetName.toUtf8());
+    if (parser.isSet(charsetOption) && !charset)
+        return noCodePage(charsetName);
     std::unique_ptr<check::SettingsFile> settings;
     if (parser.isSet(settingsOption)) {
         const QString path = parser.value(settingsOption);
@@ -144,7 +159,7 @@ int checkFiles(const QCommandLineParser &parser, Report &report)
     for (const QString &path : parser.positionalArguments()) {
         const auto job = readWhole(path, largestFile, error);
         if (job)
-            report.add(path, checkJob(*job, settings.get()));
+            report.add(path, checkJob(*job, settings.get(), charset ? &*charset : nullptr));
         else
             report.status = trouble(path + u": "_s + error);
     }
@@ -158,8 +173,8 @@ int run(const QStringList &arguments)
         u"Says what is wrong with print jobs, before they are printed."_s);
     parser.addPositionalArgument(u"JOB"_s, u"A job for korvel-print; - for standard input."_s,
                                  u"[JOB...]"_s);
-    parser.addOptions({settingsOption, ignoreOption, strictOption, jsonOption, listCodesOption,
-                       explainOption, schemaOption});
+    parser.addOptions({settingsOption, charsetOption, ignoreOption, strictOption, jsonOption,
+                       listCodesOption, explainOption, schemaOption});
     if (const auto status = readCommandLine(parser, arguments))
         return *status;
     if (const auto status = tellAbout(parser))

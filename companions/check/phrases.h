@@ -99,6 +99,10 @@ inline constexpr Phrase slash{"\"/\""};
 inline constexpr Phrase attributeHas{"\"%1\" of <%2> has"};
 inline constexpr Phrase saleRowHas{"\"%1\" of a sale row is %2, with"};
 
+// NotInCharset: a character, how it is shown, and what stands in its place; and how many more
+inline constexpr Phrase replacedCharacter{"%1 prints as %2"};
+inline constexpr Phrase moreCharacters{", and %1 more"};
+
 // SwitchedOff
 inline constexpr Phrase elementNotPrinted{"<%1> is not printed"};
 inline constexpr Phrase attributeNotPrinted{"\"%1\" is not printed"};

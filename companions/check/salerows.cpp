@@ -114,9 +114,7 @@ void checkRegistered(Context &context, Value kind, const JobAttribute &attribute
     const QString value = quoted(attribute.value);
     if (const auto character = endOfCommand(attribute); !character.isEmpty())
         context.note(attribute.place, Code::EndsCommand, attribute.name, value, character);
-    if (hasControl(attribute))
-        context.note(attribute.place, Code::ControlCharacter,
-                     filled(phrase::saleRowHas, attribute.name, value));
+    checkCharacters(context, attribute, filled(phrase::saleRowHas, attribute.name, value));
     if (kind == Value::RegisteredCount && !isAboveZero(attribute.value))
         context.note(attribute.place, Code::FiscalQuantity, attribute.name, value);
     if (attribute.name == vocabulary::attribute::department && !isDepartment(attribute.value))

@@ -148,12 +148,13 @@ bool checkTag(Context &context, const Tag &tag, bool isRoot)
 
 } // namespace
 
-QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings)
+QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings,
+                        const recode::CodePage *charset)
 {
     const Job read = readJob(job);
     // All would be switched off when nothing is read of the settings: that is said of them alone.
     const SettingsFile *usable = settings && settings->isLost() ? nullptr : settings;
-    Context context{read, usable, nullptr, {}, {}, {}, false};
+    Context context{read, usable, nullptr, {}, {}, {}, false, charset};
     gatherContents(context);
     for (const Fault &fault : read.faults)
         context.findings.append({fault.place, fault.code, fault.text, {}, 0});

@@ -14,9 +14,7 @@ void checkText(Context &context, const Tag &tag, const JobAttribute &attribute)
         context.note(attribute.place, Code::LineBreak, attribute.name, tag.name);
     if (attribute.value.contains(u')'))
         context.note(attribute.place, Code::Parenthesis, attribute.name, tag.name);
-    if (hasControl(attribute))
-        context.note(attribute.place, Code::ControlCharacter,
-                     filled(phrase::attributeHas, attribute.name, tag.name));
+    checkCharacters(context, attribute, filled(phrase::attributeHas, attribute.name, tag.name));
     if (attribute.value.contains(vocabulary::reservedWord))
         context.note(attribute.place, Code::Totale, attribute.name, tag.name);
 }
@@ -31,15 +29,6 @@ void checkAddress(Context &context, const JobAttribute &attribute)
                                   [](const QString &part) { return !part.trimmed().isEmpty(); });
     if (lost)
         context.note(attribute.place, Code::Address, attribute.name);
-}
-
-bool hasControl(const JobAttribute &attribute)
-{
-    return attribute.tab
-           || std::any_of(attribute.value.begin(), attribute.value.end(), [](QChar c) {
-                  return c.category() == QChar::Other_Control && c != u'\n' && c != u'\r'
-                         && c != u'\t';
-              });
 }
 
 } // namespace korvel::check

@@ -3,6 +3,7 @@
 
 #include "companions/check/checks.h"
 #include "companions/check/settingsfile.h"
+#include "companions/recode/codepage.h"
 #include "support/bytes.h"
 
 #include <QRegularExpression>
@@ -15,6 +16,7 @@ struct CheckCase
 {
     QByteArray job, settings;            // empty when there are none
     QStringList expected;                // what its remarks expect: 3:5 error no-method "words"
+    QString charset;                     // the printer's code page; empty for none
     QStringList near;                    // the files from which it differs in one thing
     QStringList jobLines, settingsLines; // without remarks
 
@@ -32,10 +34,12 @@ struct CheckCase
     [[nodiscard]] QStringList findings() const // as remarks expect them
     {
         const korvel::check::SettingsFile read(settings);
+        const auto page = korvel::recode::CodePage::named(charset.toUtf8());
         QStringList found;
         for (const korvel::check::Finding &finding :
-             job.isEmpty() ? checkSettings(read)
-                           : checkJob(job, settings.isEmpty() ? nullptr : &read))
+             job.isEmpty()
+                 ? checkSettings(read)
+                 : checkJob(job, settings.isEmpty() ? nullptr : &read, page ? &*page : nullptr))
             found.append(QString("%1:%2 ").arg(finding.place.line).arg(finding.place.column)
                          + levelName(infoOf(finding.code).level) + ' ' + infoOf(finding.code).name
                          + " \"" + finding.text + '"');
@@ -76,7 +80,7 @@ private:
     static const QRegularExpression &remark()
     {
         static const QRegularExpression expression(
-            R"(\n?[ ]*(?:<!-- |<\?)?(expect|near): (.*?)(?: -->| \?>| \{\};))",
+            R"(\n?[ ]*(?:<!-- |<\?)?(expect|near|charset): (.*?)(?: -->| \?>| \{\};))",
             QRegularExpression::DotMatchesEverythingOption);
         return expression;
     }
@@ -95,9 +99,14 @@ private:
     {
         static const QRegularExpression lineEnd("\n *");
         QString text = QString::fromLatin1(bytes); // a byte order mark is part of the first line
-        for (const auto &match : remark().globalMatch(text))
-            (match.captured(1) == "near" ? near : expected)
-                .append(QString::fromUtf8(match.captured(2).toLatin1()).replace(lineEnd, " "));
+        for (const auto &match : remark().globalMatch(text)) {
+            const QString words =
+                QString::fromUtf8(match.captured(2).toLatin1()).replace(lineEnd, " ");
+            if (match.captured(1) == "charset")
+                charset = words;
+            else
+                (match.captured(1) == "near" ? near : expected).append(words);
+        }
         return text.remove(remark()).trimmed().split('\n');
     }
 

@@ -26,6 +26,13 @@ inline const QByteArray error =
     ":2:27: error: no document knows <recipe>: nothing is printed; did you "
     "mean \"receipe\"? [unknown-element]\n";
 
+inline const QByteArray jobWithAccents =
+    "<job>\n<method name=\"printSold\"/><receipe quantity=\"1\" description=\"Caffè\" "
+    "amount=\"1.20\"/></job>\n";
+inline const QByteArray inAscii =
+    "accents.xml:2:49: warning: \"description\" has what ascii lacks: \"è\" (U+00E8) prints as "
+    "\"e\" [not-in-charset]\n";
+
 /// A folder with a job of each kind, and settings.
 class Desk
 {
@@ -35,6 +42,7 @@ public:
         writeFile(path("clean.xml"), cleanJob);
         writeFile(path("warning.xml"), jobWithWarning);
         writeFile(path("error.xml"), jobWithError);
+        writeFile(path("accents.xml"), jobWithAccents);
         writeFile(path("korvel.conf"), "korvel:\n{\n    solddoc:\n    {\n        printDate = yes;\n"
                                        "    };\n};\n");
     }

@@ -31,6 +31,11 @@ private slots:
             "warning.xml" + warning + "warning.xml" + warning);
         row("a name as it was given", {"./warning.xml"}, 0, "./warning.xml" + warning);
         row("a name behind --", {"--", "error.xml"}, 1, "error.xml" + error);
+        row("a code page that has every character", {"--charset", "cp858", "accents.xml"}, 0, "");
+        row("a code page that lacks one", {"--charset=ascii", "accents.xml"}, 0, inAscii);
+        row("a code page that lacks one, strict", {"--charset", "ascii", "--strict", "accents.xml"},
+            1, inAscii);
+        row("UTF-8 lacks none", {"--charset", "UTF-8", "accents.xml"}, 0, "");
         row("settings alone", {"--settings", "korvel.conf"}, 0, settingsWarning);
         row("settings alone, strict", {"--settings=korvel.conf", "--strict"}, 1, settingsWarning);
         row("settings, then jobs", {"error.xml", "--settings", "korvel.conf"}, 1,
@@ -58,6 +63,14 @@ private slots:
         QTest::newRow("settings without a file") << QStringList{"error.xml", "--settings"};
         QTest::newRow("a value for an option that has none")
             << QStringList{"--strict=yes", "error.xml"};
+        QTest::newRow("a code page without a name") << QStringList{"error.xml", "--charset", ""};
+        QTest::newRow("an unknown code page") << QStringList{"--charset", "cp999999", "error.xml"};
+        QTest::newRow("a code page of several bytes a character")
+            << QStringList{"--charset", "cp932", "error.xml"};
+        QTest::newRow("a code page with a way to convert")
+            << QStringList{"--charset", "cp858//TRANSLIT", "error.xml"};
+        QTest::newRow("explain and a code page")
+            << QStringList{"--explain", "limit", "--charset", "cp858"};
         QTest::newRow("schema and a job") << QStringList{"--schema", "error.xml"};
         QTest::newRow("schema in another language") << QStringList{"--schema", "dtd"};
         QTest::newRow("schema in no language") << QStringList{"--schema", ""};

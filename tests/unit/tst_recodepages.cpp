@@ -158,7 +158,7 @@ private slots:
                 like = (++steps, likeCharacter(like));
             most = std::max(most, steps);
         }
-        QCOMPARE(most, 3); // a letter with two accents, and the letter alone
+        QCOMPARE(most, 3); // a letter with three accents
     }
 
     /// Streams in other bytes are the same commands with the same texts, but for what is lost.
