@@ -77,6 +77,31 @@ qsizetype firstWrong(const QString &text, const char *encoding, const QByteArray
     return std::max<qsizetype>(text.indexOf(QChar::ReplacementCharacter), 0);
 }
 
+/// Whether an encoding has more than a byte even for ASCII.
+bool isWide(QStringDecoder &decoder)
+{
+    const bool wide = QString(decoder("<")) != "<"_L1;
+    decoder.resetState();
+    return wide;
+}
+
+/// Whether bytes are a text in UTF-8 and have more in them than ASCII.
+bool isUtf8(const QByteArray &bytes)
+{
+    return bytes.isValidUtf8() && std::any_of(bytes.begin(), bytes.end(), [](char byte) {
+               return static_cast<unsigned char>(byte) >= 0x80;
+           });
+}
+
+/// Notes that the renderer ends at the name of an encoding that the job is not in.
+void noteOther(QList<Fault> &faults, const QByteArray &name, const char *written)
+{
+    faults.append({Code::Encoding,
+                   {},
+                   worded(Code::Encoding, filled(phrase::otherEncoding, QString::fromLatin1(name),
+                                                 QString::fromLatin1(written)))});
+}
+
 } // namespace
 
 QString decoded(const QByteArray &bytes, QList<Fault> &faults)
@@ -87,7 +112,7 @@ QString decoded(const QByteArray &bytes, QList<Fault> &faults)
     const QByteArray name = namedEncoding(head);
     // The renderer starts anew with the encoding that is named, unless it does not know it.
     if (marked && QStringDecoder(name.constData()).isValid() && inAnother(*marked, name, bytes)) {
-        faults.append({Code::Encoding, {}, worded(Code::Encoding, phrase::otherEncoding)});
+        noteOther(faults, name, QStringConverter::nameForEncoding(*marked));
         return {};
     }
     QStringDecoder decoder = marked ? QStringDecoder(*marked)
@@ -97,6 +122,17 @@ QString decoded(const QByteArray &bytes, QList<Fault> &faults)
         faults.append(
             {Code::Encoding, {}, worded(Code::Encoding, filled(phrase::unknownEncoding, unknown))});
         return {};
+    }
+    if (!marked && isWide(decoder)) { // though the name could be read
+        noteOther(faults, name, "UTF-8");
+        return {};
+    }
+    if (!marked && isUtf8(bytes) && qstrcmp(decoder.name(), "UTF-8") != 0) {
+        faults.append(
+            {Code::Encoding,
+             {},
+             worded(Code::Encoding, filled(phrase::namedWrongly, QString::fromLatin1(name)))});
+        return QString::fromUtf8(bytes);
     }
     QString text = decoder(bytes);
     if (decoder.hasError()) {

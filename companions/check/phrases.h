@@ -31,10 +31,13 @@ inline constexpr Phrase otherVersion{"XML %1 is not read; write 1.0"};
 
 // Encoding
 inline constexpr Phrase otherEncoding{
-    "another encoding is named than the job is written in: the paper ends here"};
+    "%1 is named, but the job is written in %2: the paper ends here; name %2, or none"};
+inline constexpr Phrase namedWrongly{
+    "%1 is named, but the job is written in UTF-8: accents print wrongly; name UTF-8, or none"};
 inline constexpr Phrase unknownEncoding{
     "the checker cannot read the encoding \"%1\": nothing else was checked; write UTF-8"};
-inline constexpr Phrase wrongBytes{"not %1: the bytes here print as a replacement character"};
+inline constexpr Phrase wrongBytes{"not %1: the bytes here print as a replacement character; save "
+                                   "the job as UTF-8, or name what it is written in"};
 
 // Limit
 inline constexpr Phrase nestedElements{

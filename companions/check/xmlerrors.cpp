@@ -1,6 +1,7 @@
 // The words for each error of the XML parser.
 #include "companions/check/xmlerrors.h"
 
+#include "companions/check/entitynames.h"
 #include "companions/shared/oneline.h"
 
 #include <algorithm>
@@ -52,6 +53,30 @@ bool isForbidden(QByteArrayView text)
            || text.startsWith("\xEF\xBF\xBF");
 }
 
+/// Whether a text begins with a quote that people write, and XML does not know.
+bool beginsWithOtherQuote(QByteArrayView text)
+{
+    const char32_t first = firstOf(text);
+    constexpr char32_t quotes[] = {U'‘', U'’', U'“', U'”', U'„', U'«', U'»'};
+    return std::find(std::begin(quotes), std::end(quotes), first) != std::end(quotes);
+}
+
+/// How the character of a reference can be written: "è" or &#232;.
+QString writtenFor(QStringView name)
+{
+    const QChar character = namedCharacter(name);
+    const QString number = u"&#"_s + QString::number(character.unicode()) + u';';
+    if (character.isSpace())
+        return number;
+    return u'"' + QString(character) + u"\" or "_s + number;
+}
+
+// In place of a number of bytes: the fault begins at the reference, the tag or the quote that
+// stands last in front of the error.
+constexpr qsizetype toReference = -1;
+constexpr qsizetype toTag = -2;
+constexpr qsizetype toQuote = -3;
+
 /// What stands around an error.
 struct Surroundings
 {
@@ -60,6 +85,8 @@ struct Surroundings
     bool inRoot;
     bool inTag = false;   // behind the "<" of one and before its ">", in no value
     bool inValue = false; // of an attribute
+    qsizetype tag = 0;    // where the last tag begins
+    qsizetype quote = 0;  // and the last value of it, with its quote
 
     Surroundings(QByteArrayView document, qsizetype offset, bool isInRoot)
         : before(document.first(offset))
@@ -69,17 +96,31 @@ struct Surroundings
         const qsizetype start = before.lastIndexOf('<');
         if (start < 0 || before.sliced(start).startsWith("<!"))
             return;
-        char quote = 0;
-        for (const char c : before.sliced(start + 1)) {
-            if (quote == 0 && c == '>')
+        tag = start;
+        char open = 0;
+        for (qsizetype i = start + 1; i < offset; ++i) {
+            const char c = before[i];
+            if (open == 0 && c == '>')
                 return;
-            if (quote == c)
-                quote = 0;
-            else if (quote == 0 && (c == '"' || c == '\''))
-                quote = c;
+            if (open == c) {
+                open = 0;
+            } else if (open == 0 && (c == '"' || c == '\'')) {
+                open = c;
+                quote = i;
+            }
         }
-        inTag = quote == 0;
-        inValue = quote != 0;
+        inTag = open == 0;
+        inValue = open != 0;
+    }
+
+    /// Where a fault begins that is so far in front of the error.
+    [[nodiscard]] qsizetype startOf(qsizetype lead) const
+    {
+        if (lead == toReference)
+            return before.lastIndexOf('&');
+        if (lead == toTag)
+            return tag;
+        return lead == toQuote ? quote : before.size() - lead;
     }
 
     [[nodiscard]] bool inReference() const
@@ -87,6 +128,24 @@ struct Surroundings
         const auto start = std::find_if_not(before.rbegin(), before.rend(),
                                             [](char c) { return isOfName(c) || c == '#'; });
         return start != before.rend() && *start == '&';
+    }
+
+    /// Whether the value goes on beyond its line.
+    [[nodiscard]] bool leavesLine() const { return before.sliced(quote).contains('\n'); }
+
+    /// Behind a value, which its quote ends.
+    [[nodiscard]] bool isBehindValue() const
+    {
+        return inTag && (before.endsWith('"') || before.endsWith('\''));
+    }
+
+    /// Behind a value that took in the name of the next: number="1 name="
+    [[nodiscard]] bool tookNext() const { return before.chopped(1).endsWith('='); }
+
+    [[nodiscard]] bool hasAttributeBehind() const
+    {
+        const auto end = std::find_if_not(behind.begin(), behind.end(), isOfName);
+        return end != behind.begin() && end != behind.end() && (*end == '=' || isBlank(*end));
     }
 
     [[nodiscard]] bool isUnquoted() const { return inTag && before.trimmed().endsWith('='); }
@@ -105,8 +164,9 @@ struct Surroundings
 using At = const Surroundings &;
 
 // An error, where it is this one, how far in front of it the fault begins, and the words for it:
-// {name} is the name at the fault, {character} the character; {open} is the innermost open
-// element and {line} its line. Of several rows for an error the first that fits counts.
+// {name} is the name at the error, {character} the character, {written} how the character of that
+// name is written; {open} is the innermost open element and {line} its line. Of several rows for an
+// error the first that fits counts.
 struct Wording
 {
     XML_Error error;
@@ -123,8 +183,11 @@ constexpr Wording wordings[] = {
      "XML forbids the character {character}"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.before.endsWith('&'); }, 1,
      "\"&\" begins no reference; write &amp;"_L1},
-    {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inReference(); }, 0,
-     "the reference does not end in \";\"; end it, or write &amp; for its \"&\""_L1},
+    {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inReference(); }, toReference,
+     "\"&\" begins a reference without its \";\"; write &amp;, or end the reference"_L1},
+    {XML_ERROR_INVALID_TOKEN,
+     [](At at) { return at.inValue && at.behind.startsWith('<') && at.leavesLine(); }, toQuote,
+     "the value that begins here has no closing quote, or a \"<\"; for that write &lt;"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inValue && at.behind.startsWith('<'); }, 0,
      "\"<\" in a value; write &lt;, or end the value with its quote"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.before.endsWith("--"); }, 2,
@@ -136,21 +199,34 @@ constexpr Wording wordings[] = {
     {XML_ERROR_INVALID_TOKEN,
      [](At at) { return !at.inRoot && at.before.endsWith('<') && at.behind.startsWith('/'); }, 1,
      "an end tag where no element is open"_L1},
+    {XML_ERROR_INVALID_TOKEN,
+     [](At at) { return at.before.endsWith("<?XML") || at.before.endsWith("<?Xml"); }, toTag,
+     "an XML declaration begins with <?xml, in small letters"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.before.endsWith("<?"); }, 2,
      "\"<?\" without a name"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inRoot && at.before.endsWith("<!"); }, 2,
      "\"<!\" begins no comment and no CDATA section"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.before.endsWith('<'); }, 1,
      "\"<\" begins no tag; write &lt;"_L1},
+    {XML_ERROR_INVALID_TOKEN,
+     [](At at) { return at.isUnquoted() && beginsWithOtherQuote(at.behind); }, 0,
+     "{character} is no quote to XML; write \" or '"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.isUnquoted(); }, 0,
      "a value without quotes"_L1},
-    {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inTag && at.behind.startsWith('<'); }, 0,
-     "the tag before this one has no \">\""_L1},
+    {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inTag && at.behind.startsWith('<'); }, toTag,
+     "the tag that begins here has no \">\""_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inTag && at.before.endsWith('/'); }, 1,
      "\"/\" in a tag without a \">\" behind it"_L1},
+    {XML_ERROR_INVALID_TOKEN, [](At at) { return at.isBehindValue() && at.tookNext(); }, toQuote,
+     "the value that begins here has no closing quote"_L1},
     {XML_ERROR_INVALID_TOKEN,
-     [](At at) { return at.inTag && (at.before.endsWith('"') || at.before.endsWith('\'')); }, 0,
-     "no blank between a value and what follows"_L1},
+     [](At at) { return at.isBehindValue() && at.hasAttributeBehind(); }, 0,
+     "no blank between a value and the next attribute"_L1},
+    {XML_ERROR_INVALID_TOKEN, [](At at) { return at.isBehindValue(); }, 0,
+     "{character} cannot stand behind a value; for a quote in a value write &quot;"_L1},
+    {XML_ERROR_INVALID_TOKEN,
+     [](At at) { return at.inTag && (at.behind.startsWith('"') || at.behind.startsWith('\'')); }, 0,
+     "a value without a \"=\" before it"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.lacksValue(); }, 0,
      "an attribute without a value"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inTag && isBlank(at.before.back()); }, 0,
@@ -172,7 +248,7 @@ constexpr Wording wordings[] = {
     {XML_ERROR_UNCLOSED_TOKEN, [](At at) { return at.behind.startsWith('<'); }, 0,
      "a tag without its \">\", or with a quote too few"_L1},
     {XML_ERROR_UNCLOSED_TOKEN, [](At at) { return at.behind.startsWith('&'); }, 0,
-     "the reference does not end in \";\"; end it, or write &amp; for its \"&\""_L1},
+     "\"&\" begins a reference without its \";\"; write &amp;, or end the reference"_L1},
     {XML_ERROR_UNCLOSED_TOKEN, always, 0, "what begins here does not end"_L1},
     {XML_ERROR_UNCLOSED_CDATA_SECTION, always, 0, "a CDATA section without its \"]]>\""_L1},
 
@@ -193,14 +269,23 @@ constexpr Wording wordings[] = {
     {XML_ERROR_SYNTAX, [](At at) { return at.isOutside(); }, 0, "a text outside the root"_L1},
     {XML_ERROR_SYNTAX, always, 0, "{character} cannot stand here"_L1},
     {XML_ERROR_MISPLACED_XML_PI, always, 0,
-     "the XML declaration has something in front of it"_L1},
-    {XML_ERROR_XML_DECL, always, 0, "this is no XML declaration"_L1},
+     "the XML declaration is not the first in the file; nothing may stand before it, no blank "
+     "either"_L1},
+    {XML_ERROR_XML_DECL, always, 0,
+     "this is no XML declaration; write <?xml version=\"1.0\" encoding=\"UTF-8\"?>"_L1},
 
     {XML_ERROR_DUPLICATE_ATTRIBUTE, [](At at) { return !at.behind.startsWith('&'); }, 0,
      "an attribute stands twice: \"{name}\""_L1},
     {XML_ERROR_DUPLICATE_ATTRIBUTE, always, 0, "an attribute stands twice, in an entity"_L1},
-    {XML_ERROR_UNDEFINED_ENTITY, [](At at) { return at.behind.startsWith('&'); }, 0,
+    {XML_ERROR_UNDEFINED_ENTITY,
+     [](At at) { return at.behind.startsWith('&') && at.before.contains("<!ENTITY"); }, 0,
      "&{name}; leads to no entity that is declared; write the character itself"_L1},
+    {XML_ERROR_UNDEFINED_ENTITY,
+     [](At at) { return at.behind.startsWith('&') && namedCharacter(nameIn(at.behind)) != 0; }, 0,
+     "XML does not know &{name};; write {written}"_L1},
+    {XML_ERROR_UNDEFINED_ENTITY, [](At at) { return at.behind.startsWith('&'); }, 0,
+     "XML does not know &{name};, only &amp; &lt; &gt; &quot; &apos;; write &amp; for a plain "
+     "\"&\""_L1},
     {XML_ERROR_UNDEFINED_ENTITY, always, 0, "an entity that is not declared"_L1},
     {XML_ERROR_BAD_CHAR_REF, [](At at) { return at.behind.startsWith('&'); }, 0,
      "&{name}; is no character that XML allows"_L1},
@@ -231,13 +316,14 @@ XmlFault faultIn(const QByteArray &document, XML_Error error, qsizetype offset,
     if (row == std::end(wordings))
         return {offset, u"this is not well-formed"_s};
     QString words = row->words;
+    words.replace("{written}"_L1, writtenFor(nameIn(at.behind)));
     words.replace("{name}"_L1, nameIn(at.behind));
     words.replace("{character}"_L1, characterIn(at.behind));
     if (innermost) {
         words.replace("{open}"_L1, innermost->name);
         words.replace("{line}"_L1, QString::number(innermost->place.line));
     }
-    return {offset - row->lead, words};
+    return {at.startOf(row->lead), words};
 }
 
 } // namespace korvel::check

@@ -54,34 +54,47 @@ private slots:
 
         row("<job a='^& b'/>", "\"&\" begins no reference; write &amp;");
         row("<job>a ^& b</job>", "\"&\" begins no reference; write &amp;");
-        row("<job a='&amp^ b'/>",
-            "the reference does not end in \";\"; end it, or write &amp; for its \"&\"");
-        row("<job a='&#x^z;'/>",
-            "the reference does not end in \";\"; end it, or write &amp; for its \"&\"");
+        row("<job a='^&amp b'/>",
+            "\"&\" begins a reference without its \";\"; write &amp;, or end the reference");
+        row("<job a='^&#xz;'/>",
+            "\"&\" begins a reference without its \";\"; write &amp;, or end the reference");
         row("<job>^&amp",
-            "the reference does not end in \";\"; end it, or write &amp; for its \"&\"");
+            "\"&\" begins a reference without its \";\"; write &amp;, or end the reference");
         row("<job a='&amp;^&euro;' b='&euro;'/>",
-            "&euro; leads to no entity that is declared; write the character itself");
-        row("<job>&lt;^&nbsp;</job>",
-            "&nbsp; leads to no entity that is declared; write the character itself");
-        row("<job a='>^&eacute;'/>",
-            "&eacute; leads to no entity that is declared; write the character itself");
+            "XML does not know &euro;; write \"\u20ac\" or &#8364;");
+        row("<job>&lt;^&nbsp;</job>", "XML does not know &nbsp;; write &#160;");
+        row("<job a='>^&eacute;'/>", "XML does not know &eacute;; write \"\u00e9\" or &#233;");
+        row("<job a='^&Ccedil;'/>", "XML does not know &Ccedil;; write \"\u00c7\" or &#199;");
+        row("<job a='^&szlig;'/>", "XML does not know &szlig;; write \"\u00df\" or &#223;");
+        row("<job a='R^&B;'/>", "XML does not know &B;, only &amp; &lt; &gt; &quot; &apos;; write "
+                                "&amp; for a plain \"&\"");
+        row("<job a='^&qgrave;'/>", "XML does not know &qgrave;, only &amp; &lt; &gt; &quot; "
+                                    "&apos;; write &amp; for a plain \"&\"");
         row("<job a='^&#xFFFE;'/>", "&#xFFFE; is no character that XML allows");
         row("<job>^&#0;</job>", "&#0; is no character that XML allows");
 
         row("<job a='^<'/>", "\"<\" in a value; write &lt;, or end the value with its quote");
-        row("<job a='1/>\n^<b c='2'/>",
-            "\"<\" in a value; write &lt;, or end the value with its quote");
+        row("<job a=^'1/>\n<b c='2'/>",
+            "the value that begins here has no closing quote, or a \"<\"; for that write &lt;");
+        row("<job a=^'1 b='2'/>", "the value that begins here has no closing quote");
+        row("<job c='' a=^'1\" b='2'/>", "the value that begins here has no closing quote");
+        row("<job a='1 '^2' 3'/>",
+            "\"2\" cannot stand behind a value; for a quote in a value write &quot;");
+        row("<job a='1'^, b='2'/>",
+            "\",\" cannot stand behind a value; for a quote in a value write &quot;");
+        row("<job a^'1'/>", "a value without a \"=\" before it");
+        row("<job a=^\u201c1\u201d/>", "\"\u201c\" is no quote to XML; write \" or '");
         row("<job a=^1/>", "a value without quotes");
         row("<job a = ^>", "a value without quotes");
         row("<job a^/>", "an attribute without a value");
         row("<job a ^b='1'/>", "an attribute without a value");
-        row("<job a='1'^b='2'/>", "no blank between a value and what follows");
+        row("<job a='1'^b='2'/>", "no blank between a value and the next attribute");
         row("<job a='1' b='2'\n ^a='3'/>", "an attribute stands twice: \"a\"");
         row("<job ^1='1'/>", "\"1\" cannot begin a name");
         row("<job a^$='1'/>", "\"$\" cannot stand in a name");
         row("<job a='1'^/ >", "\"/\" in a tag without a \">\" behind it");
-        row("<job><a b='1'\n^<c/></job>", "the tag before this one has no \">\"");
+        row("<job>^<a b='1'\n<c/></job>", "the tag that begins here has no \">\"");
+        row("<job><a>^</a\n</job>", "the tag that begins here has no \">\"");
         row("<job>^<a b='1'", "a tag without its \">\", or with a quote too few");
         row("<job>^<a b='1/>", "a tag without its \">\", or with a quote too few");
         row("<job>1 ^< 2</job>", "\"<\" begins no tag; write &lt;");
@@ -99,8 +112,16 @@ private slots:
         row("<job/>^&lt;", "a text outside the root");
         row(" ^text <job/>", "a text outside the root");
         row("<job/>^<![CDATA[ ]]>", "a declaration or a section behind the end of the root");
-        row(" ^<?xml version='1.0'?><job/>", "the XML declaration has something in front of it");
-        row("<?xml version='1.0' ^a='b'?><job/>", "this is no XML declaration");
+        const QString notFirst = "the XML declaration is not the first in the file; nothing may "
+                                 "stand before it, no blank either";
+        row("\n^<?xml version='1.0'?><job/>", notFirst);
+        row("<job>^<?xml version='1.0'?></job>", notFirst);
+        const QString noDeclaration =
+            "this is no XML declaration; write <?xml version=\"1.0\" encoding=\"UTF-8\"?>";
+        row("<?xml version='1.0' ^a='b'?><job/>", noDeclaration);
+        row("<?xml ^encoding='UTF-8'?><job/>", noDeclaration);
+        row("^<?XML version='1.0'?><job/>",
+            "an XML declaration begins with <?xml, in small letters");
         row("^<?xml version='1.1'?><job/>", "XML 1.1 is not read; write 1.0");
 
         row("<job>^]]></job>", "\"]]>\" in a text; write ]]&gt;");
