@@ -27,8 +27,7 @@ bool hasControl(const JobAttribute &attribute)
 /// A character in quotes and by its number, or by that alone where it has no shape.
 QString characterName(char32_t character)
 {
-    const QString number =
-        u"U+"_s + QString::number(character, 16).toUpper().rightJustified(4, u'0');
+    QString number = u"U+"_s + QString::number(character, 16).toUpper().rightJustified(4, u'0');
     if (!shared::isPrintable(character))
         return number;
     return u'"' + QString::fromUcs4(&character, 1) + u"\" ("_s + number + u')';

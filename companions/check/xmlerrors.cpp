@@ -65,7 +65,7 @@ bool beginsWithOtherQuote(QByteArrayView text)
 QString writtenFor(QStringView name)
 {
     const QChar character = namedCharacter(name);
-    const QString number = u"&#"_s + QString::number(character.unicode()) + u';';
+    QString number = u"&#"_s + QString::number(character.unicode()) + u';';
     if (character.isSpace())
         return number;
     return u'"' + QString(character) + u"\" or "_s + number;

@@ -53,7 +53,7 @@ Converted convert(iconv_t converter, QByteArray bytes)
 Converter opened(const QByteArray &name)
 {
     const auto failed = reinterpret_cast<iconv_t>(-1); // NOLINT(performance-no-int-to-ptr)
-    const iconv_t converter = iconv_open("UTF-8", name.constData());
+    iconv_t converter = iconv_open("UTF-8", name.constData());
     return Converter(converter == failed ? nullptr : converter);
 }
 
@@ -81,7 +81,6 @@ char16_t substituteFor(char32_t character, Has has)
 CodePage::CodePage(QByteArrayView asked, bool unicode)
     : givenName(QString::fromLatin1(asked))
     , isUtf8(unicode)
-    , characters{}
 {
 }
 

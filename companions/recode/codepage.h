@@ -69,8 +69,8 @@ private:
 
     QString givenName;
     bool isUtf8;
-    std::array<char16_t, 256> characters; // of each byte; 0 for none, but for the byte 0
-    QHash<char16_t, char> bytesOf;        // the first byte of each character beyond ASCII
+    std::array<char16_t, 256> characters{}; // of each byte; 0 for none, but for the byte 0
+    QHash<char16_t, char> bytesOf;          // the first byte of each character beyond ASCII
 };
 
 /**
