@@ -66,8 +66,8 @@ void checkAmount(Context &context, const JobAttribute &attribute)
         context.note(attribute.place, Code::Amount, attribute.name, quoted(attribute.value));
     else if (amount.hasParts)
         context.note(attribute.place, Code::Hundredths, attribute.name, quoted(attribute.value));
-    if (amount.mark.isNull() || context.mixesMarks)
-        return;
+    if (amount.mark.isNull() || amount.hasParts || context.mixesMarks)
+        return; // parts of a hundredth may be thousands behind a mark
     if (context.decimalMark.isNull())
         context.decimalMark = amount.mark;
     context.mixesMarks = context.decimalMark != amount.mark;

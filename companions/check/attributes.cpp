@@ -108,14 +108,18 @@ void noteUnread(Context &context, const Tag &tag, Gaps &gaps)
     for (const JobAttribute *attribute : std::as_const(gaps.unread)) {
         QString meant = nearestName(attribute->name, gaps.unused);
         const QString question = orName(meant);
+        const bool isNear = !meant.isEmpty();
         const QStringList missing = gaps.figures + gaps.registered;
-        if (meant.isEmpty() && gaps.unread.size() == 1 && missing.size() == 1)
+        if (!isNear && gaps.unread.size() == 1 && missing.size() == 1)
             meant = missing.constFirst();
         gaps.unused.removeOne(meant);
         gaps.texts.removeOne(meant);
-        if (gaps.figures.removeOne(meant) || gaps.registered.removeOne(meant))
+        const bool registered = gaps.registered.removeOne(meant);
+        if (registered && meant == name::price && isDeduction(attribute->value))
+            gaps.registered.clear(); // a deduction has nothing else
+        if (gaps.figures.removeOne(meant) || registered)
             context.note(attribute->place, Code::MisspeltAttribute, attribute->name, tag.name,
-                         meant, question);
+                         filled(isNear ? phrase::meantMissing : phrase::otherMissing, meant));
         else
             context.note(attribute->place, Code::UnknownAttribute, attribute->name, tag.name,
                          question);
@@ -160,6 +164,8 @@ void checkAttributes(Context &context, const Tag &tag, const Element &element)
     for (const Attribute &row : known)
         checkKnown(context, tag, row, deduction);
     noteUnread(context, tag, gaps);
+    if (tag.name == element::cancelledsummary)
+        gaps.figures.clear(); // the list begins at the wrong place then, which is said of it
     if (!noteContents(context, tag)) {
         noteIncomplete(context, tag, gaps.registered);
         noteMissing(context, tag, Code::MissingAttribute, gaps.figures);

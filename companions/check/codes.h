@@ -162,7 +162,7 @@ inline constexpr CodeInfo codeTable[] = {
      "This document does not read an attribute of that name. It is not printed."_L1,
      "Correct the name, or leave the attribute out."_L1},
     {Code::MisspeltAttribute, Level::Error, "misspelt-attribute"_L1,
-     "nothing reads \"%1\" of <%2>, and its \"%3\" is missing%4"_L1,
+     "nothing reads \"%1\" of <%2>%3"_L1,
      "A figure, a name or a serial number stands under a name that the document does not read. "
      "Its place on the paper stays empty."_L1,
      "Correct the name; upper and lower case are different."_L1},
@@ -172,7 +172,7 @@ inline constexpr CodeInfo codeTable[] = {
      "same, with nothing in it."_L1,
      "Send the attribute. Where the place is meant to stay empty, send it empty."_L1},
     {Code::MissingText, Level::Warning, "missing-text"_L1,
-     "<%1> has no %2: %3"_L1,
+     "<%1> has no %2, which the settings switch on: %3"_L1,
      "The settings switch on a text that the job does not send. Its label is printed all the "
      "same, with nothing behind it."_L1,
      "Send the attribute, empty where the place is meant to stay empty, or switch it off."_L1},
@@ -224,7 +224,7 @@ inline constexpr CodeInfo codeTable[] = {
      "the printer refuses it."_L1,
      "Send digits, with a decimal point where a part of a piece is sold."_L1},
     {Code::FiscalDepartment, Level::Error, "fiscal-department"_L1,
-     "\"%1\" of a sale row is %2; the printer takes a number from 1 on"_L1,
+     "\"%1\" of a sale row is %2; the printer takes a whole number from 1 on"_L1,
      "The department of a sale row is no whole number from 1 on. It is sent as it is, and the "
      "printer refuses it."_L1,
      "Send the department's number on the printer."_L1},
@@ -235,9 +235,10 @@ inline constexpr CodeInfo codeTable[] = {
      "The quantity of a row times its price is not its total. All are printed as they are."_L1,
      "Send the amount that the quantity and the price come to."_L1},
     {Code::TotalSum, Level::Warning, "total-sum"_L1,
-     "the rows come to %1, and \"%2\" is %3"_L1,
-     "The amounts of the rows, discounts and variants among them, do not come to the total."_L1,
-     "Send the total of what is printed above it."_L1},
+     "the rows come to %1, and %2"_L1,
+     "The amounts of the rows, discounts and variants among them, do not come to the total. That "
+     "of a fiscal receipt is the printer's own, whatever the job says."_L1,
+     "Send the total of the rows."_L1},
     {Code::TaxSum, Level::Warning, "tax-sum"_L1,
      "%1 %2, and \"%3\" is %4"_L1,
      "The tax is not the rate's part of what is taxable, or the two do not come to the total of "

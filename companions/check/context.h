@@ -7,6 +7,7 @@
 #include "companions/recode/codepage.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <optional>
 
@@ -22,6 +23,7 @@ struct Context
     QChar decimalMark;                        // of the first amount that has one
     bool mixesMarks = false;                  // once that is said
     const recode::CodePage *charset = nullptr; // of the printer; null when none is given
+    QSet<const Tag *> lost; // elements of which nothing is printed, though something should be
 
     /// Notes a finding that says the wording of its code with these words.
     template<typename... Words>
@@ -100,6 +102,9 @@ bool isRegistered(const vocabulary::Attribute &row);
 
 /// Whether a sale row is sent as a deduction, which carries its price alone.
 bool isDeduction(const Tag &tag, const QList<vocabulary::Attribute> &known);
+
+/// Likewise of the text of a price.
+bool isDeduction(const QString &price);
 
 /// Notes what a sale row lacks, or has empty, if anything.
 void noteIncomplete(Context &context, const Tag &tag, const QStringList &lacking);

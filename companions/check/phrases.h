@@ -55,6 +55,10 @@ inline constexpr Phrase settingsReadOver{
 inline constexpr Phrase noDocument{"no document is called %1"};
 inline constexpr Phrase noMethodName{"the method has no name"};
 
+// MisspeltAttribute: what is missing
+inline constexpr Phrase meantMissing{"; did you mean \"%1\", which is missing?"};
+inline constexpr Phrase otherMissing{", and its \"%1\" is missing"};
+
 // TextContent
 inline constexpr Phrase childElements{
     "<%1> has %2 as elements, which print nothing: write them as attributes"};
@@ -79,6 +83,10 @@ inline constexpr Phrase listMiscounted{"\"number\" says %1 cancelled documents, 
 // DecimalComma: the mark of the others
 inline constexpr Phrase comma{"comma"};
 inline constexpr Phrase point{"point"};
+
+// TotalSum: the total
+inline constexpr Phrase totalIs{"\"%1\" of <%2> is %3"};
+inline constexpr Phrase taxLinesCome{"the tax lines come to %1"};
 
 // TaxSum: what comes to something else
 inline constexpr Phrase taxOfRate{"%1 of %2 is"};

@@ -91,9 +91,11 @@ bool isDeduction(const Tag &tag, const QList<Attribute> &known)
     return std::any_of(known.begin(), known.end(), [&](const Attribute &row) {
         const JobAttribute *price =
             row.value == Value::RegisteredPrice ? tag.find(row.name) : nullptr;
-        return price && registeredPrice(price->value) < 0;
+        return price && isDeduction(price->value);
     });
 }
+
+bool isDeduction(const QString &price) { return registeredPrice(price) < 0; }
 
 void noteIncomplete(Context &context, const Tag &tag, const QStringList &lacking)
 {
@@ -112,9 +114,12 @@ void checkRegistered(Context &context, Value kind, const JobAttribute &attribute
         return;
     }
     const QString value = quoted(attribute.value);
-    if (const auto character = endOfCommand(attribute); !character.isEmpty())
+    const auto character = endOfCommand(attribute);
+    if (!character.isEmpty())
         context.note(attribute.place, Code::EndsCommand, attribute.name, value, character);
     checkCharacters(context, attribute, filled(phrase::saleRowHas, attribute.name, value));
+    if (!character.isEmpty() || hasControl(attribute))
+        return; // that is why it is no number
     if (kind == Value::RegisteredCount && !isAboveZero(attribute.value))
         context.note(attribute.place, Code::FiscalQuantity, attribute.name, value);
     if (attribute.name == vocabulary::attribute::department && !isDepartment(attribute.value))

@@ -29,12 +29,6 @@ Documents printedIn(const QString &element)
     return documents;
 }
 
-bool isElement(const QString &name)
-{
-    return std::any_of(vocabulary::elements().begin(), vocabulary::elements().end(),
-                       [&](const Element &row) { return row.name == name; });
-}
-
 /// False when the job ends at this method.
 bool checkMethod(Context &context, const Tag &tag)
 {
@@ -60,25 +54,35 @@ bool checkMethod(Context &context, const Tag &tag)
         if (other.name != attribute::name)
             noteUnread(context, tag, other, {attribute::name});
     }
+    noteContents(context, tag);
     return true;
 }
 
 void checkBeforeMethod(Context &context, const Tag &tag, bool isRoot)
 {
-    const bool holder = isElement(tag.name) ? tag.holdsOthers && tag.attributes.isEmpty()
-                                            : tag.holdsOthers || isRoot;
-    if (!holder)
+    const bool holder = vocabulary::isElement(tag.name)
+                            ? tag.holdsOthers && tag.attributes.isEmpty()
+                            : tag.holdsOthers || isRoot;
+    if (!holder) {
         context.note(tag.place, Code::BeforeMethod, tag.name);
+        context.lost.insert(&tag);
+    } else if (isRoot) {
+        noteContents(context, tag);
+    }
 }
 
-/// Whether a tag carries a figure that another document prints for it.
+/// Whether a tag carries a figure: by one of its own attributes, or by what is a figure elsewhere.
+/// Shared elements have names of their own choice beside those.
 bool carriesFigure(const Tag &tag)
 {
+    const bool shared =
+        vocabulary::findElement(tag.name, vocabulary::KitchenOrder)
+        && vocabulary::isShared(*vocabulary::findElement(tag.name, vocabulary::KitchenOrder));
     return hundredthsOf(tag.text).has_value()
            || std::any_of(vocabulary::attributes().begin(), vocabulary::attributes().end(),
                           [&](const vocabulary::Attribute &row) {
                               const JobAttribute *attribute =
-                                  row.element == tag.name && vocabulary::isFigure(row)
+                                  vocabulary::isFigure(row) && (row.element == tag.name || !shared)
                                       ? tag.find(row.name)
                                       : nullptr;
                               return attribute && !attribute->value.isEmpty();
@@ -94,9 +98,11 @@ void checkIgnored(Context &context, const Tag &tag, bool isRoot)
         if ((row.documents & context.method->document) != 0)
             (vocabulary::isShared(row) ? shared : own).append(row.name);
     }
-    if (isElement(tag.name)) {
+    if (vocabulary::isElement(tag.name)) {
         const Documents elsewhere = printedIn(tag.name);
         const Code code = carriesFigure(tag) ? Code::LostElement : Code::IgnoredElement;
+        if (code == Code::LostElement)
+            context.lost.insert(&tag);
         context.note(tag.place, code, tag.name, context.method->title,
                      elsewhere == 0 ? QString()
                                     : filled(phrase::onlyIn, vocabulary::titlesOf(elsewhere)),
@@ -104,11 +110,14 @@ void checkIgnored(Context &context, const Tag &tag, bool isRoot)
         return;
     }
     const bool holder = isRoot || (tag.holdsOthers && tag.attributes.isEmpty());
-    const bool carriesTexts = context.spelledOut.contains(&tag - context.job.tags.constData());
-    if (holder && !carriesTexts)
+    const bool carriesTexts =
+        !context.spelledOut.value(&tag - context.job.tags.constData()).isEmpty();
+    if (holder && !carriesTexts) {
         noteContents(context, tag);
-    else
-        context.note(tag.place, Code::UnknownElement, tag.name, orSimilar(tag.name, own, shared));
+        return;
+    }
+    context.note(tag.place, Code::UnknownElement, tag.name, orSimilar(tag.name, own, shared));
+    context.lost.insert(&tag);
 }
 
 /// An element that the document knows.
@@ -154,7 +163,7 @@ QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings,
     const Job read = readJob(job);
     // All would be switched off when nothing is read of the settings: that is said of them alone.
     const SettingsFile *usable = settings && settings->isLost() ? nullptr : settings;
-    Context context{read, usable, nullptr, {}, {}, {}, false, charset};
+    Context context{read, usable, nullptr, {}, {}, {}, false, charset, {}};
     gatherContents(context);
     for (const Fault &fault : read.faults)
         context.findings.append({fault.place, fault.code, fault.text, {}, 0});

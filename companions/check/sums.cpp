@@ -3,6 +3,7 @@
 #include "companions/check/words.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,14 +30,15 @@ struct Scaled
 /// A quantity or a rate of a few digits; nothing for another text.
 std::optional<Scaled> scaled(QString text)
 {
-    constexpr qsizetype mostDigits = 9;
+    constexpr qsizetype mostDigits = 6;
     text = text.trimmed().replace(u',', u'.');
+    const qsizetype length = text.size();
     const qsizetype point = text.indexOf(u'.');
     const qsizetype decimals = point < 0 ? 0 : text.size() - point - 1;
     bool isNumber = false;
     Scaled number{text.remove(u'.').toLongLong(&isNumber)};
-    if (!isNumber || text.size() > mostDigits)
-        return {};
+    if (!isNumber || text.size() > mostDigits || text.size() + 1 < length)
+        return {}; // more than one mark are no decimals
     for (qsizetype i = 0; i < decimals; ++i)
         number.one *= 10;
     return number;
@@ -45,7 +47,7 @@ std::optional<Scaled> scaled(QString text)
 /// An attribute as an amount; nothing when there is none.
 std::optional<qint64> amountOf(const Tag &tag, QLatin1StringView attribute)
 {
-    constexpr qint64 most = 1'000'000'000'000; // hundredths; so many products fit
+    constexpr qint64 most = 10'000'000'000; // hundredths; a product with a scaled number fits
     const JobAttribute *found = tag.find(attribute);
     const auto amount = found ? hundredthsOf(found->value) : std::nullopt;
     return amount && std::abs(*amount) < most ? amount : std::nullopt;
@@ -57,10 +59,10 @@ QString shown(qint64 hundredths)
     return (hundredths < 0 ? u"-"_s : QString()) + digits.chopped(2) + u'.' + digits.right(2);
 }
 
-/// Whether an amount is the product, rounded up or down to a hundredth.
-bool isProduct(qint64 amount, Scaled factor, qint64 hundredths)
+/// Whether an amount is the product, rounded up or down to a hundredth, maybe in several parts.
+bool isProduct(qint64 amount, Scaled factor, qint64 hundredths, qint64 parts = 1)
 {
-    return std::abs(factor.units * hundredths - amount * factor.one) < factor.one;
+    return std::abs(factor.units * hundredths - amount * factor.one) < factor.one * parts;
 }
 
 /// The rounded product.
@@ -82,10 +84,12 @@ public:
 
     void add(const Tag &tag)
     {
-        if (isRow(tag))
+        if (context.lost.contains(&tag))
+            addLost(tag);
+        else if (isRow(tag))
             addRow(tag);
-        else if (tag.name == element::total && !total)
-            total = &tag;
+        else if (tag.name == element::total)
+            setTotal(tag);
         else if (tag.name == element::totals && (document & vocabulary::invoices) != 0)
             addTaxLine(tag);
     }
@@ -94,12 +98,12 @@ public:
     {
         const bool invoice = (document & vocabulary::invoices) != 0;
         const bool printed = invoice || (document & withTotal) != 0;
-        if (rows == 0 || (!total && !printed))
+        if (rows == 0 || (!total && (!printed || maybeTotal)))
             return;
         if (!total)
             context.note(method.place, Code::NoTotal, context.method->title,
                          invoice ? element::totals : element::total);
-        else if (behind)
+        else if (behind && printed)
             context.note(behind->place, Code::BehindTotal, behind->name);
         else if (known)
             checkTotal(invoice ? name::total : name::price);
@@ -115,6 +119,20 @@ private:
                || (document == vocabulary::FullOrder && tag.name == element::variant);
     }
 
+    /// What is lost may be a row, or the total; it is said of it.
+    void addLost(const Tag &tag)
+    {
+        known = false;
+        maybeTotal |= !vocabulary::isElement(tag.name) || tag.name.startsWith(element::total);
+    }
+
+    /// The last one is the document's; those above it are of parts.
+    void setTotal(const Tag &tag)
+    {
+        total = &tag;
+        behind = nullptr;
+    }
+
     void addRow(const Tag &tag)
     {
         const JobAttribute *text = tag.find(name::name);
@@ -125,22 +143,44 @@ private:
             behind = &tag;
         const bool itemised = (document & vocabulary::itemised) != 0;
         const QLatin1StringView attribute = itemised ? name::totalPrice : name::price;
-        const JobAttribute *found = tag.find(attribute);
         auto amount = amountOf(tag, attribute);
         if (amount && *amount >= 0 && document == vocabulary::FiscalReceipt)
             amount = registered(tag, *amount);
-        known &= amount || (found && found->value.isEmpty());
+        known &= (amount || isFree(tag)) && !isLeftOut(tag, amount.value_or(0));
         sum += amount.value_or(0);
         if (amount && itemised)
             checkRow(tag, *amount);
     }
 
+    /// Whether a row has no amount on purpose.
+    [[nodiscard]] bool isFree(const Tag &tag) const
+    {
+        const auto isEmpty = [&](QLatin1StringView attribute) {
+            const JobAttribute *found = tag.find(attribute);
+            return found && found->value.isEmpty();
+        };
+        return (document & vocabulary::fiscal) == 0 && isEmpty(name::price)
+               && ((document & vocabulary::itemised) == 0 || isEmpty(name::totalPrice));
+    }
+
+    /// Whether a row is left out of an item at a price: that may be taken off, or not.
+    static bool isLeftOut(const Tag &tag, qint64 amount)
+    {
+        const JobAttribute *quantity = tag.find(name::quantity);
+        return tag.name == element::variant && amount > 0
+               && !(quantity && quantity->value.toDouble() > 0);
+    }
+
     /// What a sale row comes to; a deduction is its price, whatever its quantity.
-    static std::optional<qint64> registered(const Tag &tag, qint64 price)
+    std::optional<qint64> registered(const Tag &tag, qint64 price)
     {
         const JobAttribute *number = tag.find(name::number);
         const auto quantity = number ? scaled(number->value) : std::nullopt;
-        return quantity ? std::optional(product(*quantity, price)) : std::nullopt;
+        if (!quantity || quantity->units <= 0)
+            return {};
+        if (quantity->units * price % quantity->one != 0)
+            ++rounded;
+        return product(*quantity, price);
     }
 
     /// A row's quantity times its price. What is left out of an item counts either way.
@@ -152,6 +192,7 @@ private:
         if (!quantity || !price || isProduct(amount, *quantity, *price)
             || (tag.name == element::variant && isProduct(-amount, *quantity, *price)))
             return;
+        known = false;
         context.note(tag.find(name::totalPrice)->place, Code::RowSum, quoted(number->value),
                      quoted(tag.find(name::price)->value), shown(product(*quantity, *price)),
                      name::totalPrice, quoted(tag.find(name::totalPrice)->value));
@@ -159,30 +200,38 @@ private:
 
     void addTaxLine(const Tag &tag)
     {
-        total = &tag;
+        setTotal(tag);
+        ++taxLines;
         const auto whole = amountOf(tag, name::total);
         const auto net = amountOf(tag, name::taxable);
         const auto tax = amountOf(tag, name::tax);
         known &= whole && net;
         totals += whole.value_or(0);
         taxable += net.value_or(0);
-        if (!net || !tax)
-            return;
+        if (net && tax)
+            checkTax(tag, *net, *tax, whole);
+    }
+
+    /// The tax may be rounded in each row.
+    void checkTax(const Tag &tag, qint64 net, qint64 tax, std::optional<qint64> whole)
+    {
         const auto value = [&](QLatin1StringView attribute) { return tag.find(attribute)->value; };
         const JobAttribute *spelt = tag.find(name::taxrate);
         auto rate = scaled(spelt ? spelt->value.trimmed().remove(u'%') : QString());
         if (rate)
             rate->one *= 100; // per cent
-        if (rate && !isProduct(*tax, *rate, *net))
-            context.note(
-                tag.find(name::tax)->place, Code::TaxSum,
-                filled(phrase::taxOfRate, quoted(spelt->value), quoted(value(name::taxable))),
-                shown(product(*rate, *net)), name::tax, quoted(value(name::tax)));
-        else if (whole && *net + *tax != *whole)
-            context.note(tag.find(name::total)->place, Code::TaxSum,
-                         filled(phrase::taxableAndTax, quoted(value(name::taxable)),
-                                quoted(value(name::tax))),
-                         shown(*net + *tax), name::total, quoted(value(name::total)));
+        const auto note = [&](const QString &factors, qint64 result, QLatin1StringView attribute) {
+            known = false;
+            context.note(tag.find(attribute)->place, Code::TaxSum, factors, shown(result),
+                         attribute, quoted(value(attribute)));
+        };
+        if (rate && !isProduct(tax, *rate, net, std::max<qint64>(rows, 1)))
+            note(filled(phrase::taxOfRate, quoted(spelt->value), quoted(value(name::taxable))),
+                 product(*rate, net), name::tax);
+        else if (whole && net + tax != *whole)
+            note(filled(phrase::taxableAndTax, quoted(value(name::taxable)),
+                        quoted(value(name::tax))),
+                 net + tax, name::total);
     }
 
     /// The rows beside the total; those of an invoice have tax in them, or not.
@@ -190,9 +239,13 @@ private:
     {
         const bool invoice = (document & vocabulary::invoices) != 0;
         const auto amount = invoice ? std::optional(totals) : amountOf(*total, attribute);
-        if (amount && sum != *amount && !(invoice && sum == taxable))
-            context.note(total->find(attribute)->place, Code::TotalSum, shown(sum), attribute,
-                         quoted(shown(*amount)));
+        if (!amount || std::abs(sum - *amount) <= rounded || (invoice && sum == taxable))
+            return;
+        const JobAttribute &said = *total->find(attribute);
+        context.note(said.place, Code::TotalSum, shown(sum),
+                     taxLines > 1
+                         ? filled(phrase::taxLinesCome, shown(*amount))
+                         : filled(phrase::totalIs, attribute, total->name, quoted(said.value)));
     }
 
     Context &context;
@@ -200,10 +253,13 @@ private:
     const Tag *total = nullptr;  // or an invoice's last tax line
     const Tag *behind = nullptr; // the first row that stands behind it
     qsizetype rows = 0;
-    qint64 sum = 0;     // of the rows
-    qint64 totals = 0;  // of an invoice's tax lines
-    qint64 taxable = 0; // likewise
-    bool known = true;  // whether all of these are amounts
+    qsizetype taxLines = 0;
+    qint64 rounded = 0;      // sale rows that the printer may round up or down
+    qint64 sum = 0;          // of the rows
+    qint64 totals = 0;       // of an invoice's tax lines
+    qint64 taxable = 0;      // likewise
+    bool known = true;       // whether all of these are amounts, and nothing is said of one of them
+    bool maybeTotal = false; // whether what is lost may be the total
 };
 
 } // namespace
@@ -212,6 +268,7 @@ void checkSums(Context &context)
 {
     std::optional<Rows> document;
     const Tag *method = nullptr;
+    QList<const Tag *> lost; // in front of the first method
     const auto close = [&] {
         if (document)
             document->close(*method);
@@ -221,6 +278,8 @@ void checkSums(Context &context)
         if (tag.name != element::method) {
             if (document)
                 document->add(tag);
+            else if (context.lost.contains(&tag))
+                lost.append(&tag);
             continue;
         }
         close();
@@ -230,8 +289,11 @@ void checkSums(Context &context)
             return;
         method = &tag;
         document.emplace(context);
+        for (const Tag *other : std::exchange(lost, {}))
+            document->add(*other);
     }
-    close();
+    if (context.job.faults.isEmpty()) // else the rest is not known
+        close();
 }
 
 } // namespace korvel::check

@@ -59,6 +59,11 @@ const Element *findElement(QAnyStringView name, Document document)
     });
 }
 
+bool isElement(QAnyStringView name)
+{
+    return find(elements(), [&](const Element &row) { return row.name == name; }) != nullptr;
+}
+
 bool isShared(const Element &row) { return row.documents == shared; }
 
 bool isOptional(const Attribute &row)

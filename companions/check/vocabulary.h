@@ -46,6 +46,9 @@ const Method *findMethod(QAnyStringView name);
 /// The row of an element in one document; null when the document ignores it.
 const Element *findElement(QAnyStringView name, Document document);
 
+/// Whether any document knows an element of that name.
+bool isElement(QAnyStringView name);
+
 /// Whether an element is one of those that all documents with text lines share.
 bool isShared(const Element &row);
 
