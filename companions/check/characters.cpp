@@ -14,16 +14,6 @@ namespace korvel::check {
 
 namespace {
 
-/// Whether a value has a control character other than a line break.
-bool hasControl(const JobAttribute &attribute)
-{
-    return attribute.tab
-           || std::any_of(attribute.value.begin(), attribute.value.end(), [](QChar c) {
-                  return c.category() == QChar::Other_Control && c != u'\n' && c != u'\r'
-                         && c != u'\t';
-              });
-}
-
 /// A character in quotes and by its number, or by that alone where it has no shape.
 QString characterName(char32_t character)
 {
@@ -59,6 +49,15 @@ void checkCharset(Context &context, const JobAttribute &attribute)
 }
 
 } // namespace
+
+bool hasControl(const JobAttribute &attribute)
+{
+    return attribute.tab
+           || std::any_of(attribute.value.begin(), attribute.value.end(), [](QChar c) {
+                  return c.category() == QChar::Other_Control && c != u'\n' && c != u'\r'
+                         && c != u'\t';
+              });
+}
 
 void checkCharacters(Context &context, const JobAttribute &attribute, const QString &bearer)
 {

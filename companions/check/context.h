@@ -19,9 +19,9 @@ struct Context
     const SettingsFile *settings;               // null when none are given
     const vocabulary::Method *method = nullptr; // selected last; null before the first
     QList<Finding> findings;
-    QHash<qsizetype, QStringList> spelledOut; // by tag: elements in it that stand for attributes
-    QChar decimalMark;                        // of the first amount that has one
-    bool mixesMarks = false;                  // once that is said
+    QHash<qsizetype, QStringList> spelledOut;  // by tag: elements in it that stand for attributes
+    QChar decimalMark;                         // of the first amount that has one
+    bool mixesMarks = false;                   // once that is said
     const recode::CodePage *charset = nullptr; // of the printer; null when none is given
     QSet<const Tag *> lost; // elements of which nothing is printed, though something should be
 
@@ -69,6 +69,9 @@ void noteUnread(Context &context, const Tag &tag, const JobAttribute &attribute,
                 const QStringList &unused);
 
 // characters.cpp
+
+/// Whether a value has a control character other than a line break.
+bool hasControl(const JobAttribute &attribute);
 
 /// The characters of a text that is printed or registered: those that are control characters, that
 /// came of a wrong encoding, or that the printer's code page lacks.

@@ -43,9 +43,9 @@ bool hasRows(const Method &method)
 /// The path of the catalogue that settings name; empty for none.
 QString catalogueOf(const SettingsFile &settings)
 {
-    const QString name = catalogue::nameOf(
-        settings.value(vocabulary::group::language, language::basedir),
-        settings.value(vocabulary::group::language, language::file));
+    const QString name =
+        catalogue::nameOf(settings.value(vocabulary::group::language, language::basedir),
+                          settings.value(vocabulary::group::language, language::file));
     return name.isEmpty() ? QString() : path::forToolkit(name);
 }
 

@@ -83,13 +83,12 @@ inline constexpr QLatin1StringView company{"<job>\n"
                                            "  <method name=\"printFullOrderReceipt\"/>\n"
                                            "  <company name=\"Trattoria Da Nino\"/>\n"
                                            "</job>"};
-inline constexpr QLatin1StringView emoji{
-    "<job>\n"
-    "  <method name=\"printFullOrderReceipt\"/>\n"
-    "  <receipe number=\"1\" name=\"Caprese x&#127829;\"\n"
-    "           price=\"7.00\" totalPrice=\"7.00\"/>\n"
-    "  <total price=\"7.00\"/>\n"
-    "</job>"};
+inline constexpr QLatin1StringView emoji{"<job>\n"
+                                         "  <method name=\"printFullOrderReceipt\"/>\n"
+                                         "  <receipe number=\"1\" name=\"Caprese x&#127829;\"\n"
+                                         "           price=\"7.00\" totalPrice=\"7.00\"/>\n"
+                                         "  <total price=\"7.00\"/>\n"
+                                         "</job>"};
 inline constexpr QLatin1StringView total{"<job>\n"
                                          "  <method name=\"printFullOrderReceipt\"/>\n"
                                          "  <total price=\"1200000.00\"/>\n"
@@ -102,6 +101,22 @@ inline constexpr QLatin1StringView settings{"korvel:\n"
                                             "    quantityFieldWidth = \"3\";\n"
                                             "    priceFieldWidth = \"8\";\n"
                                             "    totalPriceFieldWidth = \"8\";\n"
+                                            "    %1\n"
+                                            "  };\n"
+                                            "};"};
+inline constexpr QLatin1StringView group{"%1\n"
+                                         "{\n"
+                                         "  doc:\n"
+                                         "  {\n"
+                                         "    paperWidth = \"32\";\n"
+                                         "    quantityFieldWidth = \"3\";\n"
+                                         "  };\n"
+                                         "};"};
+inline constexpr QLatin1StringView language{"korvel:\n"
+                                            "{\n"
+                                            "  language:\n"
+                                            "  {\n"
+                                            "    basedir = \"/no-such-folder\";\n"
                                             "    %1\n"
                                             "  };\n"
                                             "};"};
@@ -256,6 +271,12 @@ inline constexpr Example exampleTable[] = {
     {Code::Address, example::none, example::receipt,
      "<customer name=\"Mario Rossi\" billingaddress=\"Corso Re 2,,10121 Torino\"/>"_L1,
      "<customer name=\"Mario Rossi\" billingaddress=\"Corso Re 2,10121 Torino\"/>"_L1},
+    {Code::Mojibake, example::none, example::order,
+     "<receipe number=\"2\" name=\"Caff&#195;&#168;\"/>"_L1,
+     "<receipe number=\"2\" name=\"Caff&#232;\"/>"_L1},
+    {Code::NotInCharset, example::none, example::order,
+     "<receipe number=\"2\" name=\"Menu 10 &#8364;\"/>"_L1,
+     "<receipe number=\"2\" name=\"Menu 10 EUR\"/>"_L1},
 
     // The job beside its settings.
     {Code::SwitchedOff, example::settings, example::company,
@@ -267,6 +288,19 @@ inline constexpr Example exampleTable[] = {
     {Code::CutCharacter, example::widths, example::emoji,
      "totalPriceFieldWidth = \"8\";"_L1,
      "totalPriceFieldWidth = \"7\";"_L1},
+
+    // The settings as a whole.
+    {Code::NoSettings, example::group, example::none, "Korvel:"_L1, "korvel:"_L1},
+    {Code::Comment, example::settings, example::none,
+     "// two lines\n"
+     "    topMargin = \"2\";"_L1,
+     "topMargin = \"2\";"_L1},
+    {Code::Unterminated, example::settings, example::none,
+     "topMargin = \"2\""_L1,
+     "topMargin = \"2\";"_L1},
+    {Code::Catalogue, example::language, example::none,
+     "file = \"korvel_it.qm\";"_L1,
+     "file = \"\";"_L1},
 
     // The settings.
     {Code::Columns, example::widths, example::none,
