@@ -10,81 +10,90 @@ class TestCheckAmounts : public QObject
     Q_OBJECT
 
 private slots:
+    /// Alone, and behind an amount with a point or a comma: the mark is that of the decimals.
     void amounts_data()
     {
         QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("mark");
         QTest::addColumn<QStringList>("codes");
-        const auto row = [](const QString &value, const QStringList &codes = {}) {
-            QTest::newRow(qPrintable('"' + value + '"')) << value << codes;
+        const auto row = [](const QString &value, const QString &mark,
+                            const QStringList &codes = {}) {
+            QTest::newRow(qPrintable('"' + value + '"')) << value << mark << codes;
         };
 
-        row("12.50");
-        row("12.5");
-        row("12");
-        row("12.");
-        row("0.00");
-        row("");
-        row("-12.50");
-        row("- 12.50");
-        row("+12.50");
-        row("12.50-");
-        row(" 12.50 ");
-        row("12.50 EUR");
-        row("EUR 12.50");
-        row("EUR12.50");
-        row("$12.50");
-        row("-$12.50");
-        row("$-12.50");
-        row(QString::fromUtf8("12.50 €"));
-        row(QString::fromUtf8("€ 12.50"));
-        row(QString::fromUtf8("£12.50"));
-        row("1,234.50");
-        row("1'234.50");
-        row("1 234.50");
-        row("1.234.567");
-        row("12345.67");
-        row("1,234,567.00");
-        row(".50");
-        row("12.500");
+        row("12.50", ".");
+        row("12.5", ".");
+        row("12", "");
+        row("12.", ".");
+        row("0.00", ".");
+        row("", "");
+        row("-12.50", ".");
+        row("- 12.50", ".");
+        row("+12.50", ".");
+        row("12.50-", ".");
+        row(" 12.50 ", ".");
+        row("12.50 EUR", ".");
+        row("EUR 12.50", ".");
+        row("EUR12.50", ".");
+        row("$12.50", ".");
+        row("-$12.50", ".");
+        row("$-12.50", ".");
+        row(QString::fromUtf8("12.50 €"), ".");
+        row(QString::fromUtf8("€ 12.50"), ".");
+        row(QString::fromUtf8("£12.50"), ".");
+        row("1,234.50", ".");
+        row("1'234.50", ".");
+        row("1 234.50", ".");
+        row("1.234.567", "");
+        row("12345.67", ".");
+        row("1,234,567.00", ".");
+        row(".50", ".");
+        row("12.500", ".");
 
-        row("12,50", {"decimal-comma"});
-        row("12,5", {"decimal-comma"});
-        row("-12,50", {"decimal-comma"});
-        row(QString::fromUtf8("12,50 €"), {"decimal-comma"});
-        row("1.234,50", {"decimal-comma"});
-        row("1 234,50", {"decimal-comma"});
-        row(QString::fromUtf8("1\u00a0234,50"), {"decimal-comma"});
-        row("12,-", {"decimal-comma"});
+        row("12,50", ",");
+        row("12,5", ",");
+        row("-12,50", ",");
+        row(QString::fromUtf8("12,50 €"), ",");
+        row("1.234,50", ",");
+        row("1 234,50", ",");
+        row(QString::fromUtf8("1\u00a0234,50"), ",");
+        row("12,-", ",");
 
-        row("12.505", {"hundredths"});
-        row("0.001", {"hundredths"});
-        row("12,505", {"hundredths", "decimal-comma"});
-        row("12.5001", {"hundredths"});
+        row("12.505", "", {"hundredths"});
+        row("0.001", "", {"hundredths"});
+        row("12,505", "", {"hundredths"});
+        row("12.5001", "", {"hundredths"});
 
-        row("free", {"amount"});
-        row(" ", {"amount"});
-        row("-", {"amount"});
-        row(".", {"amount"});
-        row("12.50.", {"amount"});
-        row("12..50", {"amount"});
-        row("1,23,456.00", {"amount"});
-        row("12.50 each", {"amount"});
-        row("12.50 eur", {"amount"});
-        row("2 x 12.50", {"amount"});
-        row("12:50", {"amount"});
-        row("10%", {"amount"});
-        row("1e3", {"amount"});
-        row("nan", {"amount"});
-        row("0x10", {"amount"});
-        row("(12.50", {"amount"});
-        row(QString::fromUtf8("१२"), {"amount"});
+        row("free", "", {"amount"});
+        row(" ", "", {"amount"});
+        row("-", "", {"amount"});
+        row(".", "", {"amount"});
+        row("12.50.", "", {"amount"});
+        row("12..50", "", {"amount"});
+        row("1,23,456.00", "", {"amount"});
+        row("12.50 each", "", {"amount"});
+        row("12.50 eur", "", {"amount"});
+        row("2 x 12.50", "", {"amount"});
+        row("12:50", "", {"amount"});
+        row("10%", "", {"amount"});
+        row("1e3", "", {"amount"});
+        row("nan", "", {"amount"});
+        row("0x10", "", {"amount"});
+        row("(12.50", "", {"amount"});
+        row(QString::fromUtf8("१२"), "", {"amount"});
     }
 
     void amounts()
     {
         QFETCH(QString, value);
+        QFETCH(QString, mark);
         QFETCH(QStringList, codes);
-        QCOMPARE(codesIn(receipt("<total" + attribute("price", value.toUtf8()) + "/>")), codes);
+        const QByteArray total = "<total" + attribute("price", value.toUtf8()) + "/>";
+        QCOMPARE(codesIn(receipt(total)), codes);
+        QCOMPARE(codesIn(receipt("<notPaid price=\"0.50\"/>" + total)),
+                 mark == "," ? codes + QStringList("decimal-comma") : codes);
+        QCOMPARE(codesIn(receipt("<notPaid price=\"0,50\"/>" + total)),
+                 mark == "." ? codes + QStringList("decimal-comma") : codes);
     }
 
     /// As the table of amounts in docs/printer-language.md says, and what is near to it.
@@ -144,6 +153,69 @@ private slots:
                                     "<receipe_type department=\"1\" name=\"x\""
                                         + attribute("price", value.toUtf8()) + "/>")),
                  codes);
+    }
+
+    void fiscalQuantities_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QStringList>("codes");
+        const auto row = [](const QString &value, const QStringList &codes = {}) {
+            QTest::newRow(qPrintable('"' + value + '"')) << value << codes;
+        };
+
+        row("1");
+        row("12");
+        row("0.5");
+        row("0,5");
+        row(".001");
+        row("01");
+        row("+2");
+
+        row("", {"fiscal-incomplete"});
+        row("0", {"fiscal-quantity"});
+        row("0.00", {"fiscal-quantity"});
+        row("-0", {"fiscal-quantity"});
+        row("-1", {"fiscal-quantity"});
+        row("two", {"fiscal-quantity"});
+        row("1e3", {"fiscal-quantity"});
+        row("1.2.3", {"fiscal-quantity"});
+        row("1)", {"ends-command"});
+        row("1/2", {"ends-command"});
+    }
+
+    void fiscalQuantities()
+    {
+        QFETCH(QString, value);
+        QFETCH(QStringList, codes);
+        QCOMPARE(codesIn(fiscal("<receipe department=\"1\" name=\"x\" price=\"1\""
+                                + attribute("number", value.toUtf8()) + "/>")),
+                 codes);
+    }
+
+    /// Numbers of many digits are not multiplied: nobody says of them what they come to.
+    void sumsOfLargeNumbers_data()
+    {
+        QTest::addColumn<QByteArray>("number");
+        QTest::addColumn<QByteArray>("price");
+        QTest::addColumn<QStringList>("codes");
+        QTest::newRow("of six digits")
+            << QByteArray("999999") << QByteArray("99999999.99") << QStringList{"row-sum"};
+        QTest::newRow("of seven digits")
+            << QByteArray("9999999") << QByteArray("1.00") << QStringList();
+        QTest::newRow("a long price")
+            << QByteArray("9") << QByteArray("9999999999999.99") << QStringList();
+        QTest::newRow("two marks") << QByteArray("1.0.0") << QByteArray("5.00") << QStringList();
+    }
+
+    void sumsOfLargeNumbers()
+    {
+        QFETCH(QByteArray, number);
+        QFETCH(QByteArray, price);
+        QFETCH(QStringList, codes);
+        QCOMPARE(
+            codesIn(receipt("<receipe name=\"x\" totalPrice=\"1.00\"" + attribute("number", number)
+                            + attribute("price", price) + "/><total price=\"1.00\"/>")),
+            codes);
     }
 
     /// What a missing quantity of a variant prints is a mark, not nothing.

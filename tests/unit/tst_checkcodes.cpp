@@ -42,7 +42,7 @@ private slots:
         }
         const QStringList expected = {
             "no document is called \"%2\": the job ends here",
-            "\"number\" of a sale row is \"%3\", no plain number",
+            "\"number\" of a sale row is \"%3\", no number above 0",
             "\"price\" of a sale row is \"%1\", no number: 0 is registered",
         };
         QCOMPARE(texts, expected);

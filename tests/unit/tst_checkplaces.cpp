@@ -93,7 +93,7 @@ private slots:
         QByteArray job = "<!DOCTYPE job [<!ATTLIST receipe name CDATA \"a)\">]>"
                          + kitchen("<receipe number=\"1\"/>");
         QCOMPARE(shown(check::checkJob(job, nullptr)),
-                 QStringList{"1:91: warning: <receipe> has no \"name\": its place prints empty "
+                 QStringList{"1:91: error: <receipe> has no \"name\": its place prints empty "
                              "[missing-attribute]"});
         QBuffer device(&job);
         Counter counter;
