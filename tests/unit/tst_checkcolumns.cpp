@@ -79,9 +79,15 @@ private slots:
                 tag += attribute(name.constData(), name == figure ? value : QByteArray("1"));
             return documentOf(method.constData(), tag + "/>");
         };
-        QCOMPARE(codesIn(jobWith(QByteArray(width, '1')), settings.get()), QStringList());
-        QCOMPARE(codesIn(jobWith(QByteArray(width + 1, '1')), settings.get()),
-                 QStringList{"wide-line"});
+        // Figures of ones alone come to no sums.
+        const auto found = [&](int digits) {
+            QStringList codes = codesIn(jobWith(QByteArray(digits, '1')), settings.get());
+            for (const char *sum : {"row-sum", "tax-sum", "no-total", "total-sum"})
+                codes.removeAll(sum);
+            return codes;
+        };
+        QCOMPARE(found(width), QStringList());
+        QCOMPARE(found(width + 1), QStringList{"wide-line"});
     }
 
     /// Settings that leave a description one character, and one column more.
