@@ -23,20 +23,16 @@ bool isPlain(const Tag &tag)
     return !tag.text.isEmpty() || (tag.attributes.isEmpty() && !tag.holdsOthers);
 }
 
-qsizetype indexOf(const Context &context, const Tag &tag)
-{
-    return &tag - context.job.tags.constData();
-}
-
 } // namespace
 
 bool standsForAttribute(const Context &context, const Tag &tag)
 {
-    return context.spelledOut.value(tag.parent).contains(tag.name) && isPlain(tag);
+    return context.forAttributes.contains(&tag);
 }
 
 void gatherContents(Context &context)
 {
+    constexpr qsizetype mostNames = 12; // that a finding shows
     for (const Tag &tag : context.job.tags) {
         if (!isPlain(tag) || tag.parent <= 0) // in the root stand elements
             continue;
@@ -44,23 +40,21 @@ void gatherContents(Context &context)
         if (!isAttributeOf(parent.name, tag.name)
             && (tag.text.isEmpty() || vocabulary::isElement(tag.name)))
             continue;
-        QStringList &names = context.spelledOut[tag.parent];
-        if (!names.contains(tag.name))
-            names.append(tag.name);
+        context.forAttributes.insert(&tag);
+        SpelledOut &spelled = context.spelledOut[&parent];
+        if (!spelled.first)
+            spelled.first = &tag;
+        if (spelled.names.size() < mostNames && !spelled.names.contains(tag.name))
+            spelled.names.append(tag.name);
     }
 }
 
 bool noteContents(Context &context, const Tag &tag)
 {
-    const QStringList elements = context.spelledOut.value(indexOf(context, tag));
-    if (!elements.isEmpty()) {
-        const auto first = std::find_if(
-            &tag + 1, context.job.tags.constData() + context.job.tags.size(),
-            [&](const Tag &child) {
-                return child.parent == indexOf(context, tag) && standsForAttribute(context, child);
-            });
-        context.note(first->place, Code::TextContent,
-                     filled(phrase::childElements, tag.name, quoted(elements)));
+    const SpelledOut spelled = context.spelledOut.value(&tag);
+    if (spelled.first) {
+        context.note(spelled.first->place, Code::TextContent,
+                     filled(phrase::childElements, tag.name, quoted(spelled.names)));
         return true;
     }
     if (tag.text.isEmpty())

@@ -13,13 +13,21 @@
 
 namespace korvel::check {
 
+/// Elements in another one that stand for its attributes.
+struct SpelledOut
+{
+    const Tag *first = nullptr;
+    QStringList names; // the first of them, each once
+};
+
 struct Context
 {
     const Job &job;
     const SettingsFile *settings;               // null when none are given
     const vocabulary::Method *method = nullptr; // selected last; null before the first
     QList<Finding> findings;
-    QHash<qsizetype, QStringList> spelledOut;  // by tag: elements in it that stand for attributes
+    QHash<const Tag *, SpelledOut> spelledOut = {}; // by what they stand in
+    QSet<const Tag *> forAttributes;           // all of them
     QChar decimalMark;                         // of the first amount that has one
     bool mixesMarks = false;                   // once that is said
     const recode::CodePage *charset = nullptr; // of the printer; null when none is given

@@ -75,9 +75,8 @@ void checkBeforeMethod(Context &context, const Tag &tag, bool isRoot)
 /// Shared elements have names of their own choice beside those.
 bool carriesFigure(const Tag &tag)
 {
-    const bool shared =
-        vocabulary::findElement(tag.name, vocabulary::KitchenOrder)
-        && vocabulary::isShared(*vocabulary::findElement(tag.name, vocabulary::KitchenOrder));
+    const Element *inKitchen = vocabulary::findElement(tag.name, vocabulary::KitchenOrder);
+    const bool shared = inKitchen && vocabulary::isShared(*inKitchen);
     return hundredthsOf(tag.text).has_value()
            || std::any_of(vocabulary::attributes().begin(), vocabulary::attributes().end(),
                           [&](const vocabulary::Attribute &row) {
@@ -110,9 +109,7 @@ void checkIgnored(Context &context, const Tag &tag, bool isRoot)
         return;
     }
     const bool holder = isRoot || (tag.holdsOthers && tag.attributes.isEmpty());
-    const bool carriesTexts =
-        !context.spelledOut.value(&tag - context.job.tags.constData()).isEmpty();
-    if (holder && !carriesTexts) {
+    if (holder && !context.spelledOut.contains(&tag)) {
         noteContents(context, tag);
         return;
     }
@@ -163,7 +160,8 @@ QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings,
     const Job read = readJob(job);
     // All would be switched off when nothing is read of the settings: that is said of them alone.
     const SettingsFile *usable = settings && settings->isLost() ? nullptr : settings;
-    Context context{read, usable, nullptr, {}, {}, {}, false, charset, {}};
+    Context context{read, usable};
+    context.charset = charset;
     gatherContents(context);
     for (const Fault &fault : read.faults)
         context.findings.append({fault.place, fault.code, fault.text, {}, 0});

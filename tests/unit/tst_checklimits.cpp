@@ -88,6 +88,20 @@ private slots:
                  QStringList());
     }
 
+    /// Of many elements that stand for attributes, a finding shows some.
+    void manyElementsThatStandForAttributes()
+    {
+        QByteArray elements;
+        for (int i = 0; i < 80'000; ++i)
+            elements += "<e" + QByteArray::number(i) + ">1</e" + QByteArray::number(i) + '>';
+        const auto findings =
+            check::checkJob(kitchen("<receipe>" + elements + "</receipe>"), nullptr);
+        QCOMPARE(findings.size(), 1);
+        QCOMPARE(findings.first().code, check::Code::TextContent);
+        QVERIFY2(findings.first().text.size() < 200, qPrintable(findings.first().text));
+        QCOMPARE(codesIn(kitchen("<item>" + elements + "</item>")), QStringList{"unknown-element"});
+    }
+
     void longValues_data()
     {
         QTest::addColumn<QByteArray>("job");

@@ -130,9 +130,10 @@ private slots:
     /// What the schema accepts is in order for the checker too.
     void agreesWithTheChecker()
     {
-        const QSet<QString> structure = {"no-method",         "unknown-method",   "second-method",
-                                         "before-method",     "unknown-element",  "ignored-element",
-                                         "unknown-attribute", "missing-attribute"};
+        const QSet<QString> structure = {
+            "no-method",          "unknown-method",   "second-method", "before-method",
+            "unknown-element",    "ignored-element",  "lost-element",  "unknown-attribute",
+            "misspelt-attribute", "missing-attribute"};
         QByteArrayList jobs;
         for (const QString &path : filesBelow(KORVEL_SOURCE_DIR "/tests/golden/cases", "job.xml"))
             jobs.append(bytesOf(path));
