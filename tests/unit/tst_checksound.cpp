@@ -335,7 +335,5 @@ private slots:
     }
 };
 
-Q_DECLARE_METATYPE(Break)
-
 QTEST_GUILESS_MAIN(TestCheckSound)
 #include "tst_checksound.moc"
