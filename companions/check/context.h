@@ -24,14 +24,15 @@ struct Context
 {
     const Job &job;
     const SettingsFile *settings;               // null when none are given
+    const recode::CodePage *charset;            // of the printer; null when none is given
     const vocabulary::Method *method = nullptr; // selected last; null before the first
-    QList<Finding> findings;
+    QList<Finding> findings = {};
+
     QHash<const Tag *, SpelledOut> spelledOut = {}; // by what they stand in
-    QSet<const Tag *> forAttributes;           // all of them
-    QChar decimalMark;                         // of the first amount that has one
-    bool mixesMarks = false;                   // once that is said
-    const recode::CodePage *charset = nullptr; // of the printer; null when none is given
-    QSet<const Tag *> lost; // elements of which nothing is printed, though something should be
+    QSet<const Tag *> forAttributes = {};           // all of them
+    QSet<const Tag *> lost = {}; // elements of which nothing is printed, though something should be
+    QChar decimalMark = {};      // of the first amount that has one
+    bool mixesMarks = false;     // once that is said
 
     /// Notes a finding that says the wording of its code with these words.
     template<typename... Words>

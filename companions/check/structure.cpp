@@ -160,8 +160,7 @@ QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings,
     const Job read = readJob(job);
     // All would be switched off when nothing is read of the settings: that is said of them alone.
     const SettingsFile *usable = settings && settings->isLost() ? nullptr : settings;
-    Context context{read, usable};
-    context.charset = charset;
+    Context context{read, usable, charset};
     gatherContents(context);
     for (const Fault &fault : read.faults)
         context.findings.append({fault.place, fault.code, fault.text, {}, 0});
