@@ -26,13 +26,13 @@ void silence(QtMsgType /*type*/, const QMessageLogContext & /*context*/, const Q
 {
 }
 
-/// Loads the catalogue that the settings name. The toolkit completes the name; what it does not find
-/// leaves labels untranslated.
+/// Loads the catalogue that the settings name. The toolkit completes the name; what it does not
+/// find leaves labels untranslated.
 void loadTranslation(QTranslator &translator, const KVConfiguration &settings)
 {
-    const QString name = korvel::catalogue::nameOf(
-        settings.getStrValue(pathOf(group::language, language::basedir)),
-        settings.getStrValue(pathOf(group::language, language::file)));
+    const QString name =
+        korvel::catalogue::nameOf(settings.getStrValue(pathOf(group::language, language::basedir)),
+                                  settings.getStrValue(pathOf(group::language, language::file)));
     if (!name.isEmpty())
         static_cast<void>(translator.load(korvel::path::forToolkit(name)));
 }
