@@ -13,8 +13,8 @@ namespace korvel::check {
 
 using namespace Qt::Literals::StringLiterals;
 
-/// An error loses or falsifies something on the paper; a warning is about what is probably not
-/// meant.
+/// An error: what is said is not on the paper, or is there wrongly, or the printer refuses it. A
+/// warning: it is odd, but on the paper, or only a text that decorates is not.
 enum class Level { Error, Warning };
 
 /// The kinds of findings, in the order of docs/checks.md: each has its row below.
@@ -390,8 +390,7 @@ const CodeInfo *findCode(QAnyStringView name);
 /// "error" or "warning".
 QLatin1StringView levelName(Level level);
 
-/// What a finding says: the wording of its code with words at its places, in one line whatever they
-/// are.
+/// What a finding says: the wording of its code with words at its places, in one line.
 template<typename... Words>
 QString worded(Code code, const Words &...words)
 {
