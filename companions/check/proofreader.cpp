@@ -233,14 +233,16 @@ qint64 Proofreader::missingSemicolon(qint64 from, qint64 to) const
     const qint64 firstEnd = scan.lineEnd(from, to);
     bool isQuoted = false;
     for (qint64 at = from; at < firstEnd; ++at) {
-        if (bytes[at] == '"')
+        if (bytes[at] == '"') {
             isQuoted = !isQuoted;
-        else if (isQuoted || scan.isSpace(at))
             continue;
-        else if (bytes[at] == '}' && scan.behindSpace(at + 1) >= firstEnd)
-            return scan.trimmedEnd(from, at);
-        else if ((scan.isSpace(at - 1) || bytes[at - 1] == '"') && scan.isNameBefore("=:", at)
-                 && isKnown(latin1(at, scan.wordEnd(at))))
+        }
+        if (isQuoted || scan.isSpace(at))
+            continue;
+        const bool closes = bytes[at] == '}' && scan.behindSpace(at + 1) >= firstEnd;
+        if (closes
+            || ((scan.isSpace(at - 1) || bytes[at - 1] == '"') && scan.isNameBefore("=:", at)
+                && isKnown(latin1(at, scan.wordEnd(at)))))
             return scan.trimmedEnd(from, at);
     }
     qint64 lastEndOfText = scan.trimmedEnd(from, firstEnd);

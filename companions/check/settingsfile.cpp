@@ -186,7 +186,7 @@ Place SettingsFile::placeOf(qint64 offset) const
 }
 
 /// Likewise, of a byte of the file as it is meant.
-Place SettingsFile::placeOfMeant(qint64 offset) const { return placeOf(offsetOfMeant(offset)); }
+Place SettingsFile::placeOfMeant(qint64 meant) const { return placeOf(offsetOfMeant(meant)); }
 
 qint64 SettingsFile::offsetOfMeant(qint64 meant) const
 {

@@ -76,9 +76,8 @@ QString unshown(const QString &line)
     QStringList found;
     for (const uint point : line.toUcs4()) {
         const QChar::Category category = QChar::category(point);
-        if (category <= QChar::Other_NotAssigned && category >= QChar::Other_Control)
-            found.append(QString::number(point, 16));
-        else if (category == QChar::Separator_Line || category == QChar::Separator_Paragraph)
+        const bool other = category <= QChar::Other_NotAssigned && category >= QChar::Other_Control;
+        if (other || category == QChar::Separator_Line || category == QChar::Separator_Paragraph)
             found.append(QString::number(point, 16));
     }
     return found.join(' ');
