@@ -1,6 +1,8 @@
 // The list of words, and how it is searched.
 #include "companions/check/synonyms.h"
 
+#include <QHash>
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -142,17 +144,26 @@ QString plain(const QString &word)
     return letters;
 }
 
+/// What each word may mean, in the order of the list.
+QHash<QString, QStringList> namesByWord()
+{
+    QHash<QString, QStringList> names;
+    for (const Synonyms &row : synonyms) {
+        for (const QString &word : QString(row.words).split(u' '))
+            names[word].append(row.name);
+    }
+    return names;
+}
+
 } // namespace
 
 QString synonymOf(const QString &word, const QStringList &names)
 {
-    const QString looked = plain(word);
-    for (const auto &[name, words] : synonyms) {
-        const QStringList all = QString(words).split(u' ');
-        if (all.contains(looked) && names.contains(name))
-            return name;
-    }
-    return {};
+    static const auto byWord = namesByWord();
+    const auto meant = byWord.value(plain(word));
+    const auto found = std::find_if(meant.begin(), meant.end(),
+                                    [&](const QString &name) { return names.contains(name); });
+    return found == meant.end() ? QString() : *found;
 }
 
 } // namespace korvel::check
