@@ -45,7 +45,7 @@ inline constexpr QLatin1StringView report{"<job>\n"
                                           "  %1\n"
                                           "</job>"};
 inline constexpr QLatin1StringView customer{"<job>\n"
-                                            "  <method name=\"%1\"/>\n"
+                                            "  %1\n"
                                             "  <customer name=\"Mario Rossi\"/>\n"
                                             "</job>"};
 inline constexpr QLatin1StringView prices{
@@ -190,8 +190,8 @@ inline constexpr Example exampleTable[] = {
      "<recipe number=\"2\" name=\"Coffee\"/>"_L1,
      "<receipe number=\"2\" name=\"Coffee\"/>"_L1},
     {Code::IgnoredElement, example::none, example::customer,
-     "printAbstractOrderReceipt"_L1,
-     "printFullOrderReceipt"_L1},
+     "<method name=\"printAbstractOrderReceipt\"/>"_L1,
+     "<method name=\"printFullOrderReceipt\"/>"_L1},
     {Code::LostElement, example::none, example::order,
      "<total price=\"12.00\"/>"_L1,
      "<receipe number=\"1\" name=\"Coffee\"/>"_L1},
