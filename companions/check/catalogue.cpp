@@ -47,9 +47,8 @@ QString joined(QStringList paths)
 }
 
 /// Why no catalogue is loaded; empty when one is, or when the folder has those of other locales.
-QString whyUntranslated(const QString &folder, const QString &file)
+QString whyUntranslated(const QString &name, const QString &folder, const QString &file)
 {
-    const QString name = korvel::path::forToolkit(korvel::catalogue::nameOf(folder, file));
     if (QTranslator().load(name))
         return {};
     if (file == korvel::catalogue::byLocale) {
@@ -75,6 +74,13 @@ QString whyUntranslated(const QString &folder, const QString &file)
 
 } // namespace
 
+QString catalogueOf(const SettingsFile &settings)
+{
+    const QString name = catalogue::nameOf(settings.value(group::language, language::basedir),
+                                           settings.value(group::language, language::file));
+    return name.isEmpty() ? QString() : path::forToolkit(name);
+}
+
 void checkCatalogue(const SettingsFile &settings, QList<Finding> &findings)
 {
     const QString file = settings.value(group::language, language::file);
@@ -87,7 +93,8 @@ void checkCatalogue(const SettingsFile &settings, QList<Finding> &findings)
         });
     if (entry == entries.end())
         return;
-    const QString why = whyUntranslated(settings.value(group::language, language::basedir), file);
+    const QString folder = settings.value(group::language, language::basedir);
+    const QString why = whyUntranslated(catalogueOf(settings), folder, file);
     if (!why.isEmpty())
         findings.append({entry->place, Code::Catalogue, worded(Code::Catalogue, why),
                          entry->groups + QStringList(entry->key), entry->occurrence});

@@ -5,6 +5,9 @@
 
 namespace korvel::check {
 
+/// The name of the catalogue that settings name, as the toolkit takes it; empty for none.
+QString catalogueOf(const SettingsFile &settings);
+
 /// Notes a catalogue that cannot be loaded, at the setting that names it.
 void checkCatalogue(const SettingsFile &settings, QList<Finding> &findings);
 

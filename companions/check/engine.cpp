@@ -1,9 +1,8 @@
 // The engine run on the tags of a job, its commands in a text.
 #include "companions/check/engine.h"
 
+#include "companions/check/catalogue.h"
 #include "companions/preview/findings.h"
-#include "config/catalogue.h"
-#include "config/path.h"
 #include "printer/company/companyprinterdriver.h"
 #include "vocabulary/paper.h"
 
@@ -22,7 +21,6 @@ namespace {
 using vocabulary::Method;
 namespace attribute = vocabulary::attribute;
 namespace element = vocabulary::element;
-namespace language = vocabulary::language;
 
 class Driver : public CompanyPrinterDriver
 {
@@ -38,15 +36,6 @@ bool hasRows(const Method &method)
     return std::any_of(
         std::begin(vocabulary::itemRows), std::end(vocabulary::itemRows),
         [&](const vocabulary::ItemRows &rows) { return (rows.documents & method.document) != 0; });
-}
-
-/// The path of the catalogue that settings name; empty for none.
-QString catalogueOf(const SettingsFile &settings)
-{
-    const QString name =
-        catalogue::nameOf(settings.value(vocabulary::group::language, language::basedir),
-                          settings.value(vocabulary::group::language, language::file));
-    return name.isEmpty() ? QString() : path::forToolkit(name);
 }
 
 /// A value as the renderer reads it, with its line break, which XML makes a blank. Which one of

@@ -39,7 +39,11 @@ bool isTop(const QString &name) { return isNear(name, {vocabulary::group::korvel
 bool isGroup(const QString &name) { return isNear(name, vocabulary::groupNames()); }
 bool isSetting(const QString &name) { return isNear(name, settingNames()); }
 
-static bool isKnown(const QString &name) { return isSetting(name) || isGroup(name) || isTop(name); }
+namespace {
+
+bool isKnown(const QString &name) { return isSetting(name) || isGroup(name) || isTop(name); }
+
+} // namespace
 
 QString Proofreader::latin1(qint64 from, qint64 to) const
 {

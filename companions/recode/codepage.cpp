@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <memory>
 #include <type_traits>
 
@@ -52,9 +53,9 @@ Converted convert(iconv_t converter, QByteArray bytes)
 
 Converter opened(const QByteArray &name)
 {
-    const auto failed = reinterpret_cast<iconv_t>(-1); // NOLINT(performance-no-int-to-ptr)
+    constexpr std::intptr_t failed = -1; // as a descriptor
     iconv_t converter = iconv_open("UTF-8", name.constData());
-    return Converter(converter == failed ? nullptr : converter);
+    return Converter(reinterpret_cast<std::intptr_t>(converter) == failed ? nullptr : converter);
 }
 
 /// Names that iconv() takes for something else: the user's own encoding, and ways to convert.

@@ -26,10 +26,10 @@
 
 #ifndef KORVEL_SANITIZED
 extern "C" {
-void *__libc_malloc(std::size_t);                // NOLINT(bugprone-reserved-identifier)
-void *__libc_calloc(std::size_t, std::size_t);   // NOLINT(bugprone-reserved-identifier)
-void *__libc_realloc(void *, std::size_t);       // NOLINT(bugprone-reserved-identifier)
-void *__libc_memalign(std::size_t, std::size_t); // NOLINT(bugprone-reserved-identifier)
+void *libcMalloc(std::size_t) asm("__libc_malloc");
+void *libcCalloc(std::size_t, std::size_t) asm("__libc_calloc");
+void *libcRealloc(void *, std::size_t) asm("__libc_realloc");
+void *libcMemalign(std::size_t, std::size_t) asm("__libc_memalign");
 }
 #endif
 
@@ -138,14 +138,16 @@ int countedMain(int argc, char **argv, char **environment)
 
 extern "C" {
 
-// NOLINTNEXTLINE(bugprone-reserved-identifier)
-int __libc_start_main(int (*main)(int, char **, char **), int argc, char **argv, void (*init)(),
-                      void (*fini)(), void (*loaderFini)(), void *stackEnd)
+int startMain(int (*main)(int, char **, char **), int argc, char **argv, void (*init)(),
+              void (*fini)(), void (*loaderFini)(), void *stackEnd) asm("__libc_start_main");
+
+int startMain(int (*main)(int, char **, char **), int argc, char **argv, void (*init)(),
+              void (*fini)(), void (*loaderFini)(), void *stackEnd)
 {
     readEnvironment();
     programMain = main;
-    return next(&__libc_start_main, "__libc_start_main")(countedMain, argc, argv, init, fini,
-                                                         loaderFini, stackEnd);
+    return next(&startMain, "__libc_start_main")(countedMain, argc, argv, init, fini, loaderFini,
+                                                 stackEnd);
 }
 
 ssize_t write(int descriptor, const void *bytes, size_t count)
@@ -237,28 +239,28 @@ int statx(int folder, const char *path, int flags, unsigned mask, struct statx *
 }
 
 #ifndef KORVEL_SANITIZED // whose memory a sanitizer gives out
-void *malloc(size_t size) { return fails("alloc") ? nullptr : __libc_malloc(size); }
+void *malloc(size_t size) { return fails("alloc") ? nullptr : libcMalloc(size); }
 
 void *calloc(size_t count, size_t size)
 {
-    return fails("alloc") ? nullptr : __libc_calloc(count, size);
+    return fails("alloc") ? nullptr : libcCalloc(count, size);
 }
 
 void *realloc(void *block, size_t size)
 {
-    return fails("alloc") ? nullptr : __libc_realloc(block, size);
+    return fails("alloc") ? nullptr : libcRealloc(block, size);
 }
 
 void *aligned_alloc(size_t alignment, size_t size)
 {
-    return fails("alloc") ? nullptr : __libc_memalign(alignment, size);
+    return fails("alloc") ? nullptr : libcMemalign(alignment, size);
 }
 
 int posix_memalign(void **block, size_t alignment, size_t size)
 {
     if (fails("alloc"))
         return ENOMEM;
-    *block = __libc_memalign(alignment, size);
+    *block = libcMemalign(alignment, size);
     return *block ? 0 : ENOMEM;
 }
 #endif

@@ -1,12 +1,10 @@
 // Jobs of any bytes, through the checker, and beside it through the renderer's own reader.
-#include "app/jobguard.h"
 #include "companions/check/checks.h"
 #include "companions/check/settingsfile.h"
 #include "fuzz/expect.h"
+#include "support/guardedjob.h"
 
-#include <QBuffer>
 #include <QStringDecoder>
-#include <QXmlDefaultHandler>
 
 #include <algorithm>
 #include <cstddef>
@@ -27,28 +25,6 @@ QByteArray settingsText()
                     "printHeader = true; printCustomer = true; printTelephone = true; "
                     "printDeliveryAddress = true; printDate = true; printNote = true; };";
     return "korvel: {" + groups + "};";
-}
-
-/// Notes whether a job was read to its end, and lets every element pass.
-class Listener : public QXmlDefaultHandler
-{
-public:
-    bool ended = false;
-
-    bool endDocument() override
-    {
-        ended = true;
-        return true;
-    }
-};
-
-bool isReadToItsEnd(QByteArray bytes)
-{
-    QBuffer job(&bytes);
-    Listener listener;
-    korvel::app::JobGuard guard(listener);
-    guard.parse(job);
-    return listener.ended;
 }
 
 /// The lines of a job that names no encoding, without their ends; of any other job none.

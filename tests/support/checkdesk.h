@@ -33,6 +33,16 @@ inline const QByteArray inAscii =
     "accents.xml:2:49: warning: \"description\" has what ascii lacks: \"è\" (U+00E8) prints as "
     "\"e\" [not-in-charset]\n";
 
+/// Adds the columns of runs, and gives what adds a run: its arguments, status and output.
+inline auto addRuns()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QByteArray>("output");
+    return [](const char *what, const QStringList &arguments, int status,
+              const QByteArray &output) { QTest::newRow(what) << arguments << status << output; };
+}
+
 /// A folder with a job of each kind, and settings.
 class Desk
 {

@@ -1,9 +1,13 @@
 // Jobs that a schema of jobs accepts, and jobs with one thing wrong, each beside the same without.
 #pragma once
 
+#include "companions/check/vocabulary.h"
+#include "support/files.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QTest>
 
 struct SoundJob
 {
@@ -29,6 +33,16 @@ inline const QByteArray kitchenItem = "<receipe number=\"1\" name=\"x\"/>";
 inline const QByteArray pricedItem =
     "<receipe number=\"1\" name=\"x\" price=\"1\" totalPrice=\"1\"/>";
 inline const QByteArray saleRow = "<receipe department=\"1\" number=\"1\" name=\"x\" price=\"1\"/>";
+
+/// A data row for each example, one of each document.
+inline void addExampleJobs()
+{
+    QTest::addColumn<QString>("path");
+    const QStringList paths = filesBelow(KORVEL_SOURCE_DIR "/examples/jobs", "*.xml");
+    QCOMPARE(paths.size(), korvel::vocabulary::methods().size());
+    for (const QString &path : paths)
+        QTest::newRow(qPrintable(path.section('/', -1))) << path;
+}
 
 inline QList<SoundJob> soundJobs()
 {

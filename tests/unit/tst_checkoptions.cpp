@@ -14,13 +14,7 @@ class TestCheckOptions : public QObject
 private slots:
     void ignore_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QByteArray>("output");
-        const auto row = [](const char *what, const QStringList &arguments, int status,
-                            const QByteArray &output) {
-            QTest::newRow(what) << arguments << status << output;
-        };
+        const auto row = addRuns();
 
         row("an error", {"--ignore", "unknown-element", "error.xml"}, 0, "");
         row("an error, strict", {"--strict", "--ignore=unknown-element", "error.xml"}, 0, "");

@@ -11,13 +11,7 @@ class TestCheckProgram : public QObject
 private slots:
     void findingsAndStatus_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QByteArray>("output");
-        const auto row = [](const char *what, const QStringList &arguments, int status,
-                            const QByteArray &output) {
-            QTest::newRow(what) << arguments << status << output;
-        };
+        const auto row = addRuns();
 
         row("clean", {"clean.xml"}, 0, "");
         row("a warning", {"warning.xml"}, 0, "warning.xml" + warning);

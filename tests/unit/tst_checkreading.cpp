@@ -1,42 +1,17 @@
 // What can be read of a job: the checker and the renderer agree, and samples are in order.
-#include "app/jobguard.h"
 #include "companions/check/vocabulary.h"
 #include "support/bytes.h"
 #include "support/checkjobs.h"
 #include "support/files.h"
+#include "support/guardedjob.h"
 
-#include <QBuffer>
 #include <QTest>
-#include <QXmlDefaultHandler>
 
 #include <algorithm>
 
 namespace check = korvel::check;
 
 namespace {
-
-/// Notes whether a job was read to its end, and lets every element pass.
-class Listener : public QXmlDefaultHandler
-{
-public:
-    bool ended = false;
-
-    bool endDocument() override
-    {
-        ended = true;
-        return true;
-    }
-};
-
-/// Whether the renderer reads a job to its end, methods aside.
-bool isReadToItsEnd(QByteArray bytes)
-{
-    QBuffer job(&bytes);
-    Listener listener;
-    korvel::app::JobGuard guard(listener);
-    guard.parse(job);
-    return listener.ended;
-}
 
 /// Whether the checker takes a job for one that the renderer reads to its end.
 bool isReadable(const QByteArray &job)

@@ -196,8 +196,7 @@ private slots:
 
     void outputToAFullDevice()
     {
-        if (!QFile::exists("/dev/full"))
-            QSKIP("there is no /dev/full here");
+        QVERIFY(QFile::exists("/dev/full"));
         const CapturedOutput output;
         {
             FileDriver driver("/dev/full", false);

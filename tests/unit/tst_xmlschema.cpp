@@ -42,14 +42,7 @@ private slots:
         QCOMPARE(cut.run(documentOf("printSold", "")).status, int(BadSchema));
     }
 
-    void examples_data()
-    {
-        QTest::addColumn<QString>("path");
-        const QStringList paths = filesBelow(KORVEL_SOURCE_DIR "/examples/jobs", "*.xml");
-        QCOMPARE(paths.size(), vocabulary::methods().size());
-        for (const QString &path : paths)
-            QTest::newRow(qPrintable(path.section('/', -1))) << path;
-    }
+    void examples_data() { addExampleJobs(); }
 
     void examples()
     {
