@@ -29,7 +29,7 @@ void limitMemory()
 /// Ends the run at once. What was written so far stands.
 [[noreturn]] void end() { _exit(0); }
 
-[[noreturn]] void endOnSignal(int /*signal*/) { end(); }
+[[maybe_unused, noreturn]] void endOnSignal(int /*signal*/) { end(); }
 
 /// Lets the process end quietly where no exception can: memory runs out in a destructor, or where
 /// the toolkit does not look whether it got any; the stack runs out.
