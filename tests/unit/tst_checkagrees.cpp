@@ -6,16 +6,16 @@
 #include "support/files.h"
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
+
+namespace tst_checkagrees {
 
 namespace check = korvel::check;
 namespace preview = korvel::preview;
-
-namespace {
 
 const QString top = KORVEL_SOURCE_DIR "/";
 const QString catalogues = KORVEL_BINARY_DIR "/translations";
@@ -92,8 +92,6 @@ QStringList excusedIn(const QString &job, const QString &language = "en")
         return {"38"};
     return {};
 }
-
-} // namespace
 
 class TestCheckAgrees : public QObject
 {
@@ -194,5 +192,8 @@ private:
     QMap<QString, qsizetype> counts; // of lines found, by the test's row
 };
 
-QTEST_GUILESS_MAIN(TestCheckAgrees)
+KORVEL_TEST(TestCheckAgrees)
+
+} // namespace tst_checkagrees
+
 #include "tst_checkagrees.moc"

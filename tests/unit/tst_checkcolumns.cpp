@@ -2,8 +2,9 @@
 #include "companions/check/vocabulary.h"
 #include "support/checkjobs.h"
 #include "support/settingstext.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_checkcolumns {
 
 class TestCheckColumns : public QObject
 {
@@ -163,5 +164,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckColumns)
+KORVEL_TEST(TestCheckColumns)
+
+} // namespace tst_checkcolumns
+
 #include "tst_checkcolumns.moc"

@@ -1,12 +1,11 @@
 // The files of korvel-check: standard input, any names, and what cannot be read or written.
 #include "support/bytenames.h"
 #include "support/checkdesk.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <algorithm>
 
-namespace {
+namespace tst_checkfiles {
 
 /// A name as --json gives it: half a pair for a byte that is no UTF-8, what does not print escaped.
 QByteArray inJson(const QByteArray &name)
@@ -22,8 +21,6 @@ QByteArray inJson(const QByteArray &name)
     }
     return text.replace("\x1b", "\\u001b").replace("\xEF\xBB\xBF", "\\ufeff");
 }
-
-} // namespace
 
 class TestCheckFiles : public QObject
 {
@@ -156,5 +153,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckFiles)
+KORVEL_TEST(TestCheckFiles)
+
+} // namespace tst_checkfiles
+
 #include "tst_checkfiles.moc"

@@ -2,15 +2,15 @@
 // holds.
 #include "support/bytenames.h"
 #include "support/checkdesk.h"
+#include "support/test.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <algorithm>
 
-namespace {
+namespace tst_checklines {
 
 /// Characters that end lines, turn texts round, have no shape or command terminals. XML forbids
 /// some of them.
@@ -82,8 +82,6 @@ QString unshown(const QString &line)
     }
     return found.join(' ');
 }
-
-} // namespace
 
 class TestCheckLines : public QObject
 {
@@ -195,5 +193,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckLines)
+KORVEL_TEST(TestCheckLines)
+
+} // namespace tst_checklines
+
 #include "tst_checklines.moc"

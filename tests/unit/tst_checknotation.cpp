@@ -2,15 +2,15 @@
 #include "config/config.h"
 #include "support/bytes.h"
 #include "support/checkjobs.h"
+#include "support/test.h"
 
 #include <QDomDocument>
-#include <QTest>
 
 #include <functional>
 
-namespace check = korvel::check;
+namespace tst_checknotation {
 
-namespace {
+namespace check = korvel::check;
 
 const QByteArray example = bytesOf(KORVEL_SOURCE_DIR "/examples/korvel.conf");
 
@@ -25,8 +25,6 @@ bool readsTheSame(const QByteArray &a, const QByteArray &b)
     };
     return Reader(a).written() == Reader(b).written();
 }
-
-} // namespace
 
 class TestCheckNotation : public QObject
 {
@@ -188,5 +186,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckNotation)
+KORVEL_TEST(TestCheckNotation)
+
+} // namespace tst_checknotation
+
 #include "tst_checknotation.moc"

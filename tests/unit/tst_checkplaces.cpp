@@ -2,10 +2,12 @@
 #include "app/jobguard.h"
 #include "support/checkjobs.h"
 #include "support/settingstext.h"
+#include "support/test.h"
 
 #include <QBuffer>
-#include <QTest>
 #include <QXmlDefaultHandler>
+
+namespace tst_checkplaces {
 
 namespace check = korvel::check;
 
@@ -145,5 +147,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckPlaces)
+KORVEL_TEST(TestCheckPlaces)
+
+} // namespace tst_checkplaces
+
 #include "tst_checkplaces.moc"

@@ -1,7 +1,8 @@
 // Texts in one line: characters that print, and what stands for the others.
 #include "companions/shared/oneline.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_oneline {
 
 using namespace Qt::Literals::StringLiterals;
 using namespace korvel::shared;
@@ -63,6 +64,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestOneLine)
+KORVEL_TEST(TestOneLine)
+
+} // namespace tst_oneline
 
 #include "tst_oneline.moc"

@@ -4,14 +4,14 @@
 #include "companions/preview/paper.h"
 #include "support/bytes.h"
 #include "support/streams.h"
+#include "support/test.h"
 
 #include <QDirIterator>
 #include <QMap>
-#include <QTest>
+
+namespace tst_previewfindings {
 
 using namespace korvel::preview;
-
-namespace {
 
 /// What is found in a stream, as lines of text: "2: byte 6: ..." is about line 2 of the stream.
 QStringList foundIn(const QByteArray &stream, int columns = 32)
@@ -24,8 +24,6 @@ QStringList foundIn(const QByteArray &stream, int columns = 32)
     }
     return lines;
 }
-
-} // namespace
 
 class TestPreviewFindings : public QObject
 {
@@ -137,5 +135,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewFindings)
+KORVEL_TEST(TestPreviewFindings)
+
+} // namespace tst_previewfindings
+
 #include "tst_previewfindings.moc"

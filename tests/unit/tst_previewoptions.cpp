@@ -1,8 +1,9 @@
 // korvel-preview as a user starts it: the paper, its width, options that are none, help.
 #include "support/previewdesk.h"
 #include "support/streams.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_previewoptions {
 
 class TestPreviewOptions : public QObject
 {
@@ -198,5 +199,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewOptions)
+KORVEL_TEST(TestPreviewOptions)
+
+} // namespace tst_previewoptions
+
 #include "tst_previewoptions.moc"

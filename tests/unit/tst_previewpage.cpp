@@ -2,14 +2,14 @@
 #include "support/names.h"
 #include "support/previewdesk.h"
 #include "support/streams.h"
+#include "support/test.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <QTest>
 
-namespace {
+namespace tst_previewpage {
 
 const QString page = KORVEL_SOURCE_DIR "/docs/preview.md";
 const QString schema = KORVEL_SOURCE_DIR "/docs/preview.schema.json";
@@ -37,8 +37,6 @@ QStringList firstCells(const QString &heading)
         cells.append(match.captured(1).remove('`'));
     return cells;
 }
-
-} // namespace
 
 class TestPreviewPage : public QObject
 {
@@ -139,5 +137,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewPage)
+KORVEL_TEST(TestPreviewPage)
+
+} // namespace tst_previewpage
+
 #include "tst_previewpage.moc"

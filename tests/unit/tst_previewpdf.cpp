@@ -3,12 +3,14 @@
 #include "support/files.h"
 #include "support/pictures.h"
 #include "support/program.h"
+#include "support/test.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <cmath>
+
+namespace tst_previewpdf {
 
 using namespace korvel::preview;
 
@@ -86,5 +88,8 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestPreviewPdf)
+KORVEL_TEST(TestPreviewPdf)
+
+} // namespace tst_previewpdf
+
 #include "tst_previewpdf.moc"

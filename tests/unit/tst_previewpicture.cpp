@@ -1,18 +1,18 @@
 // The paper as a picture: sizes, paper, ink and colours, dot by dot.
 #include "companions/preview/picture.h"
 #include "support/pictures.h"
+#include "support/test.h"
 
 #include <QImage>
 #include <QPainter>
-#include <QTest>
 
 #include <algorithm>
+
+namespace tst_previewpicture {
 
 using namespace korvel::preview;
 
 using Kind = PaperRow::Kind;
-
-namespace {
 
 QImage imageOf(const QList<PaperRow> &rows) { return Picture(rows, columns).toImage(); }
 
@@ -50,8 +50,6 @@ bool any(const QList<QColor> &dots, bool (*is)(const QColor &))
 {
     return std::any_of(dots.begin(), dots.end(), is);
 }
-
-} // namespace
 
 class TestPreviewPicture : public QObject
 {
@@ -299,5 +297,8 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestPreviewPicture)
+KORVEL_TEST(TestPreviewPicture)
+
+} // namespace tst_previewpicture
+
 #include "tst_previewpicture.moc"

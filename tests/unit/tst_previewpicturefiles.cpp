@@ -1,10 +1,11 @@
 // The pictures that korvel-preview writes into files.
 #include "support/previewdesk.h"
 #include "support/streams.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <sys/stat.h>
+
+namespace tst_previewpicturefiles {
 
 class TestPreviewPictureFiles : public QObject
 {
@@ -108,5 +109,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewPictureFiles)
+KORVEL_TEST(TestPreviewPictureFiles)
+
+} // namespace tst_previewpicturefiles
+
 #include "tst_previewpicturefiles.moc"

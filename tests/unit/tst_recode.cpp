@@ -1,12 +1,11 @@
 // Code pages by name, and texts in their bytes: what is kept, what is replaced, where it stands.
 #include "companions/recode/codepage.h"
 #include "companions/recode/substitutes.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_recode {
 
 using namespace korvel::recode;
-
-namespace {
 
 /// Losses as text: "2:5 U+20AC E" with the line, the column and the substitute.
 QStringList shown(const QList<Loss> &losses)
@@ -20,8 +19,6 @@ QStringList shown(const QList<Loss> &losses)
                          .arg(loss.substitute));
     return texts;
 }
-
-} // namespace
 
 class TestRecode : public QObject
 {
@@ -151,5 +148,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestRecode)
+KORVEL_TEST(TestRecode)
+
+} // namespace tst_recode
+
 #include "tst_recode.moc"

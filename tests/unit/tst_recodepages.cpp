@@ -3,16 +3,15 @@
 #include "companions/recode/codepage.h"
 #include "companions/recode/substitutes.h"
 #include "support/streams.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <algorithm>
 #include <utility>
 
+namespace tst_recodepages {
+
 using namespace korvel::recode;
 using korvel::preview::Command;
-
-namespace {
 
 /// Names that any iconv() may know; those that it knows here are found by trying.
 QByteArrayList names()
@@ -79,8 +78,6 @@ QStringList commandsOf(const QByteArray &stream, const CodePage &page)
     }
     return all;
 }
-
-} // namespace
 
 class TestRecodePages : public QObject
 {
@@ -184,5 +181,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestRecodePages)
+KORVEL_TEST(TestRecodePages)
+
+} // namespace tst_recodepages
+
 #include "tst_recodepages.moc"

@@ -4,15 +4,15 @@
 #include "support/settingsfiles.h"
 #include "support/settingstext.h"
 #include "support/settingsview.h"
+#include "support/test.h"
 
 #include <QMap>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTreeWidgetItemIterator>
 
-using namespace korvel::settings;
+namespace tst_settingshints {
 
-namespace {
+using namespace korvel::settings;
 
 /// Marked rows and what they say: "korvel.doc.printDate: ...". A value's row stands for itself.
 QMap<QString, QString> marksOf(QTreeWidget &view)
@@ -32,8 +32,6 @@ QMap<QString, QString> marksOf(QTreeWidget &view)
 }
 
 void mark(QTreeWidget &view) { hints::mark(view, SettingsDocument::writtenBy(view)); }
-
-} // namespace
 
 class TestSettingsHints : public QObject
 {
@@ -248,5 +246,8 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestSettingsHints)
+KORVEL_TEST(TestSettingsHints)
+
+} // namespace tst_settingshints
+
 #include "tst_settingshints.moc"

@@ -3,12 +3,14 @@
 #include "support/settingsfiles.h"
 #include "support/settingstext.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
 #include <QDir>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <csignal>
+
+namespace tst_settingsrendering {
 
 using namespace korvel::settings;
 
@@ -194,5 +196,8 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestSettingsRendering)
+KORVEL_TEST(TestSettingsRendering)
+
+} // namespace tst_settingsrendering
+
 #include "tst_settingsrendering.moc"

@@ -1,7 +1,8 @@
 // The tables of the vocabulary: their rows fit together, and are found.
+#include "support/test.h"
 #include "support/vocabularytables.h"
 
-#include <QTest>
+namespace tst_vocabulary {
 
 using vocabulary::Attribute;
 using vocabulary::Document;
@@ -139,5 +140,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestVocabulary)
+KORVEL_TEST(TestVocabulary)
+
+} // namespace tst_vocabulary
+
 #include "tst_vocabulary.moc"

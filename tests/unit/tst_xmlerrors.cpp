@@ -1,11 +1,10 @@
 // What is wrong with the XML of a job: the place and the words, and what keeps an XML bomb small.
 #include "companions/check/job.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_xmlerrors {
 
 namespace check = korvel::check;
-
-namespace {
 
 /// What is wrong with a job, behind the place: "2:5: words". A job is read up to one fault at most.
 QString faultIn(const QByteArray &job, const QByteArray &code = "malformed-xml")
@@ -35,8 +34,6 @@ QByteArray multiplied(int count)
     }
     return declarations;
 }
-
-} // namespace
 
 class TestXmlErrors : public QObject
 {
@@ -278,5 +275,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestXmlErrors)
+KORVEL_TEST(TestXmlErrors)
+
+} // namespace tst_xmlerrors
+
 #include "tst_xmlerrors.moc"
