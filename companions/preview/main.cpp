@@ -3,6 +3,7 @@
 #include "companions/preview/listing.h"
 #include "companions/preview/picture.h"
 #include "companions/preview/terminal.h"
+#include "companions/recode/codepage.h"
 #include "companions/shared/commandline.h"
 #include "companions/shared/files.h"
 #include "companions/shared/oneline.h"
@@ -20,6 +21,7 @@
 
 #include <unistd.h>
 
+using korvel::recode::CodePage;
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
 namespace commands = korvel::commands;
@@ -33,6 +35,9 @@ constexpr int mostColumns = 255;
 const QCommandLineOption columnsOption(u"columns"_s,
                                        u"Characters in a line of the paper, from 1 to 255."_s,
                                        u"number"_s, QString::number(commands::lineWidth));
+const QCommandLineOption
+    charsetOption(u"charset"_s, u"The code page of an 8-bit printer that the stream is in."_s,
+                  u"name"_s, u"UTF-8"_s);
 const QCommandLineOption outputOption({u"o"_s, u"output"_s},
                                       u"Write a picture, .png or .pdf, instead."_s, u"file"_s);
 const QCommandLineOption jsonOption(u"json"_s, u"Write a JSON object for each command instead."_s);
@@ -72,13 +77,14 @@ int writePicture(const QString &path, const QList<preview::PaperRow> &rows, int 
 }
 
 /// Writes what the options ask for; the status to end with.
-int write(const QCommandLineParser &parser, const QByteArray &stream, int columns, int status)
+int write(const QCommandLineParser &parser, const QByteArray &stream, int columns,
+          const CodePage &page, int status)
 {
     if (parser.isSet(outputOption))
-        return writePicture(parser.value(outputOption), preview::paperOf(stream, columns), columns,
-                            status);
+        return writePicture(parser.value(outputOption), preview::paperOf(stream, columns, page),
+                            columns, status);
     Output out;
-    preview::Decoder decoder(stream);
+    preview::Decoder decoder(stream, page);
     if (parser.isSet(jsonOption)) {
         while (const auto command = decoder.next())
             out << QString::fromUtf8(QJsonDocument(toJson(*command)).toJson(QJsonDocument::Compact))
@@ -104,7 +110,8 @@ int run(const QStringList &arguments)
     parser.setApplicationDescription(
         u"Shows what a command stream puts on paper, and says what is wrong with it."_s);
     parser.addPositionalArgument(u"STREAM"_s, u"What korvel-print wrote; - for standard input."_s);
-    parser.addOptions({columnsOption, outputOption, jsonOption, listOption, quietOption});
+    parser.addOptions(
+        {columnsOption, charsetOption, outputOption, jsonOption, listOption, quietOption});
     if (const auto status = readCommandLine(parser, arguments))
         return *status;
 
@@ -121,13 +128,17 @@ int run(const QStringList &arguments)
     if (!isNumber || columns < 1 || columns > mostColumns)
         return trouble(u"--columns takes a number from 1 to "_s + QString::number(mostColumns));
 
+    const auto page = CodePage::named(parser.value(charsetOption).toUtf8());
+    if (!page)
+        return trouble(korvel::recode::noCodePage(parser.value(charsetOption)));
+
     const QString path = parser.positionalArguments().constFirst();
     QString error;
     const auto stream = readWhole(path, largestStream, error);
     if (!stream)
         return trouble(path + u": "_s + error);
 
-    const QList<preview::Finding> found = preview::findings(*stream, columns);
+    const QList<preview::Finding> found = preview::findings(*stream, columns, *page);
     if (!parser.isSet(quietOption)) {
         const QString name = inOneLine(path);
         for (const preview::Finding &finding : found)
@@ -135,7 +146,7 @@ int run(const QStringList &arguments)
                                       + finding.text + u'\n'),
                        stderr);
     }
-    return write(parser, *stream, columns, found.isEmpty() ? Clean : Findings);
+    return write(parser, *stream, columns, *page, found.isEmpty() ? Clean : Findings);
 }
 
 } // namespace

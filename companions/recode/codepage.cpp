@@ -107,6 +107,12 @@ std::optional<CodePage> CodePage::named(QByteArrayView name)
     return page;
 }
 
+const CodePage &CodePage::utf8()
+{
+    static const CodePage page("UTF-8", true);
+    return page;
+}
+
 /// Fills the tables; false when this is not one byte a character with ASCII below 128.
 bool CodePage::fill(void *converter)
 {

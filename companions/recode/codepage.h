@@ -48,6 +48,9 @@ public:
      */
     static std::optional<CodePage> named(QByteArrayView name);
 
+    /// UTF-8, under that name.
+    static const CodePage &utf8();
+
     /// The name that the code page was asked for by.
     [[nodiscard]] QString name() const { return givenName; }
 
