@@ -14,31 +14,21 @@ namespace korvel::check {
 
 namespace {
 
-/// A character in quotes and by its number, or by that alone where it has no shape.
-QString characterName(char32_t character)
-{
-    QString number = u"U+"_s + QString::number(character, 16).toUpper().rightJustified(4, u'0');
-    if (!shared::isPrintable(character))
-        return number;
-    return u'"' + QString::fromUcs4(&character, 1) + u"\" ("_s + number + u')';
-}
-
 /// What the printer's code page lacks, in the order of the text, each character once.
 void checkCharset(Context &context, const JobAttribute &attribute)
 {
     constexpr qsizetype mostNamed = 5;
-    QList<recode::Loss> losses;
-    context.charset->encode(attribute.value, &losses);
     QStringList replaced;
     QSet<char32_t> seen;
-    for (const recode::Loss &loss : std::as_const(losses)) {
+    const auto take = [&](const recode::Loss &loss) {
         if (seen.contains(loss.character))
-            continue;
+            return;
         seen.insert(loss.character);
         if (replaced.size() < mostNamed)
-            replaced.append(filled(phrase::replacedCharacter, characterName(loss.character),
+            replaced.append(filled(phrase::replacedCharacter, shared::characterName(loss.character),
                                    u'"' + loss.substitute + u'"'));
-    }
+    };
+    context.charset->encode(attribute.value, take);
     if (replaced.isEmpty())
         return;
     const QString more = seen.size() > mostNamed ? filled(phrase::moreCharacters,
