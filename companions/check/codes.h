@@ -76,11 +76,13 @@ enum class Code {
     ByteOrderMark,
     Comment,
     Unterminated,
+    LostGroup,
     Catalogue,
 
     // The settings.
     Columns,
     UnreadKey,
+    Duplicate,
     NotTrue,
     NotANumber,
 

@@ -48,10 +48,11 @@ struct Context
     }
 
     /// Whether settings are given and switch this off in the document. What has no switch is never
-    /// off.
+    /// off, nor is what a setting without a name may switch on.
     [[nodiscard]] bool isOff(QLatin1StringView key) const
     {
-        return settings && !key.isEmpty() && !settings->isOn(method->group, key);
+        return settings && !key.isEmpty() && !settings->isOn(method->group, key)
+               && !settings->hasNameless(method->group);
     }
 };
 

@@ -112,6 +112,14 @@ inline constexpr QLatin1StringView group{"%1\n"
                                          "    quantityFieldWidth = \"3\";\n"
                                          "  };\n"
                                          "};"};
+inline constexpr QLatin1StringView document{"korvel:\n"
+                                            "{\n"
+                                            "  %1\n"
+                                            "  {\n"
+                                            "    paperWidth = \"32\";\n"
+                                            "    quantityFieldWidth = \"3\";\n"
+                                            "  };\n"
+                                            "};"};
 inline constexpr QLatin1StringView language{"korvel:\n"
                                             "{\n"
                                             "  language:\n"
@@ -298,6 +306,7 @@ inline constexpr Example exampleTable[] = {
     {Code::Unterminated, example::settings, example::none,
      "topMargin = \"2\""_L1,
      "topMargin = \"2\";"_L1},
+    {Code::LostGroup, example::document, example::none, "reciptdoc:"_L1, "receiptdoc:"_L1},
     {Code::Catalogue, example::language, example::none,
      "file = \"korvel_it.qm\";"_L1,
      "file = \"\";"_L1},
@@ -309,6 +318,10 @@ inline constexpr Example exampleTable[] = {
     {Code::UnreadKey, example::settings, example::none,
      "printDates = \"true\";"_L1,
      "printDate = \"true\";"_L1},
+    {Code::Duplicate, example::settings, example::none,
+     "topMargin = \"2\";\n"
+     "    topMargin = \"3\";"_L1,
+     "topMargin = \"3\";"_L1},
     {Code::NotTrue, example::settings, example::none,
      "printDate = \"yes\";"_L1,
      "printDate = \"true\";"_L1},

@@ -151,10 +151,14 @@ int checkFiles(const QCommandLineParser &parser, Report &report)
     }
     for (const QString &path : parser.positionalArguments()) {
         const auto job = readWhole(path, largestFile, error);
-        if (job)
-            report.add(path, checkJob(*job, settings.get(), charset ? &*charset : nullptr));
-        else
+        if (!job)
             report.status = trouble(path + u": "_s + error);
+        else if (check::isSettings(*job))
+            report.status = trouble(path
+                                    + u": settings, not a job; check them with "
+                                      "korvel-check --settings FILE"_s);
+        else
+            report.add(path, checkJob(*job, settings.get(), charset ? &*charset : nullptr));
     }
     return writeOut(report.lines, report.status);
 }

@@ -129,12 +129,13 @@ inline constexpr Phrase noSetting{"no setting stands in it"};
 inline constexpr Phrase otherNotation{
     "it is written as %1; settings are written korvel: { doc: { paperWidth = \"32\"; }; };"};
 inline constexpr Phrase otherFirstGroup{"its first group is %1, not korvel%2"};
+inline constexpr Phrase namelessFirstGroup{"its first group has no name%1"};
 
 // ByteOrderMark
 inline constexpr Phrase markInFront{"a byte order mark stands in front of it"};
 inline constexpr Phrase wideCharacters{"it is written as UTF-16"};
 
-// Comment: what is lost by it
+// Comment, Unterminated: what is lost by it, or lacks a mark
 inline constexpr Phrase theGroup{"the group %1"};
 inline constexpr Phrase whatFollows{"what follows"};
 
@@ -147,14 +148,19 @@ inline constexpr Phrase fileEnds{"the file ends inside the group %1: a }; is mis
 inline constexpr Phrase braceTooMany{"a } closes %1 too early: what follows is not read"};
 inline constexpr Phrase closesFile{"a } closes nothing: what follows is not read"};
 inline constexpr Phrase noBrace{"the group %1 has no { behind its name"};
-inline constexpr Phrase noColon{"the group %1 has no : behind its name"};
-inline constexpr Phrase equalsBefore{"a group is written %1: {, not %1 = {"};
-inline constexpr Phrase colonBefore{"a setting is written %1 = ..., not %1: ..."};
+inline constexpr Phrase noColon{"the group %1 has no : behind its name%2"};
+inline constexpr Phrase otherMark{"\"%1\" stands where the \"%2\" of %3 belongs"};
+inline constexpr Phrase otherQuote{
+    "%1 stands where a \" of %2 belongs, and becomes part of the value"};
+inline constexpr Phrase readAs{"%1: it is read as %2"};
+inline constexpr Phrase braceTwice{"a { too many: %1 has one already"};
 inline constexpr Phrase noEquals{"%1 has no = behind its name and is not read"};
+inline constexpr Phrase noSettingName{"no name stands before the =: %1 is not read"};
 
 // Catalogue
 inline constexpr Phrase notFound{"no catalogue is found as %1"};
 inline constexpr Phrase notLoaded{"%1 is no catalogue"};
+inline constexpr Phrase beyondAscii{"; letters beyond ASCII are misread: leave them out of paths"};
 inline constexpr Phrase beginsWithSlash{"; file must begin with a /"};
 
 // Columns
@@ -165,6 +171,22 @@ inline constexpr Phrase negativeWidth{
 inline constexpr Phrase widePaper{
     "paperWidth is %1: lines are wider than the printer's %2 characters"};
 
+// LostGroup: what it is
+inline constexpr Phrase noSuchGroup{"no document reads the group %1"};
+inline constexpr Phrase noGroupName{"a group has no name before its {"};
+inline constexpr Phrase secondTopGroup{
+    "only the first group of the file is read, and %1 is another"};
+inline constexpr Phrase groupBetween{"documents' groups stand in korvel itself, not in %1"};
+
+// Duplicate: what it is, and which of both counts
+inline constexpr Phrase groupTwice{"the group %1"};
+inline constexpr Phrase firstCounts{
+    "what the one in line %1 sets counts, this one adds what it does not set"};
+inline constexpr Phrase lastCounts{"this one counts, not that in line %1"};
+
+// NotTrue: where it cannot be told what is meant
+inline constexpr Phrase onlyTrue{"; only true switches it on"};
+
 // UnreadKey: why nothing reads it
 inline constexpr Phrase outsideKorvel{"it stands outside the group korvel"};
 inline constexpr Phrase otherTopGroup{
@@ -172,8 +194,10 @@ inline constexpr Phrase otherTopGroup{
 inline constexpr Phrase misplaced{
     "settings stand in a document's group or in language, in korvel%1"};
 inline constexpr Phrase unclosedGroup{"; does a } lack its ;?"};
-inline constexpr Phrase unknownGroup{"no document reads the group %1%2"};
+inline constexpr Phrase unknownGroup{"no document has such a group%1"};
 inline constexpr Phrase unknownSetting{"there is no such setting%1"};
+inline constexpr Phrase commentedOut{
+    "it is commented out; nothing else is lost by it, but deleting it is safer"};
 
 } // namespace phrase
 

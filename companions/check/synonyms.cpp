@@ -13,7 +13,7 @@ namespace {
 
 struct Synonyms
 {
-    QLatin1StringView name;  // of an element or an attribute
+    QLatin1StringView name;  // of an element or an attribute, or of settings
     QLatin1StringView words; // in small letters without accents, parted by blanks
 };
 
@@ -130,6 +130,36 @@ constexpr Synonyms synonyms[] = {
      "others rest altro altri sonstige autre otro otros"_L1},
     {"type"_L1,
      "kind reason tipo causale art typ grund genre motivo"_L1},
+
+    // Groups of settings, and what stands in them.
+    {"language"_L1,
+     "locale translation labels lingua sprache langue idioma"_L1},
+    {"doc"_L1,
+     "order orderdoc kitchen kitchendoc kitchenorder comanda ordine bestellung commande "
+     "pedido"_L1},
+    {"prefiscaldoc"_L1,
+     "fullorder fullorderdoc preconto"_L1},
+    {"receiptdoc"_L1,
+     "scontrino ricevuta beleg quittung bon recu recibo ticket"_L1},
+    {"invoicedoc"_L1,
+     "bill fattura rechnung facture factura"_L1},
+    {"deliverydoc"_L1,
+     "deliverynote shipment bolla consegna lieferschein lieferung livraison albaran "
+     "entrega"_L1},
+    {"reportdoc"_L1,
+     "statement statementdoc periodreport bericht rapporto rapport informe"_L1},
+    {"paperWidth"_L1,
+     "width linewidth columns larghezza breite papierbreite largeur ancho"_L1},
+    {"quantityFieldWidth"_L1,
+     "quantitywidth qtywidth"_L1},
+    {"priceFieldWidth"_L1,
+     "pricewidth"_L1},
+    {"totalPriceFieldWidth"_L1,
+     "totalwidth totalpricewidth amountwidth"_L1},
+    {"file"_L1,
+     "catalogue catalog filename"_L1},
+    {"basedir"_L1,
+     "dir directory folder path basepath"_L1},
 };
 // clang-format on
 

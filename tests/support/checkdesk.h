@@ -67,7 +67,7 @@ public:
 };
 
 inline const QByteArray settingsWarning =
-    "korvel.conf:5:9: warning: printDate is \"yes\" and counts as off; only true switches it on "
+    "korvel.conf:5:9: warning: printDate is \"yes\" and counts as off; did you mean \"true\"? "
     "[not-true]\n";
 
 /// The lines of an output that ends with a line end, without their ends.

@@ -142,9 +142,9 @@ private slots:
         };
         if (documents.isEmpty()) { // the narrower of two has no room, the wider has none left
             const QStringList both = shown(findingsOf(settings));
-            QCOMPARE(both.size(), 2);
-            QVERIFY2(both[0].contains("columns of the invoice "), qPrintable(both[0]));
-            QVERIFY2(both[1].contains("columns of the summary invoice "), qPrintable(both[1]));
+            QCOMPARE(both.size(), 1);
+            QVERIFY2(both[0].contains("columns of the invoice, summary invoice "),
+                     qPrintable(both[0]));
             return;
         }
         QCOMPARE(shown(findingsOf(settings)), QStringList());
@@ -153,14 +153,12 @@ private slots:
         const qsizetype last = settings.lastIndexOf("= ") + 2;
         const int width = settings.mid(last).chopped(1).toInt();
         const auto narrow = findingsOf(settings.first(last) + QByteArray::number(width + 1) + ';');
-        QCOMPARE(narrow.size(), documents.size());
-        for (qsizetype i = 0; i < documents.size(); ++i) {
-            QCOMPARE(infoOf(narrow[i].code).name, QLatin1String("columns"));
-            QVERIFY2(narrow[i].text.startsWith("the columns of the " + documents[i]
-                                               + " leave no room for the description"),
-                     qPrintable(narrow[i].text));
-            QCOMPARE(shown(narrow)[i].section(' ', 0, 0), QString("5:9:"));
-        }
+        QCOMPARE(narrow.size(), 1);
+        QCOMPARE(infoOf(narrow[0].code).name, QLatin1String("columns"));
+        QVERIFY2(narrow[0].text.startsWith("the columns of the " + documents.join(", ")
+                                           + " leave no room for the description"),
+                 qPrintable(narrow[0].text));
+        QCOMPARE(narrow[0].place.line, 5);
     }
 };
 
