@@ -135,7 +135,9 @@ private slots:
             KitchenOrder | FullOrder | Receipt | Invoice | DeliveryNote | SummaryInvoice;
         QCOMPARE(titlesOf(six),
                  "kitchen order, full order, receipt, invoice, delivery note, summary invoice");
-        QCOMPARE(titlesOf(six | SoldItems), "other documents");
+        QCOMPARE(titlesOf(six | SoldItems),
+                 "all documents but fiscal receipt, summary order, summary receipt, summary fiscal "
+                 "receipt, period report, statement of account");
     }
 };
 
