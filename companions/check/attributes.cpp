@@ -24,7 +24,8 @@ struct Gaps
     QStringList figures; // and names and serial numbers, whose places print empty
     QStringList texts;   // that are switched on
     QStringList registered;
-    QStringList unused; // what the document would read
+    QStringList unused;               // what the document would read
+    QList<const JobAttribute *> read; // what it reads
     QList<const JobAttribute *> unread;
 };
 
@@ -93,7 +94,9 @@ Gaps gapsOf(const Context &context, const Tag &tag, const Element &element,
     for (const Attribute &row : known) {
         names.append(row.name);
         const JobAttribute *attribute = tag.find(row.name);
-        if (!attribute)
+        if (attribute)
+            gaps.read.append(attribute);
+        else
             gaps.unused.append(row.name);
         if (isMissing(context, tag, row))
             (row.setting.isEmpty() ? gaps.figures : gaps.texts).append(row.name);
@@ -121,18 +124,21 @@ bool isNameElsewhere(const QString &name)
 
 /// Whether what an attribute says stands on the paper all the same, or nowhere on purpose: under
 /// the right name beside it, or one that the document keeps for itself.
-bool isSaidOtherwise(const Tag &tag, const JobAttribute &attribute, const QList<Attribute> &known)
+bool isSaidOtherwise(const JobAttribute &attribute, const QList<Attribute> &known,
+                     const QList<const JobAttribute *> &read)
 {
     QStringList names;
     for (const Attribute &row : known)
         names.append(row.name);
     const QString meant = nearestName(attribute.name, names);
-    return std::any_of(known.begin(), known.end(), [&](const Attribute &row) {
-        const JobAttribute *beside = tag.find(row.name);
-        return row.name == meant
-               && (row.value == Value::Unread || row.value == Value::Kept
-                   || (beside && beside->value == attribute.value));
-    });
+    const auto isKept = [&](const Attribute &row) {
+        return row.name == meant && (row.value == Value::Unread || row.value == Value::Kept);
+    };
+    const auto isSame = [&](const JobAttribute *beside) {
+        return beside->name == meant && beside->value == attribute.value;
+    };
+    return std::any_of(known.begin(), known.end(), isKept)
+           || std::any_of(read.begin(), read.end(), isSame);
 }
 
 /// Whether "headers" stands in the job, which prints the printer's name.
@@ -148,8 +154,9 @@ void noteLost(Context &context, const Tag &tag, const QList<const JobAttribute *
 {
     if (figures.isEmpty())
         return;
+    constexpr qsizetype mostNames = 12; // that a finding shows
     QStringList names;
-    for (const JobAttribute *figure : figures)
+    for (const JobAttribute *figure : figures.first(std::min(mostNames, figures.size())))
         names.append(figure->name);
     const bool one = figures.size() == 1;
     context.note(figures.constFirst()->place, Code::LostFigure, quoted(names), tag.name,
@@ -178,7 +185,7 @@ void noteUnread(Context &context, const Tag &tag, const Element &element,
             context.note(attribute->place, Code::MisspeltAttribute, attribute->name, tag.name,
                          filled(isNear ? phrase::meantMissing : phrase::otherMissing, meant));
         else if (element.prints && isFigure(tag, *attribute)
-                 && !isSaidOtherwise(tag, *attribute, known))
+                 && !isSaidOtherwise(*attribute, known, gaps.read))
             lost.append(attribute);
         else
             context.note(attribute->place, Code::UnknownAttribute, attribute->name, tag.name,

@@ -40,7 +40,7 @@ inline constexpr CodeInfo jobCodes[] = {
      "method selects, and all by another one. The job is checked as that one."_L1,
      "Select the document that the elements are of; each name is fixed."_L1},
     {Code::SecondMethod, Level::Error, "second-method"_L1,
-     "a second method: the section of the %1 is not closed"_L1,
+     "a second method: the section of the %1 is not closed; send one document per job"_L1,
      "The job selects a second document. Both open a section on the printer, and only one is "
      "closed."_L1,
      "Send one document per job: two jobs, two runs."_L1},

@@ -129,7 +129,7 @@ inline constexpr Phrase latin1{"Latin-1"};
 
 // OddCharacter, EscapedTwice: what there is
 inline constexpr Phrase replacement{"U+FFFD in place of a character that was lost before"};
-inline constexpr Phrase shapeless{"%1, which has no shape"};
+inline constexpr Phrase shapeless{"%1, a character without a shape; leave it out"};
 
 // NotInCharset: a character, how it is shown, and what stands in its place; and how many more
 inline constexpr Phrase replacedCharacter{"%1 prints as %2"};

@@ -71,7 +71,7 @@ constexpr Synonyms synonyms[] = {
     {"invoice"_L1,
      "bill fattura rechnung facture factura"_L1},
     {"delivery"_L1,
-     "deliverynote shipment bolla consegna lieferschein lieferung livraison albaran "
+     "deliverynote shipment bolla ddt consegna lieferschein lieferung livraison albaran "
      "entrega"_L1},
     {"receipe"_L1,
      "item product article position line row dish recipe plu articolo prodotto ricetta piatto voce "
@@ -83,7 +83,23 @@ constexpr Synonyms synonyms[] = {
      "extra option modifier addition variante opzione aggiunta modifica zusatz supplement topping "
      "opcion"_L1},
     {"notPaid"_L1,
-     "unpaid due open nonpagato dovuto offen unbezahlt impaye nopagado pendiente"_L1},
+     "unpaid due open rest nonpagato dovuto resto offen unbezahlt impaye nopagado pendiente"_L1},
+    {"taxrate_item"_L1,
+     "tax taxes taxrate taxline vat vatline iva aliquota mwst steuer steuersatz tva taxe "
+     "impuesto"_L1},
+    {"statement_list"_L1,
+     "statements list header movements"_L1},
+    {"statement"_L1,
+     "movement entry transaction booking movimento movimenti operazione buchung bewegung "
+     "mouvement operation movimiento"_L1},
+    {"date"_L1,
+     "period range periodo zeitraum periode"_L1},
+    {"receiptssummary"_L1,
+     "receipts receiptsummary scontrini ricevute belege quittungen recus recibos"_L1},
+    {"invoicessummary"_L1,
+     "invoices invoicesummary fatture rechnungen factures facturas"_L1},
+    {"cancelledsummary"_L1,
+     "cancelled canceled voids voided annullati storni stornos annules anulados"_L1},
     {"number"_L1,
      "quantity qty count pieces pcs units quantita qta pezzi numero menge anzahl stueck "
      "stuck stk quantite qte nombre cantidad cant unidades"_L1},
@@ -108,7 +124,7 @@ constexpr Synonyms synonyms[] = {
      "total sum value price totalprice importo totale prezzo betrag summe preis montant "
      "somme importe precio"_L1},
     {"price"_L1,
-     "total amount sum value importo totale betrag summe montant somme importe"_L1},
+     "total tot totalprice amount sum value importo totale betrag summe montant somme importe"_L1},
     {"total"_L1,
      "sum tot amount grandtotal value totale importo gesamt gesamtbetrag summe betrag montant "
      "somme importe suma"_L1},

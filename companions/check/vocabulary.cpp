@@ -145,22 +145,15 @@ Documents documentsOf(QAnyStringView group)
     return documents;
 }
 
-bool isMost(Documents documents)
-{
-    const auto count = std::count_if(methods().begin(), methods().end(), [&](const Method &method) {
-        return (documents & method.document) != 0;
-    });
-    return 2 * count > methods().size();
-}
-
 QString titlesOf(Documents documents)
 {
+    constexpr qsizetype fewOthers = 3;
     QStringList titles;
     QStringList others;
     for (const Method &method : methods())
         ((documents & method.document) != 0 ? titles : others).append(method.title);
-    return isMost(documents) ? u"all documents but "_s + others.join(", "_L1)
-                             : titles.join(", "_L1);
+    return others.size() <= fewOthers ? u"all documents but "_s + others.join(", "_L1)
+                                      : titles.join(", "_L1);
 }
 
 QString nearest(QStringView misspelt, const QStringList &names)

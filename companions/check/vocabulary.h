@@ -71,11 +71,8 @@ const QStringList &groupNames();
 /// The documents that read a group of the settings; none for a group that no document reads.
 Documents documentsOf(QAnyStringView group);
 
-/// Whether these are more than half of all documents.
-bool isMost(Documents documents);
-
-/// The titles of documents, parted by commas: "receipt, summary receipt"; of more than half of them
-/// "all documents but" the titles of the others.
+/// The titles of documents, parted by commas: "receipt, summary receipt"; where only a few are not
+/// among them, "all documents but" those.
 QString titlesOf(Documents documents);
 
 /**

@@ -135,9 +135,11 @@ private slots:
             KitchenOrder | FullOrder | Receipt | Invoice | DeliveryNote | SummaryInvoice;
         QCOMPARE(titlesOf(six),
                  "kitchen order, full order, receipt, invoice, delivery note, summary invoice");
-        QCOMPARE(titlesOf(six | SoldItems),
-                 "all documents but fiscal receipt, summary order, summary receipt, summary fiscal "
-                 "receipt, period report, statement of account");
+        QCOMPARE(titlesOf(vocabulary::shared),
+                 "all documents but fiscal receipt, summary order, summary fiscal receipt");
+        QCOMPARE(titlesOf(vocabulary::shared & ~Documents(SoldItems)),
+                 "kitchen order, full order, receipt, invoice, delivery note, summary receipt, "
+                 "summary invoice, period report, statement of account");
     }
 };
 
