@@ -24,7 +24,14 @@ using Phrase = QLatin1StringView;
 // What a misspelt name may be.
 inline constexpr Phrase didYouMean{"; did you mean \"%1\"?"};
 
-// MalformedXml: what the reader does not say
+// NoMethod: what to do
+inline constexpr Phrase beginWithMethod{"begin with <method name=\"...\"/>"};
+inline constexpr Phrase misspeltMethod{"did you mean <method> by <%1>?"};
+inline constexpr Phrase writeMethodFirst{"begin with <method name=\"%1\"/>"};
+
+// MalformedXml: where it is no more checked; and what the reader does not say
+inline constexpr Phrase behindThis{"this"};
+inline constexpr Phrase behindLine{"line %1"};
 inline constexpr Phrase namelessInstruction{"an instruction has no name"};
 inline constexpr Phrase noName{"\"%1\" is no name"};
 inline constexpr Phrase otherVersion{"XML %1 is not read; write 1.0"};
@@ -54,6 +61,11 @@ inline constexpr Phrase settingsReadOver{
 // UnknownMethod
 inline constexpr Phrase noDocument{"no document is called %1"};
 inline constexpr Phrase noMethodName{"the method has no name"};
+inline constexpr Phrase writeMethod{"; write <method name=\"%1\"/>"};
+
+// LostFigure: what is lost
+inline constexpr Phrase figureLost{"its figure is lost"};
+inline constexpr Phrase figuresLost{"their figures are lost"};
 
 // MisspeltAttribute: what is missing
 inline constexpr Phrase meantMissing{"; did you mean \"%1\", which is missing?"};
@@ -65,7 +77,7 @@ inline constexpr Phrase childElements{
 inline constexpr Phrase strayText{"the text %1 in <%2> is not printed: write it as an attribute"};
 
 // IgnoredElement, LostElement: the documents that print it
-inline constexpr Phrase onlyIn{", only in %1"};
+inline constexpr Phrase printedIn{"; it is printed in %1"};
 
 // MissingAttribute: what the lack of it prints
 inline constexpr Phrase emptyPlace{"its place prints empty"};
@@ -74,11 +86,13 @@ inline constexpr Phrase leftOut{"it prints as \"-\", something left out"};
 
 // CancelledList
 inline constexpr Phrase listBeginsWrong{
-    "\"number\" and \"totals\" are not the first two attributes: "
-    "the list of documents begins at the wrong place"};
+    "\"number\" and \"totals\" must be the first two attributes, and are not: all others are "
+    "taken for serial number, total and tax rate of one document after the other"};
 inline constexpr Phrase listNotInThrees{
-    "each cancelled document takes three attributes, and there are %1"};
-inline constexpr Phrase listMiscounted{"\"number\" says %1 cancelled documents, and %2 are listed"};
+    "each cancelled document takes three attributes behind \"number\" and \"totals\", its serial "
+    "number, total and tax rate; there are %1"};
+inline constexpr Phrase listMiscounted{
+    "\"number\" is %1, but the cancelled documents that are listed are %2"};
 
 // DecimalComma: the mark of the others
 inline constexpr Phrase comma{"comma"};
@@ -109,6 +123,13 @@ inline constexpr Phrase slash{"\"/\""};
 // ControlCharacter: what has it
 inline constexpr Phrase attributeHas{"\"%1\" of <%2> has"};
 inline constexpr Phrase saleRowHas{"\"%1\" of a sale row is %2, with"};
+
+// Mojibake: what UTF-8 was read as
+inline constexpr Phrase latin1{"Latin-1"};
+
+// OddCharacter, EscapedTwice: what there is
+inline constexpr Phrase replacement{"U+FFFD in place of a character that was lost before"};
+inline constexpr Phrase shapeless{"%1, a character without a shape; leave it out"};
 
 // NotInCharset: a character, how it is shown, and what stands in its place; and how many more
 inline constexpr Phrase replacedCharacter{"%1 prints as %2"};

@@ -36,11 +36,11 @@ private slots:
                    .replace("\n", "\r\n")
             << QStringList{"5:3"};
         QTest::newRow("values in single quotes, with other marks in them")
-            << root + "<receipe number='\">' name='a=\"b\">)'/></job>" << QStringList{"3:22"};
+            << root + "<receipe number='1\">' name='a=\"b\">)'/></job>" << QStringList{"3:23"};
         QTest::newRow("two tags in a line")
             << root + wrong + wrong + "</job>" << QStringList{"3:21", "3:52"};
         QTest::newRow("references before it count as they are spelt")
-            << root + "<receipe number=\"&amp;&#232;\" name=\"a)\"/></job>" << QStringList{"3:31"};
+            << root + "<receipe number=\"1&amp;&#232;\" name=\"a)\"/></job>" << QStringList{"3:32"};
         QTest::newRow("an accent is one column, an emoji two")
             << root + "<!-- \xC3\xA8\xF0\x9F\x8D\x95 -->" + wrong + "</job>" << QStringList{"3:33"};
         QTest::newRow("a byte order mark is no column") << QByteArray(
