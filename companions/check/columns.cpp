@@ -16,7 +16,7 @@ namespace korvel::check {
 namespace {
 
 /// Where the settings of a group stand, by their keys.
-using Places = QHash<QString, Place>;
+using SettingPlaces = QHash<QString, Place>;
 
 /// A row that has no room for its description.
 struct NarrowRow
@@ -47,7 +47,7 @@ QLatin1StringView narrowest(const NarrowRow &row, const SettingsFile &settings,
 
 /// Whether the columns of a group's documents leave room for the description, and no more than
 /// there is.
-void checkGroup(const SettingsFile &settings, QLatin1StringView group, const Places &places,
+void checkGroup(const SettingsFile &settings, QLatin1StringView group, const SettingPlaces &places,
                 QList<Finding> &findings)
 {
     const auto number = [&](QLatin1StringView key) { return settings.number(group, key); };
@@ -94,7 +94,7 @@ void checkGroup(const SettingsFile &settings, QLatin1StringView group, const Pla
 void checkColumns(const SettingsFile &settings, const QSet<QString> &groups,
                   QList<Finding> &findings)
 {
-    QHash<QString, Places> places;
+    QHash<QString, SettingPlaces> places;
     for (const SettingsFile::Entry &entry : settings.entries()) {
         if (!entry.meant.isEmpty())
             places[settings.groups()[entry.group].meant.constFirst()].insert(entry.meant,

@@ -19,7 +19,7 @@ struct Quote
 };
 
 // In UTF-8, then in Windows-1252, where they must not be bytes of UTF-8.
-constexpr Quote quotes[] = {
+constexpr Quote quoteMarks[] = {
     {"\xE2\x80\x9C", "\u201C"},
     {"\xE2\x80\x9D", "\u201D"},
     {"\xE2\x80\x9E", "\u201E"},
@@ -48,7 +48,7 @@ bool isBeyondAscii(char c) { return static_cast<unsigned char>(c) >= 0x80U; }
 /// The quote of another kind that a text begins with; null when it begins with none.
 const Quote *quoteAtBegin(QByteArrayView text)
 {
-    for (const Quote &quote : quotes) {
+    for (const Quote &quote : quoteMarks) {
         const bool isAlone = quote.bytes.size() > 1 || text.size() < 2 || !isBeyondAscii(text[1]);
         if (text.startsWith(quote.bytes) && isAlone)
             return &quote;
@@ -59,7 +59,7 @@ const Quote *quoteAtBegin(QByteArrayView text)
 /// Likewise, that it ends with.
 const Quote *quoteAtEnd(QByteArrayView text)
 {
-    for (const Quote &quote : quotes) {
+    for (const Quote &quote : quoteMarks) {
         const bool isAlone =
             quote.bytes.size() > 1 || text.size() < 2 || !isBeyondAscii(text[text.size() - 2]);
         if (text.endsWith(quote.bytes) && isAlone)
@@ -164,7 +164,7 @@ qint64 Proofreader::endValue(const Name &name, qint64 value, qint64 missing, boo
     return end;
 }
 
-/// Takes quotes of another kind around a value out.
+/// Takes quoteMarks of another kind around a value out.
 void Proofreader::mendQuotes(const Name &name, qint64 begin, qint64 end, bool isSaid)
 {
     if (begin >= end)

@@ -44,7 +44,7 @@ QString decoded(const QString &latin1)
 }
 
 /// A name without what does not show, and without the marks of other notations around it.
-QString plain(const QString &name)
+QString bare(const QString &name)
 {
     QString text;
     for (const uint character : decoded(name).toUcs4()) {
@@ -61,7 +61,7 @@ constexpr auto no = " false no n off 0 disabled nein non falsch falso faux ";
 
 QString meantSwitch(const QString &value)
 {
-    const QString text = plain(value).toLower();
+    const QString text = bare(value).toLower();
     for (const QString &word : {text.section(u' ', 0, 0), text.section(u' ', -1)}) {
         if (word.isEmpty())
             continue;
@@ -123,7 +123,7 @@ QString meantGroup(const QString &name)
         return name;
     if (isCommentedOut(name))
         return {};
-    const QString text = plain(name);
+    const QString text = bare(name);
     if (const QString nearest = nearestName(text, known); !nearest.isEmpty())
         return nearest;
     static const QRegularExpression between(u"[^\\pL\\pN]+"_s);
@@ -169,7 +169,7 @@ QString meantKey(QAnyStringView group, const QString &name)
         return name;
     if (isCommentedOut(name))
         return {};
-    const QString text = plain(name).section(u'.', -1); // without the path that it is looked up by
+    const QString text = bare(name).section(u'.', -1); // without the path that it is looked up by
     const QString nearest = nearestName(text, keys);
     // Most switches begin with this.
     return nearest.isEmpty() ? vocabulary::nearest(QString(u"print"_s + text), keys) : nearest;
