@@ -30,7 +30,7 @@ void checkCharset(Context &context, const JobAttribute &attribute)
             replaced.append(filled(phrase::replacedCharacter, shared::characterName(loss.character),
                                    u'"' + loss.substitute + u'"'));
     };
-    context.charset->encode(attribute.value, take);
+    static_cast<void>(context.charset->encode(attribute.value, take));
     if (replaced.isEmpty())
         return;
     const QString more = seen.size() > mostNamed ? filled(phrase::moreCharacters,

@@ -139,7 +139,7 @@ void SettingsFile::gather()
     const SettingsGroups found(tree, place);
     allGroups = found.all();
     groupsFound = found.findings();
-    std::vector<Tree::Index> order(allGroups.size() + 1, Tree::file);
+    std::vector<Tree::Index> order(static_cast<std::size_t>(allGroups.size()) + 1, Tree::file);
     for (Tree::Index index = 0; index < tree.groups().size(); ++index)
         order[static_cast<std::size_t>(found.indexOf(index) + 1)] = index;
     const auto settings = settingsByGroup(tree);

@@ -124,7 +124,7 @@ QString meantGroup(const QString &name)
     if (isCommentedOut(name))
         return {};
     const QString text = bare(name);
-    if (const QString nearest = nearestName(text, known); !nearest.isEmpty())
+    if (QString nearest = nearestName(text, known); !nearest.isEmpty())
         return nearest;
     static const QRegularExpression between(u"[^\\pL\\pN]+"_s);
     const QStringList words = text.split(between);
@@ -133,7 +133,7 @@ QString meantGroup(const QString &name)
             return word;
     }
     for (const QString &word : words) {
-        if (const QString nearest = vocabulary::nearest(word, known); !nearest.isEmpty())
+        if (QString nearest = vocabulary::nearest(word, known); !nearest.isEmpty())
             return nearest;
     }
     constexpr qsizetype enough = 4; // letters to know a name by

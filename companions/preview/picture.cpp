@@ -35,7 +35,7 @@ QColor colourOf(Row kind, const Look &look)
     switch (kind) {
     case Row::Computed:
     case Row::Cut:
-        return QColor(0x80, 0x80, 0x80);
+        return {0x80, 0x80, 0x80};
     case Row::Unknown:
         return red;
     case Row::Printed:
@@ -83,7 +83,7 @@ QSize Picture::size() const
 {
     const auto beyond = static_cast<int>(widest - columns);
     return {paperWidth() + (beyond > 0 ? beyond * look.cell.width() + look.margin : 0),
-            static_cast<int>(2 * look.space + rows.size() * look.cell.height())};
+            static_cast<int>(qsizetype(2) * look.space + rows.size() * look.cell.height())};
 }
 
 int Picture::paperWidth() const

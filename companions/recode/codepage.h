@@ -65,7 +65,7 @@ public:
      *
      * @param take gets each character that was replaced, in the order of the text
      */
-    QByteArray encode(QStringView text, const TakeLoss &take = {}) const;
+    [[nodiscard]] QByteArray encode(QStringView text, const TakeLoss &take = {}) const;
 
     /**
      * The text that bytes of this code page are. Bytes that are no character of it become
