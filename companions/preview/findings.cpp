@@ -1,10 +1,10 @@
 // Each rule of what a stream should be, checked command by command.
 #include "companions/preview/findings.h"
 
-#include "companions/preview/amounts.h"
+#include "companions/paper/amounts.h"
+#include "companions/paper/paper.h"
+#include "companions/paper/text.h"
 #include "companions/preview/listing.h"
-#include "companions/preview/paper.h"
-#include "companions/preview/text.h"
 #include "printer/company/commands.h"
 
 #include <algorithm>
@@ -225,22 +225,6 @@ private:
 QList<Finding> findings(const QByteArray &stream, int columns)
 {
     return Inspector(stream, columns).inspect();
-}
-
-QString widestRow(const Command &command, int columns)
-{
-    QString widest;
-    if (command.kind == Kind::Line) {
-        widest = QString(command.spaces, u' ') + decoded(command.content);
-    } else if (command.kind == Kind::SaleRow || command.kind == Kind::Deduction) {
-        // A row may hold more than the description: a quantity, a department.
-        Roll roll(columns, [&](const PaperRow &row) {
-            if (row.text.size() > widest.size())
-                widest = row.text;
-        });
-        roll.print(command);
-    }
-    return widest;
 }
 
 } // namespace korvel::preview

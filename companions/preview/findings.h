@@ -1,7 +1,7 @@
 // What is wrong with a command stream.
 #pragma once
 
-#include "companions/preview/decoder.h"
+#include "companions/paper/decoder.h"
 
 #include <QList>
 #include <QString>
@@ -31,11 +31,5 @@ inline constexpr qsizetype mostFindings = 1000;
  * @param columns characters in a line of the paper
  */
 QList<Finding> findings(const QByteArray &stream, int columns);
-
-/**
- * The widest row of the paper that a command takes, a line as it was sent: what is held against the
- * width of the paper. Empty for a command that is no line, sale row or deduction.
- */
-QString widestRow(const Command &command, int columns);
 
 } // namespace korvel::preview

@@ -1,7 +1,7 @@
 // What each command is called, to people and to programs.
 #include "companions/preview/listing.h"
 
-#include "companions/preview/text.h"
+#include "companions/paper/text.h"
 
 using namespace Qt::Literals::StringLiterals;
 

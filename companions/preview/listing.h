@@ -1,7 +1,7 @@
 // Commands in words and as JSON.
 #pragma once
 
-#include "companions/preview/decoder.h"
+#include "companions/paper/decoder.h"
 
 #include <QJsonObject>
 #include <QString>

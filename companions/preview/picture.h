@@ -1,7 +1,7 @@
 // The paper as a picture. Needs a QGuiApplication.
 #pragma once
 
-#include "companions/preview/paper.h"
+#include "companions/paper/paper.h"
 
 #include <QByteArray>
 #include <QSize>

@@ -2,8 +2,8 @@
 #include "companions/settings/window.h"
 
 #include "companions/check/vocabulary.h"
+#include "companions/paper/paper.h"
 #include "companions/preview/findings.h"
-#include "companions/preview/paper.h"
 #include "companions/settings/hints.h"
 #include "companions/settings/paperview.h"
 #include "printer/company/commands.h"

@@ -1,7 +1,7 @@
 // Streams of any bytes, taken apart, put together, inspected, listed and printed.
+#include "companions/paper/text.h"
 #include "companions/preview/findings.h"
 #include "companions/preview/listing.h"
-#include "companions/preview/text.h"
 #include "fuzz/expect.h"
 #include "support/box.h"
 #include "support/commands.h"

@@ -1,7 +1,7 @@
 // What the preview finds on paper of other widths, in very many places and in the examples; what it
 // finds in streams of a few lines is in tests/preview.
+#include "companions/paper/paper.h"
 #include "companions/preview/findings.h"
-#include "companions/preview/paper.h"
 #include "support/bytes.h"
 #include "support/streams.h"
 

@@ -1,8 +1,8 @@
 // The paper: what the printer would make of the commands, row by row.
 #pragma once
 
-#include "companions/preview/amounts.h"
-#include "companions/preview/decoder.h"
+#include "companions/paper/amounts.h"
+#include "companions/paper/decoder.h"
 
 #include <QList>
 #include <QString>
@@ -69,5 +69,11 @@ private:
 
 /// All rows of a stream's paper; see Roll.
 QList<PaperRow> paperOf(const QByteArray &stream, int columns);
+
+/**
+ * The widest row of the paper that a command takes, a line as it was sent: what is held against the
+ * width of the paper. Empty for a command that is no line, sale row or deduction.
+ */
+QString widestRow(const Command &command, int columns);
 
 } // namespace korvel::preview

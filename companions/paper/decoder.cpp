@@ -1,7 +1,7 @@
 // The commands of the printer's language as tables, matched and written.
-#include "companions/preview/decoder.h"
+#include "companions/paper/decoder.h"
 
-#include "companions/preview/text.h"
+#include "companions/paper/text.h"
 #include "printer/company/commands.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // How each command looks on the paper, and the sum of a fiscal section.
-#include "companions/preview/paper.h"
+#include "companions/paper/paper.h"
 
-#include "companions/preview/text.h"
+#include "companions/paper/text.h"
 #include "companions/shared/oneline.h"
 
 #include <utility>
@@ -122,6 +122,22 @@ QList<PaperRow> paperOf(const QByteArray &stream, int columns)
         roll.print(*command);
     roll.end();
     return rows;
+}
+
+QString widestRow(const Command &command, int columns)
+{
+    QString widest;
+    if (command.kind == Kind::Line) {
+        widest = QString(command.spaces, u' ') + decoded(command.content);
+    } else if (command.kind == Kind::SaleRow || command.kind == Kind::Deduction) {
+        // A row may hold more than the description: a quantity, a department.
+        Roll roll(columns, [&](const PaperRow &row) {
+            if (row.text.size() > widest.size())
+                widest = row.text;
+        });
+        roll.print(command);
+    }
+    return widest;
 }
 
 } // namespace korvel::preview

@@ -1,5 +1,5 @@
 // Decimals as whole numbers of a very small unit.
-#include "companions/preview/amounts.h"
+#include "companions/paper/amounts.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // UTF-8 taken apart, and bytes spelt out.
-#include "companions/preview/text.h"
+#include "companions/paper/text.h"
 
 #include "companions/shared/oneline.h"
 
