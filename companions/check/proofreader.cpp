@@ -3,6 +3,7 @@
 
 #include "companions/check/vocabulary.h"
 #include "companions/check/words.h"
+#include "companions/shared/nearest.h"
 #include "companions/shared/oneline.h"
 
 #include <algorithm>
@@ -17,7 +18,7 @@ namespace {
 /// Whether a name is one of these, or misspelt so that it can be told which.
 bool isNear(const QString &name, const QStringList &names)
 {
-    return names.contains(name) || !vocabulary::nearest(name, names).isEmpty();
+    return names.contains(name) || !shared::nearest(name, names).isEmpty();
 }
 
 const QStringList &settingNames()

@@ -3,6 +3,7 @@
 
 #include "companions/check/vocabulary.h"
 #include "companions/check/words.h"
+#include "companions/shared/nearest.h"
 #include "config/tree.h"
 #include "vocabulary/settings.h"
 
@@ -103,7 +104,7 @@ void SettingsFile::checkFirstGroup(const QByteArray &bytes, Notation &notation)
     const QString top = korvel::vocabulary::group::korvel;
     if (name == top)
         return;
-    const QString nearest = korvel::vocabulary::nearest(name, {top});
+    const QString nearest = shared::nearest(name, {top});
     const QString question = nearest.isEmpty() ? QString() : filled(phrase::didYouMean, top);
     const QString text = filled(phrase::otherFirstGroup, quoted(name), question);
     if (nearest.isEmpty())

@@ -28,4 +28,11 @@ QString inOneLine(const QString &text, QChar substitute)
     return shown;
 }
 
+QString quoted(const QString &value)
+{
+    constexpr qsizetype longest = 40;
+    const QString cut = value.size() > longest ? value.first(longest - 1) + u'…' : value;
+    return u'"' + inOneLine(cut, u' ') + u'"';
+}
+
 } // namespace korvel::shared

@@ -17,4 +17,7 @@ bool isPrintable(char32_t character);
  */
 QString inOneLine(const QString &text, QChar substitute = QChar::ReplacementCharacter);
 
+/// A value in quotes, cut when it is long, with blanks for what does not print.
+QString quoted(const QString &value);
+
 } // namespace korvel::shared

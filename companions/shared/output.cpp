@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QJsonDocument>
 
 #include <cstdio>
 
@@ -44,6 +45,24 @@ int Output::end(int status)
     writePending();
     failed = failed || !file.flush();
     return failed ? trouble(u"cannot write to standard output"_s) : status;
+}
+
+QString jsonLine(const QJsonObject &object)
+{
+    const QString json =
+        QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + u'\n';
+    if (inOneLine(json.chopped(1)) == json.chopped(1))
+        return json;
+    QString line;
+    for (const uint point : json.toUcs4()) {
+        if (isPrintable(point) || point == u'\n') {
+            line += QChar::fromUcs4(point);
+            continue;
+        }
+        for (const char16_t unit : QChar::fromUcs4(point))
+            line += u"\\u"_s + QString::number(unit, 16).rightJustified(4, u'0');
+    }
+    return line;
 }
 
 int writeOut(const QString &text, int status)

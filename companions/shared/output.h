@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFile>
+#include <QJsonObject>
 #include <QString>
 
 namespace korvel::shared {
@@ -37,6 +38,9 @@ private:
     QString pending; // is converted and written a block at a time
     bool failed = false;
 };
+
+/// An object as JSON in one line, with the line's end and what does not print as escapes.
+QString jsonLine(const QJsonObject &object);
 
 /// Writes a text to standard output; the status to end with, as Output::end().
 int writeOut(const QString &text, int status);

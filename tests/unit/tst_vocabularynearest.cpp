@@ -1,4 +1,5 @@
 // What a misspelt name of the vocabulary may be meant to be.
+#include "companions/shared/nearest.h"
 #include "support/vocabularytables.h"
 
 #include <QTest>
@@ -85,7 +86,7 @@ private slots:
     {
         QFETCH(QStringList, list);
         QFETCH(QString, expected);
-        QCOMPARE(vocabulary::nearest(QString(QTest::currentDataTag()), list), expected);
+        QCOMPARE(korvel::shared::nearest(QString(QTest::currentDataTag()), list), expected);
     }
 };
 
