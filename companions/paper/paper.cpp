@@ -38,42 +38,38 @@ void Roll::print(const Command &command)
         append(Row::Cut, {});
         cutNext = false;
     }
+    if (const auto sum = ledger.take(command))
+        printSum(*sum);
     switch (command.kind) {
     case Kind::Line:
         append(Row::Printed, QString(command.spaces, u' ') + textOf(command.content));
         break;
     case Kind::SectionOpened:
-        printSum(u"Sum so far (preview)"_s);
-        if (command.section == Section::Fiscal)
-            registered = Amount();
-        uncounted = 0;
         break;
     case Kind::SectionClosed:
-        if (command.section == Section::Fiscal)
-            printSum(u"Sum (by the preview)"_s);
         cutNext = true;
         break;
     case Kind::SaleRow:
         printSaleRow(command);
         break;
-    case Kind::Deduction: {
-        const auto amount = Amount::of(command.amount);
-        count(amount ? std::optional(-*amount) : std::nullopt);
+    case Kind::Deduction:
         appendSpread(Row::Deducted, u"DEDUCTION"_s, u'-' + moneyOf(command.amount));
         break;
-    }
     case Kind::Unknown:
         append(Row::Unknown, escaped(command.content));
         break;
     }
 }
 
-void Roll::end() { printSum(u"Sum so far (preview)"_s); }
+void Roll::end()
+{
+    if (const auto sum = ledger.end())
+        printSum(*sum);
+}
 
 void Roll::printSaleRow(const Command &row)
 {
     const auto amount = Amount::of(row.amount, row.quantity);
-    count(amount);
     if (row.quantity != "1" || !amount)
         append(Row::Registered, u"  "_s + textOf(row.quantity) + u" x "_s + moneyOf(row.amount));
     const QString department = u" R"_s + textOf(row.department);
@@ -81,22 +77,13 @@ void Roll::printSaleRow(const Command &row)
                  (amount ? amount->toString() : u"?"_s) + department);
 }
 
-void Roll::printSum(const QString &label)
+void Roll::printSum(const Sum &sum)
 {
-    if (!registered)
-        return;
     append(Row::Computed, QString(columns, u'-'));
-    appendSpread(Row::Computed, label, registered->toString());
-    if (uncounted > 0)
-        appendSpread(Row::Computed, u"Rows not counted"_s, QString::number(uncounted));
-    registered.reset();
-}
-
-/// Adds to the sum what was registered, where that is known.
-void Roll::count(std::optional<Amount> amount)
-{
-    if (registered && !(amount && registered->add(*amount)))
-        ++uncounted;
+    appendSpread(Row::Computed, sum.closed ? u"Sum (by the preview)"_s : u"Sum so far (preview)"_s,
+                 sum.amount.toString());
+    if (sum.uncounted > 0)
+        appendSpread(Row::Computed, u"Rows not counted"_s, QString::number(sum.uncounted));
 }
 
 void Roll::append(Row kind, const QString &text) { take({kind, text}); }

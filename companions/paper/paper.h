@@ -1,14 +1,13 @@
 // The paper: what the printer would make of the commands, row by row.
 #pragma once
 
-#include "companions/paper/amounts.h"
 #include "companions/paper/decoder.h"
+#include "companions/paper/ledger.h"
 
 #include <QList>
 #include <QString>
 
 #include <functional>
-#include <optional>
 
 namespace korvel::preview {
 
@@ -55,15 +54,13 @@ public:
 
 private:
     void printSaleRow(const Command &row);
-    void printSum(const QString &label);
-    void count(std::optional<Amount> amount);
+    void printSum(const Sum &sum);
     void append(PaperRow::Kind kind, const QString &text);
     void appendSpread(PaperRow::Kind kind, const QString &left, const QString &right);
 
     const int columns;
     const TakeRow take;
-    std::optional<Amount> registered; // in the fiscal section that is open
-    int uncounted = 0;                // rows of it that are not in the sum
+    Ledger ledger;
     bool cutNext = false;
 };
 
