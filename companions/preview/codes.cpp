@@ -30,13 +30,13 @@ constexpr CodeInfo rows[] = {
      "Correct the job; on a fiscal printer close the open receipt."_L1},
     {Code::StillOpen, Level::Error, "still-open"_L1,
      "the %1 opened at byte %2 is still open where the %3 is opened"_L1,
-     "A section is opened inside another one. The job has two methods, or ended early, with another "
-     "stream behind it."_L1,
+     "A section is opened inside another one. The job has two methods, or ended early, with "
+     "another stream behind it."_L1,
      "Send one document in each job; on a fiscal printer close the open receipt."_L1},
     {Code::NotOpen, Level::Error, "not-open"_L1,
      "the %1 is closed but not open"_L1,
-     "A section is closed that was not opened, or was closed before. The beginning of the stream is "
-     "missing."_L1,
+     "A section is closed that was not opened, or was closed before. The beginning of the stream "
+     "is missing."_L1,
      "Look at who writes to the file, and at what else does."_L1},
 
     // What is registered.

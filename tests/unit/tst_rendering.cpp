@@ -171,8 +171,7 @@ private slots:
         const Rendered none = rendered("<job/>", {}, KORVEL_PRINT);
         before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
         QCOMPARE(none.end, End::NoRoom);
-        QCOMPARE(none.reason(),
-                 QString("the folder for temporary files cannot be written: /proc"));
+        QCOMPARE(none.reason(), QString("the folder for temporary files cannot be written: /proc"));
     }
 
     // A stream of an earlier run is no answer to a later one.
