@@ -68,10 +68,10 @@ korvel_package(tools korvel-tools
     RECOMMENDS fonts-dejavu-core korvel-print
     SYNOPSIS "preview and checker for the print jobs of korvel-print"
     DESCRIPTION
-"korvel-preview shows what a command stream would put on the paper of a fiscal
-receipt printer, in the terminal or as a PNG or PDF, and says what is wrong
-with it. korvel-check says what is wrong with a print job or with the settings
-of a shop, before anything is printed.
+"korvel-preview shows what a print job or a command stream would put on the
+paper of a fiscal receipt printer, in the terminal or as a PNG or PDF, and says
+what is wrong with it. korvel-check says what is wrong with a print job or with
+the settings of a shop, before anything is printed.
 
 Schemas of print jobs, in RELAX NG and as an XSD, are included.")
 
