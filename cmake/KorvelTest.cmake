@@ -1,15 +1,16 @@
 # Tests run in a locale with a decimal comma and with a HOME that does not exist.
 #
-#   korvel_add_test(name [SLOW] [SOURCE file] libraries...)
-#                                          builds unit/tst_<name>.cpp, or the file
-#   korvel_add_program_test(name [SLOW] [SOURCE file] [PROGRAMS targets...] [LIBRARIES ...])
-#                                          builds a test that runs the renderer itself, as
-#                                          KORVEL_PRINT, and other programs, named the same way
+#   korvel_add_tests(room
+#       [LIBRARIES libraries...]         what the tests are of
+#       [PROGRAMS targets...]            programs that they run, in KORVEL_PRINT and so on
+#       [TESTS names or files...]        unit/tst_<name>.cpp, or <folder>/tst_<name>.cpp
+#       [SLOW names or files...])        the same, of tests that take seconds
+#                                          builds one program, tst_<room>; each is a test of ctest
 #   korvel_add_fuzz_target(name libraries...)
 #                                          builds fuzz/fuzz_<name>.cpp and runs it on its corpus;
 #                                          with KORVEL_FUZZERS builds the fuzzer too
 #
-# All have the label "quick" but those that are SLOW: they take seconds.
+# All have the label "quick" but those that are SLOW.
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 find_program(LOCALEDEF localedef REQUIRED)
@@ -46,40 +47,57 @@ function(korvel_compile_test_headers)
         <QProcess> <QRegularExpression> <QTemporaryDir> <algorithm> <memory> <vector>)
 endfunction()
 
-function(korvel_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 test "SLOW" "SOURCE" "")
-    if(NOT test_SOURCE)
-        set(test_SOURCE unit/tst_${name}.cpp)
-    endif()
-    add_executable(tst_${name} ${test_SOURCE})
-    set_target_properties(tst_${name} PROPERTIES AUTOMOC ON)
-    target_include_directories(tst_${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-    target_compile_definitions(tst_${name} PRIVATE KORVEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
-    target_link_libraries(tst_${name} PRIVATE
-        Qt6::Test korvel-test-options ${test_UNPARSED_ARGUMENTS})
-    if(NOT test_UNPARSED_ARGUMENTS MATCHES "korvel::(listview|picture|settings)")
-        target_precompile_headers(tst_${name} REUSE_FROM korvel-test-headers)
-    endif()
-    add_dependencies(tst_${name} korvel-test-locale)
-    add_test(NAME ${name} COMMAND tst_${name})
-    set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "${KORVEL_TEST_ENVIRONMENT}"
-        LABELS $<IF:$<BOOL:${test_SLOW}>,slow,quick>)
-endfunction()
+# With KORVEL_TESTS_AS_ONE a program's tests are compiled as one source: sooner where all are built,
+# later where one is changed.
+option(KORVEL_TESTS_AS_ONE "Compile the tests of a room as one source" OFF)
+add_library(korvel-tests-as-one INTERFACE)
+if(KORVEL_TESTS_AS_ONE)
+    # What one test includes is no fault of the next, nor is a test a header.
+    target_compile_options(korvel-tests-as-one INTERFACE -Wno-shadow -Wno-subobject-linkage)
+endif()
 
-function(korvel_add_program_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 test "" "" "PROGRAMS;LIBRARIES")
-    korvel_add_test(${name} ${test_UNPARSED_ARGUMENTS} korvel::config ${test_LIBRARIES})
-    add_dependencies(tst_${name} korvel-print korvel-translations)
-    target_compile_definitions(tst_${name} PRIVATE
+function(korvel_add_tests room)
+    cmake_parse_arguments(PARSE_ARGV 1 room "" "" "LIBRARIES;PROGRAMS;TESTS;SLOW")
+    set(program tst_${room})
+    add_executable(${program} support/test.cpp)
+    set_target_properties(${program} PROPERTIES AUTOMOC ON)
+    if(KORVEL_TESTS_AS_ONE)
+        set_target_properties(${program} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 0)
+    endif()
+    target_include_directories(${program} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_compile_definitions(${program} PRIVATE
+        KORVEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
         KORVEL_BINARY_DIR="${PROJECT_BINARY_DIR}"
-        KORVEL_VERSION="${PROJECT_VERSION}"
-        KORVEL_PRINT="$<TARGET_FILE:korvel-print>")
-    foreach(target IN LISTS test_PROGRAMS)
+        KORVEL_VERSION="${PROJECT_VERSION}")
+    target_link_libraries(${program} PRIVATE
+        Qt6::Test korvel-test-options ${room_LIBRARIES} korvel-tests-as-one)
+    if(NOT room_LIBRARIES MATCHES "korvel::(listview|picture|settings)")
+        target_precompile_headers(${program} REUSE_FROM korvel-test-headers)
+    endif()
+    add_dependencies(${program} korvel-test-locale)
+    if("korvel-print" IN_LIST room_PROGRAMS)
+        add_dependencies(${program} korvel-translations)
+    endif()
+    foreach(target IN LISTS room_PROGRAMS)
         string(TOUPPER ${target} definition)
         string(REPLACE - _ definition ${definition})
-        add_dependencies(tst_${name} ${target})
-        target_compile_definitions(tst_${name} PRIVATE ${definition}="$<TARGET_FILE:${target}>")
+        add_dependencies(${program} ${target})
+        target_compile_definitions(${program} PRIVATE ${definition}="$<TARGET_FILE:${target}>")
+    endforeach()
+    foreach(test IN LISTS room_TESTS room_SLOW)
+        get_filename_component(name ${test} NAME)
+        get_filename_component(folder ${test} DIRECTORY)
+        if(NOT folder)
+            set(folder unit)
+        endif()
+        target_sources(${program} PRIVATE ${folder}/tst_${name}.cpp)
+        add_test(NAME ${name} COMMAND ${program} ${name})
+        set(label quick)
+        if(test IN_LIST room_SLOW)
+            set(label slow)
+        endif()
+        set_tests_properties(${name} PROPERTIES
+            ENVIRONMENT "${KORVEL_TEST_ENVIRONMENT}" LABELS ${label})
     endforeach()
 endfunction()
 

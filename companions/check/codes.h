@@ -25,6 +25,7 @@ enum class Code {
     Limit,
     NoMethod,
     UnknownMethod,
+    WrongMethod,
     SecondMethod,
     BeforeMethod,
 
@@ -34,6 +35,7 @@ enum class Code {
     LostElement,
     TextContent,
     UnknownAttribute,
+    LostFigure,
     MisspeltAttribute,
     MissingAttribute,
     MissingText,
@@ -55,6 +57,7 @@ enum class Code {
     TotalSum,
     TaxSum,
     NoTotal,
+    SecondTotal,
     BehindTotal,
 
     // Texts.
@@ -65,6 +68,8 @@ enum class Code {
     Totale,
     Address,
     Mojibake,
+    OddCharacter,
+    EscapedTwice,
     NotInCharset,
 
     // The job beside its settings.
@@ -77,11 +82,13 @@ enum class Code {
     ByteOrderMark,
     Comment,
     Unterminated,
+    LostGroup,
     Catalogue,
 
     // The settings.
     Columns,
     UnreadKey,
+    Duplicate,
     NotTrue,
     NotANumber,
 

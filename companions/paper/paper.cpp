@@ -15,13 +15,16 @@ namespace {
 using Kind = Command::Kind;
 using Row = PaperRow::Kind;
 
-QString textOf(const QByteArray &bytes) { return shared::inOneLine(decoded(bytes)); }
-
-/// An amount for the reader: "1.20", or as it was sent where it is no plain number.
-QString moneyOf(const QByteArray &hundredths)
+QString textOf(const Command &command, const QByteArray &bytes)
 {
-    const auto amount = Amount::of(hundredths);
-    return amount ? amount->toString() : u'"' + textOf(hundredths) + u"\"/100"_s;
+    return shared::inOneLine(decoded(bytes, *command.codePage));
+}
+
+/// The amount for the reader: "1.20", or as it was sent where it is no plain number.
+QString moneyOf(const Command &command)
+{
+    const auto amount = Amount::of(command.amount);
+    return amount ? amount->toString() : u'"' + textOf(command, command.amount) + u"\"/100"_s;
 }
 
 } // namespace
@@ -42,7 +45,7 @@ void Roll::print(const Command &command)
         printSum(*sum);
     switch (command.kind) {
     case Kind::Line:
-        append(Row::Printed, QString(command.spaces, u' ') + textOf(command.content));
+        append(Row::Printed, QString(command.spaces, u' ') + textOf(command, command.content));
         break;
     case Kind::SectionOpened:
         break;
@@ -53,10 +56,10 @@ void Roll::print(const Command &command)
         printSaleRow(command);
         break;
     case Kind::Deduction:
-        appendSpread(Row::Deducted, u"DEDUCTION"_s, u'-' + moneyOf(command.amount));
+        appendSpread(Row::Deducted, u"DEDUCTION"_s, u'-' + moneyOf(command));
         break;
     case Kind::Unknown:
-        append(Row::Unknown, escaped(command.content));
+        append(Row::Unknown, escaped(command.content, *command.codePage));
         break;
     }
 }
@@ -71,9 +74,9 @@ void Roll::printSaleRow(const Command &row)
 {
     const auto amount = Amount::of(row.amount, row.quantity);
     if (row.quantity != "1" || !amount)
-        append(Row::Registered, u"  "_s + textOf(row.quantity) + u" x "_s + moneyOf(row.amount));
-    const QString department = u" R"_s + textOf(row.department);
-    appendSpread(Row::Registered, textOf(row.description),
+        append(Row::Registered, u"  "_s + textOf(row, row.quantity) + u" x "_s + moneyOf(row));
+    const QString department = u" R"_s + textOf(row, row.department);
+    appendSpread(Row::Registered, textOf(row, row.description),
                  (amount ? amount->toString() : u"?"_s) + department);
 }
 
@@ -100,11 +103,11 @@ void Roll::appendSpread(Row kind, const QString &left, const QString &right)
     append(kind, right.rightJustified(columns));
 }
 
-QList<PaperRow> paperOf(const QByteArray &stream, int columns)
+QList<PaperRow> paperOf(const QByteArray &stream, int columns, const recode::CodePage &page)
 {
     QList<PaperRow> rows;
     Roll roll(columns, [&](const PaperRow &row) { rows.append(row); });
-    Decoder decoder(stream);
+    Decoder decoder(stream, page);
     while (const auto command = decoder.next())
         roll.print(*command);
     roll.end();
@@ -115,7 +118,7 @@ QString widestRow(const Command &command, int columns)
 {
     QString widest;
     if (command.kind == Kind::Line) {
-        widest = QString(command.spaces, u' ') + decoded(command.content);
+        widest = QString(command.spaces, u' ') + decoded(command.content, *command.codePage);
     } else if (command.kind == Kind::SaleRow || command.kind == Kind::Deduction) {
         // A row may hold more than the description: a quantity, a department.
         Roll roll(columns, [&](const PaperRow &row) {

@@ -65,7 +65,8 @@ private:
 };
 
 /// All rows of a stream's paper; see Roll.
-QList<PaperRow> paperOf(const QByteArray &stream, int columns);
+QList<PaperRow> paperOf(const QByteArray &stream, int columns,
+                        const recode::CodePage &page = recode::CodePage::utf8());
 
 /**
  * The widest row of the paper that a command takes, a line as it was sent: what is held against the

@@ -81,9 +81,11 @@ constexpr CodeInfo rows[] = {
      "unknown."_L1,
      "Take it out of the name in the job, or send a blank instead."_L1},
     {Code::NotUtf8, Level::Warning, "not-utf-8"_L1,
-     "%1 is not UTF-8"_L1,
-     "Bytes of a text are no UTF-8. The stream was converted to another encoding, or damaged."_L1,
-     "Show the stream as it was before it was converted."_L1},
+     "%1 is not %2"_L1,
+     "Bytes of a text are no UTF-8, or no characters of the code page of --charset. The stream was "
+     "converted to another encoding, or damaged."_L1,
+     "Name the code page with --charset, or show the stream as it was before it was "
+     "converted."_L1},
 
     // Bytes that are no command.
     {Code::UnknownCommand, Level::Error, "unknown-command"_L1,

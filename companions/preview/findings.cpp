@@ -17,17 +17,16 @@ namespace {
 
 using Kind = Command::Kind;
 
-/// How bytes are called in a finding.
-QString nameOf(QByteArrayView bytes) { return u'"' + escaped(bytes) + u'"'; }
-
 /// Goes through the commands and notes what is wrong.
 class Inspector
 {
 public:
-    Inspector(const QByteArray &bytes, int paperColumns, const QList<Code> &ignoredCodes)
+    Inspector(const QByteArray &bytes, int paperColumns, const QList<Code> &ignoredCodes,
+              const CodePage &codePage)
         : stream(bytes)
         , columns(paperColumns)
         , ignored(ignoredCodes)
+        , page(codePage)
     {
     }
 
@@ -35,7 +34,7 @@ public:
     {
         if (stream.isEmpty())
             note(Code::EmptyStream, 0);
-        Decoder decoder(stream);
+        Decoder decoder(stream, page);
         while (const auto command = more == Code::MoreErrors ? std::nullopt : decoder.next())
             inspect(*command);
         if (open)
@@ -49,6 +48,12 @@ public:
     }
 
 private:
+    /// How bytes are called in a finding.
+    [[nodiscard]] QString nameOf(QByteArrayView bytes) const
+    {
+        return u'"' + escaped(bytes, page) + u'"';
+    }
+
     template<typename... Words>
     void note(Code code, qsizetype offset, const Words &...words)
     {
@@ -150,17 +155,17 @@ private:
     void inspectText(qsizetype offset, QByteArrayView text, Code parenthesis = Code::EndsText)
     {
         bool readable =
-            true; // bytes that are not UTF-8 are one finding as long as they follow each other
+            true; // bytes that are no characters are one finding as long as they follow each other
         while (!text.isEmpty() && more != Code::MoreErrors) {
-            const qsizetype length = characterLength(text);
+            const qsizetype length = characterLength(text, page);
             const QByteArrayView character = text.first(std::max<qsizetype>(length, 1));
             if (length == 0 && readable)
-                note(Code::NotUtf8, offset, nameOf(character));
+                note(Code::NotUtf8, offset, nameOf(character), page.name());
             else if (character == ")")
                 note(parenthesis, offset, u")"_s);
             else if (character == "\n" || character == "\r")
                 note(Code::BreaksText, offset, nameOf(character));
-            else if (length > 0 && isControl(character))
+            else if (length > 0 && isControl(character, page))
                 note(Code::ControlCode, offset, nameOf(character));
             readable = length > 0;
             offset += character.size();
@@ -189,7 +194,8 @@ private:
             return;
         }
         const QByteArrayView rest = QByteArrayView(stream).sliced(bad);
-        const QString byte = nameOf(rest.first(std::max<qsizetype>(characterLength(rest), 1)));
+        const QString byte =
+            nameOf(rest.first(std::max<qsizetype>(characterLength(rest, page), 1)));
         if (command.begunAs)
             note(Code::BrokenCommand, bad, kindName(*command.begunAs), byte);
         else
@@ -201,17 +207,17 @@ private:
     {
         if (found.isEmpty())
             return;
-        qsizetype rows = 0;
+        qsizetype printed = 0;
         qsizetype own = 0; // the command's first
         Roll roll(columns, [&](const PaperRow &row) {
-            ++rows;
+            ++printed;
             if (own == 0 && row.kind != PaperRow::Kind::Cut && row.kind != PaperRow::Kind::Computed)
-                own = rows;
+                own = printed;
         });
         auto next = found.begin();
         qsizetype line = 1;
         qsizetype at = 0;
-        Decoder decoder(stream);
+        Decoder decoder(stream, page);
         for (auto command = decoder.next(); next != found.end();) {
             own = 0;
             if (command)
@@ -229,6 +235,7 @@ private:
     const QByteArray &stream;
     const int columns;
     const QList<Code> &ignored;
+    const CodePage &page;
     std::optional<Section> open;
     qsizetype openedAt = 0;
     Ledger ledger;
@@ -238,9 +245,10 @@ private:
 
 } // namespace
 
-QList<Finding> findings(const QByteArray &stream, int columns, const QList<Code> &ignored)
+QList<Finding> findings(const QByteArray &stream, int columns, const QList<Code> &ignored,
+                        const CodePage &page)
 {
-    return Inspector(stream, columns, ignored).inspect();
+    return Inspector(stream, columns, ignored, page).inspect();
 }
 
 } // namespace korvel::preview

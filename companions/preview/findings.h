@@ -28,6 +28,7 @@ inline constexpr qsizetype mostFindings = 1000;
  * @param columns characters in a line of the paper
  * @param ignored findings of these codes are left out, and do not count
  */
-QList<Finding> findings(const QByteArray &stream, int columns, const QList<Code> &ignored = {});
+QList<Finding> findings(const QByteArray &stream, int columns, const QList<Code> &ignored = {},
+                        const recode::CodePage &page = recode::CodePage::utf8());
 
 } // namespace korvel::preview

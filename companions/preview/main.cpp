@@ -4,25 +4,23 @@
 #include "companions/preview/findings.h"
 #include "companions/preview/input.h"
 #include "companions/preview/listing.h"
-#include "companions/preview/picture.h"
+#include "companions/preview/pictures.h"
 #include "companions/preview/terminal.h"
+#include "companions/recode/codepage.h"
 #include "companions/shared/commandline.h"
 #include "companions/shared/files.h"
 #include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
-#include "config/path.h"
 #include "printer/company/commands.h"
 
-#include <QBuffer>
 #include <QGuiApplication>
-#include <QImage>
-#include <QImageWriter>
 
 #include <algorithm>
 #include <cstdio>
 
 #include <unistd.h>
 
+using korvel::recode::CodePage;
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
 namespace commands = korvel::commands;
@@ -36,14 +34,15 @@ constexpr int mostColumns = 255;
 const QCommandLineOption columnsOption(u"columns"_s,
                                        u"Characters in a line of the paper, from 1 to 255."_s,
                                        u"number"_s, QString::number(commands::lineWidth));
-const QCommandLineOption outputOption({u"o"_s, u"output"_s},
-                                      u"Write a picture, .png or .pdf, instead."_s, u"file"_s);
 const QCommandLineOption settingsOption(u"settings"_s,
                                         u"Render the job by these settings, not by the user's."_s,
                                         u"file"_s);
 const QCommandLineOption jobOption(u"job"_s, u"Take it for a job, whatever it looks like."_s);
 const QCommandLineOption streamOption(u"stream"_s,
                                       u"Take it for a stream, whatever it looks like."_s);
+const QCommandLineOption
+    charsetOption(u"charset"_s, u"The code page of an 8-bit printer that the stream is in."_s,
+                  u"name"_s, u"UTF-8"_s);
 const QCommandLineOption ignoreOption(u"ignore"_s,
                                       u"Leave out findings of these codes, parted by commas."_s,
                                       u"codes"_s);
@@ -65,32 +64,9 @@ bool wantsColours()
            && qgetenv("TERM") != "dumb";
 }
 
-/// Writes the picture that the file's name asks for; the status to end with.
-int writePicture(const QString &path, const QList<preview::PaperRow> &rows, int columns, int status)
-{
-    if (!preview::Picture::hasFont())
-        return trouble(u"no font is installed; install a monospaced one, such as DejaVu"_s);
-    const preview::Picture picture(rows, columns);
-    const bool pdf = path.endsWith(".pdf"_L1, Qt::CaseInsensitive);
-    if (!pdf && !picture.fitsImage())
-        return trouble(u"the paper has "_s + QString::number(picture.rowCount())
-                       + u" rows, too many or too wide for a .png, which holds "_s
-                       + QString::number(preview::Picture::mostRows)
-                       + u" of common width; write a .pdf"_s);
-    if (korvel::path::kindOf(path) == korvel::path::Kind::Other)
-        return trouble(path + u": no regular file"_s);
-    QBuffer png;
-    const QByteArray bytes = pdf                                                  ? picture.toPdf()
-                             : QImageWriter(&png, "png").write(picture.toImage()) ? png.data()
-                                                                                  : QByteArray();
-    if (bytes.isEmpty())
-        return trouble(path + u": the picture cannot be made"_s);
-    QString error;
-    return writeWhole(path, bytes, error) ? status : trouble(path + u": "_s + error);
-}
-
 /// Writes each command, behind it what is wrong with it, and the sum of each fiscal section.
-void writeJson(Output &out, const preview::Input &input, const QList<preview::Finding> &found)
+void writeJson(Output &out, const preview::Input &input, const QList<preview::Finding> &found,
+               const CodePage &page)
 {
     for (const preview::Input::CheckError &error : input.errors)
         out << jsonLine(toJson(error.file, error.finding));
@@ -100,7 +76,7 @@ void writeJson(Output &out, const preview::Input &input, const QList<preview::Fi
             out << jsonLine(toJson(*sum));
     };
     preview::Ledger ledger;
-    preview::Decoder decoder(input.stream);
+    preview::Decoder decoder(input.stream, page);
     while (const auto command = decoder.next()) {
         for (; next != found.end() && next->offset < command->offset; ++next)
             out << jsonLine(toJson(*next));
@@ -114,15 +90,12 @@ void writeJson(Output &out, const preview::Input &input, const QList<preview::Fi
 
 /// Writes what the options ask for; the status to end with.
 int write(const QCommandLineParser &parser, const preview::Input &input,
-          const QList<preview::Finding> &found, int columns, int status)
+          const QList<preview::Finding> &found, int columns, const CodePage &page, int status)
 {
-    if (parser.isSet(outputOption))
-        return writePicture(parser.value(outputOption), preview::paperOf(input.stream, columns),
-                            columns, status);
     Output out;
-    preview::Decoder decoder(input.stream);
+    preview::Decoder decoder(input.stream, page);
     if (parser.isSet(jsonOption)) {
-        writeJson(out, input, found);
+        writeJson(out, input, found, page);
     } else if (parser.isSet(listOption)) {
         while (const auto command = decoder.next())
             out << listed(*command) + u'\n';
@@ -214,16 +187,10 @@ QString misuseOf(const QCommandLineParser &parser)
 {
     if (parser.positionalArguments().size() != 1)
         return u"one job or stream is needed; see --help"_s;
-    if (parser.isSet(outputOption) + parser.isSet(jsonOption) + parser.isSet(listOption) > 1)
-        return u"--output, --json and --list exclude each other"_s;
     if (parser.isSet(streamOption) && parser.isSet(jobOption))
         return u"--stream and --job exclude each other"_s;
     if (parser.isSet(settingsOption) && parser.value(settingsOption).isEmpty())
         return u"--settings takes the name of a file"_s;
-    const QString output = parser.value(outputOption);
-    if (parser.isSet(outputOption) && !output.endsWith(".png"_L1, Qt::CaseInsensitive)
-        && !output.endsWith(".pdf"_L1, Qt::CaseInsensitive))
-        return u"--output takes a name that ends in .png or .pdf"_s;
     return {};
 }
 
@@ -234,8 +201,9 @@ void describe(QCommandLineParser &parser)
         u"Shows what a job or a command stream puts on paper, and says what is wrong with it."_s);
     parser.addPositionalArgument(u"FILE"_s,
                                  u"A job, or what korvel-print wrote; - for standard input."_s);
-    parser.addOptions({settingsOption, jobOption, streamOption, columnsOption, outputOption,
-                       jsonOption, listOption, quietOption, ignoreOption, strictOption,
+    parser.addOptions({settingsOption, jobOption, streamOption, columnsOption, charsetOption});
+    preview::addPictureOptions(parser);
+    parser.addOptions({jsonOption, listOption, quietOption, ignoreOption, strictOption,
                        listCodesOption, explainOption, schemaOption});
 }
 
@@ -247,10 +215,19 @@ int run(QCommandLineParser &parser, const QStringList &arguments)
         return *status;
     if (const QString misuse = misuseOf(parser); !misuse.isEmpty())
         return trouble(misuse);
+    QString error;
+    auto picture = preview::pictureRequest(parser, error);
+    if (!error.isEmpty())
+        return trouble(error);
+    if (picture.has_value() + parser.isSet(jsonOption) + parser.isSet(listOption) > 1)
+        return trouble(u"--output, --json and --list exclude each other"_s);
     bool isNumber = false;
     const int columns = parser.value(columnsOption).toInt(&isNumber);
     if (!isNumber || columns < 1 || columns > mostColumns)
         return trouble(u"--columns takes a number from 1 to "_s + QString::number(mostColumns));
+    const auto page = CodePage::named(parser.value(charsetOption).toUtf8());
+    if (!page)
+        return trouble(korvel::recode::noCodePage(parser.value(charsetOption)));
     Ignored ignored;
     if (const auto status = readIgnored(parser, ignored))
         return *status;
@@ -258,17 +235,22 @@ int run(QCommandLineParser &parser, const QStringList &arguments)
     const auto kind = parser.isSet(jobOption)      ? preview::InputKind::Job
                       : parser.isSet(streamOption) ? preview::InputKind::Stream
                                                    : preview::InputKind::ByContent;
-    QString error;
     const auto input = preview::readInput(parser.positionalArguments().constFirst(), kind,
                                           parser.value(settingsOption), ignored.inJobs, error);
     if (!input)
         return trouble(error);
+    if (input->isJob && !page->isUnicode())
+        return trouble(u"--charset is for streams; a job is rendered in UTF-8"_s);
     const QList<preview::Finding> found =
-        preview::findings(input->stream, columns, ignored.inStreams);
+        preview::findings(input->stream, columns, ignored.inStreams, *page);
     if (!parser.isSet(quietOption))
         tell(*input, found);
-    return write(parser, *input, found, columns,
-                 statusOf(*input, found, parser.isSet(strictOption)));
+    const int status = statusOf(*input, found, parser.isSet(strictOption));
+    if (!picture)
+        return write(parser, *input, found, columns, *page, status);
+    picture->title =
+        input->path == "-"_L1 ? u"Standard input"_s : inOneLine(input->path.section(u'/', -1));
+    return writePicture(*picture, preview::paperOf(input->stream, columns, *page), columns, status);
 }
 
 } // namespace
@@ -282,7 +264,7 @@ int main(int argc, char *argv[])
     static_cast<void>(parser.parse(arguments)); // which says later what is wrong with it
     // The toolkit would take options such as -style for its own.
     int programAlone = 1;
-    if (!parser.isSet(outputOption)) {
+    if (!preview::wantsPicture(parser)) {
         const QCoreApplication application(programAlone, argv);
         return run(parser, arguments);
     }

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace korvel::shared {
 
 bool isPrintable(char32_t character)
@@ -33,6 +35,14 @@ QString quoted(const QString &value)
     constexpr qsizetype longest = 40;
     const QString cut = value.size() > longest ? value.first(longest - 1) + u'…' : value;
     return u'"' + inOneLine(cut, u' ') + u'"';
+}
+
+QString characterName(char32_t character)
+{
+    QString number = u"U+"_s + QString::number(character, 16).toUpper().rightJustified(4, u'0');
+    if (!isPrintable(character))
+        return number;
+    return u'"' + QString::fromUcs4(&character, 1) + u"\" ("_s + number + u')';
 }
 
 } // namespace korvel::shared

@@ -20,4 +20,7 @@ QString inOneLine(const QString &text, QChar substitute = QChar::ReplacementChar
 /// A value in quotes, cut when it is long, with blanks for what does not print.
 QString quoted(const QString &value);
 
+/// A character in quotes and by its number, "è" (U+00E8), or by that alone where it does not print.
+QString characterName(char32_t character);
+
 } // namespace korvel::shared

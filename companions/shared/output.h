@@ -42,6 +42,9 @@ private:
 /// An object as JSON in one line, with the line's end and what does not print as escapes.
 QString jsonLine(const QJsonObject &object);
 
+/// Writes bytes to standard output as they are; the status to end with, as Output::end().
+int writeBytes(const QByteArray &bytes, int status);
+
 /// Writes a text to standard output; the status to end with, as Output::end().
 int writeOut(const QString &text, int status);
 

@@ -1,12 +1,12 @@
 // The checker's cases: each file says what is found in it, or which other file it nearly is.
 #include "support/checkcase.h"
+#include "support/test.h"
 
 #include <QDir>
-#include <QTest>
+
+namespace tst_checkcases {
 
 namespace check = korvel::check;
-
-namespace {
 
 const QDir top(KORVEL_SOURCE_DIR "/tests/check");
 
@@ -22,8 +22,6 @@ QStringList casesOf(const QString &folder)
     });
     return files;
 }
-
-} // namespace
 
 class TestCheckCases : public QObject
 {
@@ -77,5 +75,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckCases)
+KORVEL_TEST(TestCheckCases)
+
+} // namespace tst_checkcases
+
 #include "tst_checkcases.moc"

@@ -4,14 +4,14 @@
 #include "support/methods.h"
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 
 #include <array>
 
-namespace {
+namespace tst_golden {
 
 const QString casesFolder = KORVEL_SOURCE_DIR "/tests/golden/cases/";
 const QString examplesFolder = KORVEL_SOURCE_DIR "/examples/";
@@ -28,8 +28,6 @@ QSet<QString> methodsIn(const QStringList &jobs)
     }
     return names;
 }
-
-} // namespace
 
 class TestGolden : public QObject
 {
@@ -138,5 +136,8 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestGolden)
+KORVEL_TEST(TestGolden)
+
+} // namespace tst_golden
+
 #include "tst_golden.moc"

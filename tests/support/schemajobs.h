@@ -9,7 +9,7 @@
 #include <QString>
 #include <QTest>
 
-struct SoundJob
+struct AcceptedJob
 {
     QString what;
     QByteArray job;
@@ -24,7 +24,7 @@ struct WrongJob
     bool everywhere = true; // wrong whatever the document; else only because of its method
 };
 
-inline QByteArray documentOf(const QByteArray &method, const QByteArray &elements)
+inline QByteArray printJobOf(const QByteArray &method, const QByteArray &elements)
 {
     return "<printjob><method name=\"" + method + "\"/>" + elements + "</printjob>";
 }
@@ -44,13 +44,13 @@ inline void addExampleJobs()
         QTest::newRow(qPrintable(path.section('/', -1))) << path;
 }
 
-inline QList<SoundJob> soundJobs()
+inline QList<AcceptedJob> acceptedJobs()
 {
-    QList<SoundJob> jobs;
+    QList<AcceptedJob> jobs;
     const auto row = [&](const char *what, const QByteArray &job, bool namedRoot = true) {
         jobs.append({what, job, namedRoot});
     };
-    row("a document with nothing in it", documentOf("printPartialOrder", ""));
+    row("a document with nothing in it", printJobOf("printPartialOrder", ""));
     row("a root of any name, with any attributes",
         "<till number=\"7\" at=\"x\"><method name=\"printPartialOrder\"/>" + kitchenItem
             + "</till>",
@@ -60,38 +60,38 @@ inline QList<SoundJob> soundJobs()
         "  <!-- b --><?c d?>\n  "
             + kitchenItem + "\n</printjob>\n");
     row("elements in any order, and as often as one likes",
-        documentOf("printFullOrder",
+        printJobOf("printFullOrder",
                    "<total price=\"1\"/>" + pricedItem + pricedItem
                        + "<company/><total price=\"2\"/><logo/><company name=\"x\"/>"));
     row("attributes in any order",
-        documentOf("printPartialOrder", "<receipe name=\"x\" number=\"1\"/>"));
+        printJobOf("printPartialOrder", "<receipe name=\"x\" number=\"1\"/>"));
     row("values of any kind",
-        documentOf("printPartialOrder", "<receipe number=\"\" name=\"1&#10;)\"/>"));
+        printJobOf("printPartialOrder", "<receipe number=\"\" name=\"1&#10;)\"/>"));
     row("a start tag and an end tag",
-        documentOf("printPartialOrder", "<receipe number=\"1\" name=\"x\"></receipe>"));
+        printJobOf("printPartialOrder", "<receipe number=\"1\" name=\"x\"></receipe>"));
     row("headers and a company of any attributes",
-        documentOf("printPartialOrder", "<headers a=\"1\" b=\"2\"/><company c=\"3\"/>"));
+        printJobOf("printPartialOrder", "<headers a=\"1\" b=\"2\"/><company c=\"3\"/>"));
     row("what has a switch may be left out",
-        documentOf("printFullOrder", "<orderinfo/><orderinfo table=\"7\"/><customer name=\"x\"/>"));
+        printJobOf("printFullOrder", "<orderinfo/><orderinfo table=\"7\"/><customer name=\"x\"/>"));
     row("what this printer has no use for may be left out",
-        documentOf("printPartialOrder", "<printers name=\"CASSA\"/><printers port=\"1\"/>"));
+        printJobOf("printPartialOrder", "<printers name=\"CASSA\"/><printers port=\"1\"/>"));
     row("the quantity of a kind of item in a fiscal receipt, and none",
-        documentOf("printAbstractOrderFiscal",
+        printJobOf("printAbstractOrderFiscal",
                    "<receipe_type department=\"1\" number=\"2\" name=\"x\" price=\"1\"/>"
                    "<receipe_type department=\"1\" name=\"x\" price=\"1\"/>"));
     row("any attributes of cancelled documents",
-        documentOf("printReport",
+        printJobOf("printReport",
                    "<cancelledsummary number=\"1\" totals=\"9\" a=\"1\" b=\"2\" c=\"3\"/>"));
     row("a line that names the schema to editors",
         "<?xml-model href=\"job.rng\" "
         "schematypens=\"http://relaxng.org/ns/structure/1.0\"?>\n"
-            + documentOf("printSold", ""));
+            + printJobOf("printSold", ""));
     row("a root that names the XSD to editors",
-        documentOf("printSold", "")
+        printJobOf("printSold", "")
             .replace("<printjob>",
                      "<printjob xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
                      "xsi:noNamespaceSchemaLocation=\"schema\">"));
-    row("a document type without rules", "<!DOCTYPE printjob>\n" + documentOf("printSold", ""));
+    row("a document type without rules", "<!DOCTYPE printjob>\n" + printJobOf("printSold", ""));
     return jobs;
 }
 
@@ -120,22 +120,22 @@ private:
         row("no method", "<printjob>" + kitchenItem + "</printjob>",
             "<printjob>" + method + kitchenItem + "</printjob>");
         row("nothing at all", "<printjob/>", "<printjob>" + method + "</printjob>");
-        row("an unknown method", documentOf("printpartialOrder", ""),
-            documentOf("printPartialOrder", ""));
-        row("a method with a blank behind its name", documentOf("printSold ", ""),
-            documentOf("printSold", ""));
+        row("an unknown method", printJobOf("printpartialOrder", ""),
+            printJobOf("printPartialOrder", ""));
+        row("a method with a blank behind its name", printJobOf("printSold ", ""),
+            printJobOf("printSold", ""));
         row("a method without a name", "<printjob><method/></printjob>",
             "<printjob>" + method + "</printjob>");
         row("a method with more than a name",
             "<printjob><method name=\"printSold\" copies=\"2\"/></printjob>",
-            documentOf("printSold", ""));
+            printJobOf("printSold", ""));
         row("an element in the method",
             "<printjob><method name=\"printSold\"><logo/></method></printjob>",
-            documentOf("printSold", "<logo/>"));
+            printJobOf("printSold", "<logo/>"));
         row("a text in the method", "<printjob><method name=\"printSold\">x</method></printjob>",
-            documentOf("printSold", ""));
-        row("a second method", documentOf("printPartialOrder", kitchenItem + method),
-            documentOf("printPartialOrder", kitchenItem));
+            printJobOf("printSold", ""));
+        row("a second method", printJobOf("printPartialOrder", kitchenItem + method),
+            printJobOf("printPartialOrder", kitchenItem));
         row("an element before the method", "<printjob><logo/>" + method + "</printjob>",
             "<printjob>" + method + "<logo/></printjob>");
         row("a text in the job", "<printjob>x" + method + "</printjob>",
@@ -240,7 +240,7 @@ private:
                     const QByteArray &right)
     {
         jobs.append(
-            {document + ": " + what, documentOf(document, wrong), documentOf(document, right)});
+            {document + ": " + what, printJobOf(document, wrong), printJobOf(document, right)});
     }
 
     void here(const QByteArray &document, const QString &what, const QByteArray &wrong,

@@ -1,7 +1,8 @@
 // Amounts and quantities: which texts are found wanting, on paper and in sale rows.
 #include "support/checkjobs.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_checkamounts {
 
 namespace check = korvel::check;
 
@@ -230,5 +231,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckAmounts)
+KORVEL_TEST(TestCheckAmounts)
+
+} // namespace tst_checkamounts
+
 #include "tst_checkamounts.moc"

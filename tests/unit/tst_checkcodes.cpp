@@ -1,8 +1,10 @@
 // The codes of findings: each is explained, and says the words of a job as they stand.
 #include "support/checkjobs.h"
+#include "support/test.h"
 
 #include <QSet>
-#include <QTest>
+
+namespace tst_checkcodes {
 
 namespace check = korvel::check;
 
@@ -49,5 +51,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckCodes)
+KORVEL_TEST(TestCheckCodes)
+
+} // namespace tst_checkcodes
+
 #include "tst_checkcodes.moc"

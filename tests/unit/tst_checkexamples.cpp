@@ -3,13 +3,13 @@
 #include "companions/check/examples.h"
 #include "companions/check/settingsfile.h"
 #include "companions/recode/codepage.h"
+#include "support/test.h"
 
 #include <QStringList>
-#include <QTest>
+
+namespace tst_checkexamples {
 
 namespace check = korvel::check;
-
-namespace {
 
 /// The codes that are found in an example with these words in it, each once.
 QStringList codesIn(const check::Example &example, QLatin1StringView words)
@@ -30,8 +30,6 @@ QStringList codesIn(const check::Example &example, QLatin1StringView words)
     codes.removeDuplicates(); // several documents may share a mistake
     return codes;
 }
-
-} // namespace
 
 class TestCheckExamples : public QObject
 {
@@ -75,5 +73,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckExamples)
+KORVEL_TEST(TestCheckExamples)
+
+} // namespace tst_checkexamples
+
 #include "tst_checkexamples.moc"

@@ -1,12 +1,11 @@
 // The files of korvel-check: standard input, any names, and what cannot be read or written.
 #include "support/bytenames.h"
 #include "support/checkdesk.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <algorithm>
 
-namespace {
+namespace tst_checkfiles {
 
 /// A name as --json gives it: half a pair for a byte that is no UTF-8, what does not print escaped.
 QByteArray inJson(const QByteArray &name)
@@ -22,8 +21,6 @@ QByteArray inJson(const QByteArray &name)
     }
     return text.replace("\x1b", "\\u001b").replace("\xEF\xBB\xBF", "\\ufeff");
 }
-
-} // namespace
 
 class TestCheckFiles : public QObject
 {
@@ -68,6 +65,8 @@ private slots:
             "error.xml" + error);
         row("missing settings", {"--settings", "missing.conf", "error.xml"});
         row("settings in a folder", {"--settings", ".", "error.xml"});
+        row("settings for a job: the others are checked", {"korvel.conf", "error.xml"},
+            "error.xml" + error);
         // The renderer takes what is no regular file for missing settings.
         row("settings in a device", {"--settings", "/dev/null"});
         row("settings in standard input", {"--settings", "-"});
@@ -79,6 +78,27 @@ private slots:
         QFETCH(QByteArray, output);
         const Run run = Desk().run(arguments);
         VERIFY_TROUBLE(run, output);
+    }
+
+    /// Settings that are given as a job, which what is in them shows.
+    void settingsForAJob()
+    {
+        const Desk desk;
+        const QByteArray said = "settings.xml: settings, not a job; check them with korvel-check "
+                                "--settings FILE\n";
+        for (const QByteArray settings :
+             {"korvel:\n{\n};\n", "\xEF\xBB\xBFkorvel: { };", "# ours\nKorvel: { doc: { }; };",
+              "doc: { paperWidth = 32; };"}) {
+            writeFile(desk.path("settings.xml"), settings);
+            const Run run = desk.run({"settings.xml"});
+            VERIFY_TROUBLE(run, QByteArray());
+            QCOMPARE(run.standardError, "korvel-check: " + said);
+        }
+        for (const QByteArray job :
+             {"paperWidth", "x: { y = 1; };", "<job a=\"korvel: {\" paperWidth=\"32\"/>"}) {
+            writeFile(desk.path("settings.xml"), job);
+            VERIFY_ENDED(desk.run({"settings.xml"}), 1);
+        }
     }
 
     void filesOfAnyName_data() { addByteNames(); }
@@ -156,5 +176,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckFiles)
+KORVEL_TEST(TestCheckFiles)
+
+} // namespace tst_checkfiles
+
 #include "tst_checkfiles.moc"

@@ -1,16 +1,16 @@
 // Whole jobs in korvel-check: those that the golden tests print, and the samples.
 #include "companions/check/codes.h"
 #include "support/checkdesk.h"
+#include "support/test.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <QTest>
+
+namespace tst_checkjobs {
 
 namespace check = korvel::check;
-
-namespace {
 
 const QString casesFolder = top + "tests/golden/cases/";
 
@@ -23,8 +23,6 @@ QString lineOf(const QByteArray &json)
              QString::number(object["column"].toInt()), object["level"].toString(),
              object["text"].toString(), object["code"].toString());
 }
-
-} // namespace
 
 class TestCheckJobs : public QObject
 {
@@ -92,5 +90,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckJobs)
+KORVEL_TEST(TestCheckJobs)
+
+} // namespace tst_checkjobs
+
 #include "tst_checkjobs.moc"

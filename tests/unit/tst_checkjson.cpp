@@ -1,11 +1,13 @@
 // The findings of korvel-check in JSON, and the schema of a line.
 #include "companions/check/codes.h"
 #include "support/checkdesk.h"
+#include "support/test.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTest>
+
+namespace tst_checkjson {
 
 namespace check = korvel::check;
 
@@ -109,5 +111,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckJson)
+KORVEL_TEST(TestCheckJson)
+
+} // namespace tst_checkjson
+
 #include "tst_checkjson.moc"

@@ -1,7 +1,8 @@
 // Jobs and settings that are deep, long or many: where reading ends, and what is gone through.
 #include "support/checkjobs.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_checklimits {
 
 namespace check = korvel::check;
 
@@ -151,5 +152,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckLimits)
+KORVEL_TEST(TestCheckLimits)
+
+} // namespace tst_checklimits
+
 #include "tst_checklimits.moc"

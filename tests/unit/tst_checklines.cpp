@@ -2,15 +2,15 @@
 // holds.
 #include "support/bytenames.h"
 #include "support/checkdesk.h"
+#include "support/test.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <algorithm>
 
-namespace {
+namespace tst_checklines {
 
 /// Characters that end lines, turn texts round, have no shape or command terminals. XML forbids
 /// some of them.
@@ -83,8 +83,6 @@ QString unshown(const QString &line)
     return found.join(' ');
 }
 
-} // namespace
-
 class TestCheckLines : public QObject
 {
     Q_OBJECT
@@ -151,8 +149,8 @@ private slots:
         const Run run = desk.run({"--settings", "shop.conf"});
         VERIFY_ENDED(run, 0);
         QCOMPARE(run.standardOutput,
-                 "shop.conf:5:5: warning: nothing reads korvel.a [1m.b [2m: no document reads the "
-                 "group a [1m [unread-key]\n");
+                 "shop.conf:3:3: warning: nothing reads korvel.a [1m: no document has such a group "
+                 "[unread-key]\n");
     }
 
     void namesOfFiles_data()
@@ -195,5 +193,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckLines)
+KORVEL_TEST(TestCheckLines)
+
+} // namespace tst_checklines
+
 #include "tst_checklines.moc"

@@ -1,9 +1,11 @@
 // The codes on korvel-check's command line: listed, explained, ignored.
 #include "companions/check/explain.h"
 #include "support/checkdesk.h"
+#include "support/test.h"
 
 #include <QRegularExpression>
-#include <QTest>
+
+namespace tst_checkoptions {
 
 namespace check = korvel::check;
 
@@ -203,5 +205,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckOptions)
+KORVEL_TEST(TestCheckOptions)
+
+} // namespace tst_checkoptions
+
 #include "tst_checkoptions.moc"

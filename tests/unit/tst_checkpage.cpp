@@ -1,13 +1,13 @@
 // The reference page of korvel-check: its options, keys and statuses, and its example.
 #include "support/checkdesk.h"
+#include "support/test.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 
-namespace {
+namespace tst_checkpage {
 
 QStringList pageLines() { return QString::fromUtf8(bytesOf(top + "docs/checks.md")).split('\n'); }
 
@@ -46,8 +46,6 @@ QByteArray blockOfPage(const QString &info, int n = 0)
 }
 
 QString unquoted(QString cell) { return cell.remove('`'); }
-
-} // namespace
 
 class TestCheckPage : public QObject
 {
@@ -150,5 +148,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckPage)
+KORVEL_TEST(TestCheckPage)
+
+} // namespace tst_checkpage
+
 #include "tst_checkpage.moc"

@@ -1,8 +1,10 @@
 // korvel-check as a user meets it: options, exit statuses, schemas.
 #include "support/checkdesk.h"
+#include "support/test.h"
 
 #include <QMap>
-#include <QTest>
+
+namespace tst_checkprogram {
 
 class TestCheckProgram : public QObject
 {
@@ -128,5 +130,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckProgram)
+KORVEL_TEST(TestCheckProgram)
+
+} // namespace tst_checkprogram
+
 #include "tst_checkprogram.moc"

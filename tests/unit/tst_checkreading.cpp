@@ -4,14 +4,13 @@
 #include "support/checkjobs.h"
 #include "support/files.h"
 #include "support/guardedjob.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <algorithm>
 
-namespace check = korvel::check;
+namespace tst_checkreading {
 
-namespace {
+namespace check = korvel::check;
 
 /// Whether the checker takes a job for one that the renderer reads to its end.
 bool isReadable(const QByteArray &job)
@@ -20,8 +19,6 @@ bool isReadable(const QByteArray &job)
     return !codes.contains("malformed-xml") && !codes.contains("limit")
            && !codes.contains("encoding");
 }
-
-} // namespace
 
 class TestCheckReading : public QObject
 {
@@ -168,5 +165,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckReading)
+KORVEL_TEST(TestCheckReading)
+
+} // namespace tst_checkreading
+
 #include "tst_checkreading.moc"

@@ -3,12 +3,11 @@
 #include "support/checkjobs.h"
 #include "support/methods.h"
 #include "support/soundjobs.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_checksound {
 
 namespace check = korvel::check;
-
-namespace {
 
 constexpr int soundJobs = 2000;
 constexpr int brokenJobs = 390; // of each mistake, where a document can have it
@@ -251,8 +250,6 @@ Expected breakSaleRow(Generator &random, SoundJob &job)
 
 using Break = Expected (*)(Generator &, SoundJob &);
 
-} // namespace
-
 class TestCheckSound : public QObject
 {
     Q_OBJECT
@@ -335,5 +332,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCheckSound)
+KORVEL_TEST(TestCheckSound)
+
+} // namespace tst_checksound
+
 #include "tst_checksound.moc"

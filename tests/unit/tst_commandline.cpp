@@ -2,10 +2,9 @@
 #include "support/bytenames.h"
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_commandline {
 
 constexpr auto settings = R"(korvel:
 {
@@ -47,8 +46,6 @@ public:
 
     const TemporaryHome home{QByteArray(settings)};
 };
-
-} // namespace
 
 class TestCommandLine : public QObject
 {
@@ -391,5 +388,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCommandLine)
+KORVEL_TEST(TestCommandLine)
+
+} // namespace tst_commandline
+
 #include "tst_commandline.moc"

@@ -3,12 +3,11 @@
 #include "support/bytes.h"
 #include "support/capturedoutput.h"
 #include "support/temporaryhome.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <functional>
 
-namespace {
+namespace tst_company {
 
 /// The back end as a document sees it, with the method set by hand.
 class Printer : public CompanyPrinterDriver
@@ -39,10 +38,6 @@ QStringList streamOf(const Calls &calls)
 QString line(const QString &content) { return "=\"/(" + content + " )\\n"; }
 
 const QString sixteen(16, ' ');
-
-} // namespace
-
-Q_DECLARE_METATYPE(Calls)
 
 class TestCompany : public QObject
 {
@@ -348,5 +343,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCompany)
+KORVEL_TEST(TestCompany)
+
+} // namespace tst_company
+
 #include "tst_company.moc"

@@ -1,11 +1,10 @@
 // The brace notation, read: groups, names, values, and what is no statement.
 #include "support/store.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <algorithm>
 
-namespace {
+namespace tst_configbraces {
 
 /// Every byte from 1 to 255 in its order, but these.
 QByteArray allBytesBut(const QByteArray &excluded)
@@ -16,8 +15,6 @@ QByteArray allBytesBut(const QByteArray &excluded)
             bytes += static_cast<char>(byte);
     return bytes;
 }
-
-} // namespace
 
 class TestConfigBraces : public QObject
 {
@@ -226,5 +223,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestConfigBraces)
+KORVEL_TEST(TestConfigBraces)
+
+} // namespace tst_configbraces
+
 #include "tst_configbraces.moc"

@@ -1,9 +1,11 @@
 // Files of the store: missing ones, other notations, reading again, and the stream.
 #include "support/capturedoutput.h"
 #include "support/store.h"
+#include "support/test.h"
 
 #include <QRegularExpression>
-#include <QTest>
+
+namespace tst_configfiles {
 
 class TestConfigFiles : public QObject
 {
@@ -260,5 +262,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestConfigFiles)
+KORVEL_TEST(TestConfigFiles)
+
+} // namespace tst_configfiles
+
 #include "tst_configfiles.moc"

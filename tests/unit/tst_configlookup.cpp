@@ -1,7 +1,8 @@
 // Look-up of dotted keys, in either notation.
 #include "support/store.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_configlookup {
 
 class TestConfigLookup : public QObject
 {
@@ -227,5 +228,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestConfigLookup)
+KORVEL_TEST(TestConfigLookup)
+
+} // namespace tst_configlookup
+
 #include "tst_configlookup.moc"

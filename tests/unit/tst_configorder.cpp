@@ -8,16 +8,16 @@
 #include "support/capturedoutput.h"
 #include "support/settingsview.h"
 #include "support/store.h"
+#include "support/test.h"
 
 #include <QHash>
 #include <QSet>
-#include <QTest>
 #include <QTextStream>
 
 #include <memory>
 #include <random>
 
-namespace {
+namespace tst_configorder {
 
 constexpr unsigned sets = 20;
 constexpr int namesOfASet = 12;
@@ -71,8 +71,6 @@ QStringList sorted(QStringList names)
     names.sort();
     return names;
 }
-
-} // namespace
 
 class TestConfigOrder : public QObject
 {
@@ -221,5 +219,8 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestConfigOrder)
+KORVEL_TEST(TestConfigOrder)
+
+} // namespace tst_configorder
+
 #include "tst_configorder.moc"

@@ -2,8 +2,7 @@
 #include "config/configuration.h"
 #include "support/capturedoutput.h"
 #include "support/temporaryhome.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <array>
 #include <atomic>
@@ -16,7 +15,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace {
+namespace tst_configuration {
 
 using Settings = SyncSingleton<KVConfiguration>;
 
@@ -68,8 +67,6 @@ struct Farewell
     ~Farewell() { ::_exit(::write(pipe, "deleted", 7) == 7 ? 0 : 1); }
     int pipe = -1;
 };
-
-} // namespace
 
 class TestConfiguration : public QObject
 {
@@ -284,5 +281,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestConfiguration)
+KORVEL_TEST(TestConfiguration)
+
+} // namespace tst_configuration
+
 #include "tst_configuration.moc"

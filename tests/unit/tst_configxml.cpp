@@ -1,7 +1,8 @@
 // The XML notation, read: what stands before the root, what is malformed, what is too deep.
 #include "support/store.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_configxml {
 
 class TestConfigXml : public QObject
 {
@@ -121,5 +122,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestConfigXml)
+KORVEL_TEST(TestConfigXml)
+
+} // namespace tst_configxml
+
 #include "tst_configxml.moc"

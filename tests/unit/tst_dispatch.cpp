@@ -5,12 +5,11 @@
 #include "support/recordingdriver.h"
 #include "support/shown.h"
 #include "support/temporaryhome.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <optional>
 
-namespace {
+namespace tst_dispatch {
 
 constexpr auto notSupported = "File Format Not Supported\n";
 
@@ -90,8 +89,6 @@ private:
         calls.append(QString(operation) + " " + shown(qName, attributes));
     }
 };
-
-} // namespace
 
 class TestDispatch : public QObject
 {
@@ -346,5 +343,8 @@ private:
     const TemporaryHome home{settings()};
 };
 
-QTEST_GUILESS_MAIN(TestDispatch)
+KORVEL_TEST(TestDispatch)
+
+} // namespace tst_dispatch
+
 #include "tst_dispatch.moc"

@@ -3,13 +3,13 @@
 #include "support/names.h"
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QTest>
 
-namespace {
+namespace tst_documentation {
 
 const QString top = KORVEL_SOURCE_DIR "/";
 
@@ -146,8 +146,6 @@ QStringList expectedOf(const Block &block)
     }
     return lines;
 }
-
-} // namespace
 
 class TestDocumentation : public QObject
 {
@@ -363,5 +361,8 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDocumentation)
+KORVEL_TEST(TestDocumentation)
+
+} // namespace tst_documentation
+
 #include "tst_documentation.moc"

@@ -3,14 +3,13 @@
 #include "support/jobs.h"
 #include "support/recordingdriver.h"
 #include "support/temporaryhome.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <cstddef>
 #include <cstring>
 #include <type_traits>
 
-namespace {
+namespace tst_driver {
 
 using Driver = PrinterDriver;
 using Settings = SyncSingleton<KVConfiguration>;
@@ -107,8 +106,6 @@ QList<Operation> operations()
     };
     // clang-format on
 }
-
-} // namespace
 
 class TestDriver : public QObject
 {
@@ -253,5 +250,8 @@ private:
     const TemporaryHome home{""};
 };
 
-QTEST_GUILESS_MAIN(TestDriver)
+KORVEL_TEST(TestDriver)
+
+} // namespace tst_driver
+
 #include "tst_driver.moc"

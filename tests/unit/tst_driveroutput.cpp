@@ -7,10 +7,10 @@
 #include "support/files.h"
 #include "support/jobs.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
 #include <QScopeGuard>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <clocale>
 #include <memory>
@@ -19,11 +19,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace {
+namespace tst_driveroutput {
 
 constexpr auto cannotOpen = "PrintManager::printAbstractOrder(...): Unable To Open File\n";
-
-} // namespace
 
 class TestDriverOutput : public QObject
 {
@@ -225,5 +223,8 @@ private:
     QString path; // of the output file
 };
 
-QTEST_GUILESS_MAIN(TestDriverOutput)
+KORVEL_TEST(TestDriverOutput)
+
+} // namespace tst_driveroutput
+
 #include "tst_driveroutput.moc"

@@ -2,17 +2,14 @@
 // printed.
 #include "support/kitchenjob.h"
 #include "support/limiting.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <sys/stat.h>
 
-namespace {
+namespace tst_environment {
 
 // A sanitizer's frames are several times as large.
 constexpr rlim_t stackKilobyte = sanitized ? 4096 : 1024;
-
-} // namespace
 
 class TestEnvironment : public QObject
 {
@@ -206,5 +203,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestEnvironment)
+KORVEL_TEST(TestEnvironment)
+
+} // namespace tst_environment
+
 #include "tst_environment.moc"

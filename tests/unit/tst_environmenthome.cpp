@@ -1,10 +1,11 @@
 // Settings and homes of any kind: whatever they are, the job is printed.
 #include "support/capturedoutput.h"
 #include "support/kitchenjob.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <sys/stat.h>
+
+namespace tst_environmenthome {
 
 class TestEnvironmentHome : public QObject
 {
@@ -146,5 +147,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestEnvironmentHome)
+KORVEL_TEST(TestEnvironmentHome)
+
+} // namespace tst_environmenthome
+
 #include "tst_environmenthome.moc"

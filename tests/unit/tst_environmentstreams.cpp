@@ -2,15 +2,14 @@
 #include "support/capturedoutput.h"
 #include "support/kitchenjob.h"
 #include "support/limiting.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <thread>
 
 #include <poll.h>
 #include <sys/stat.h>
 
-namespace {
+namespace tst_environmentstreams {
 
 /// A job that prints about 400,000 bytes, far more than a pipe holds.
 const QByteArray longJob = "<job><method name=\"printPartialOrder\"/>"
@@ -18,8 +17,6 @@ const QByteArray longJob = "<job><method name=\"printPartialOrder\"/>"
                            + "</job>";
 const QByteArray longStream =
     "=o\n" + ("=\"/(  2 X" + QByteArray(25, ' ') + " )\n").repeated(10000) + "=o\n";
-
-} // namespace
 
 class TestEnvironmentStreams : public QObject
 {
@@ -210,5 +207,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestEnvironmentStreams)
+KORVEL_TEST(TestEnvironmentStreams)
+
+} // namespace tst_environmentstreams
+
 #include "tst_environmentstreams.moc"

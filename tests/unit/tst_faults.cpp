@@ -1,10 +1,9 @@
 // Calls to the system and for memory that fail: what is printed is right as far as it goes.
 #include "support/settingstext.h"
 #include "support/shop.h"
+#include "support/test.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_faults {
 
 // About 600,000 bytes: some 37 writes of 16 KB.
 constexpr int items = 16000;
@@ -74,8 +73,6 @@ bool isSaid(const QByteArray &standardOutput)
                    && QByteArray(" ): File Not Found").contains(line.mid(line.lastIndexOf(" )"))));
     });
 }
-
-} // namespace
 
 class TestFaults : public QObject
 {
@@ -207,5 +204,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestFaults)
+KORVEL_TEST(TestFaults)
+
+} // namespace tst_faults
+
 #include "tst_faults.moc"

@@ -3,11 +3,10 @@
 #include "support/recordingdriver.h"
 #include "support/shown.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 #include "support/translators.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_fiscal {
 
 /// Settings under which every header would print, were it not a fiscal document.
 QByteArray fiscalSettings(const QByteArray &more)
@@ -66,8 +65,6 @@ class NarrowDriver : public RecordingDriver
 public:
     int getPaperWidth() override { return 24; }
 };
-
-} // namespace
 
 class TestFiscal : public QObject
 {
@@ -368,5 +365,8 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestFiscal)
+KORVEL_TEST(TestFiscal)
+
+} // namespace tst_fiscal
+
 #include "tst_fiscal.moc"

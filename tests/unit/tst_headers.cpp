@@ -2,12 +2,12 @@
 #include "support/jobs.h"
 #include "support/recordingdriver.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 #include "support/translators.h"
 
 #include <QCoreApplication>
-#include <QTest>
 
-namespace {
+namespace tst_headers {
 
 const QString rule = "println |====================|"; // as wide as the paper of these tests
 
@@ -38,8 +38,6 @@ QString everyFlagBut(const QString &flag)
     flags.removeOne(flag);
     return flags.join(' ');
 }
-
-} // namespace
 
 class TestHeaders : public QObject
 {
@@ -392,5 +390,8 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestHeaders)
+KORVEL_TEST(TestHeaders)
+
+} // namespace tst_headers
+
 #include "tst_headers.moc"

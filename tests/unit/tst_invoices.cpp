@@ -3,11 +3,10 @@
 #include "support/recordingdriver.h"
 #include "support/shown.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 #include "support/translators.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_invoices {
 
 constexpr auto invoiceLayout = R"(quantityFieldWidth = "3";
         priceFieldWidth = "7";
@@ -63,8 +62,6 @@ public:
         return true;
     }
 };
-
-} // namespace
 
 class TestInvoices : public QObject
 {
@@ -394,5 +391,8 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestInvoices)
+KORVEL_TEST(TestInvoices)
+
+} // namespace tst_invoices
+
 #include "tst_invoices.moc"

@@ -3,15 +3,14 @@
 #include "support/jobs.h"
 #include "support/layouttables.h"
 #include "support/temporaryhome.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <functional>
 #include <utility>
 
-using korvel::Layout;
+namespace tst_layout {
 
-namespace {
+using korvel::Layout;
 
 /// The settings that are neither 0 nor off, as "paperWidth 32" and "printLogo".
 QStringList shown(const Layout &layout)
@@ -27,8 +26,6 @@ QStringList shown(const Layout &layout)
     }
     return settings;
 }
-
-} // namespace
 
 class TestLayout : public QObject
 {
@@ -213,5 +210,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLayout)
+KORVEL_TEST(TestLayout)
+
+} // namespace tst_layout
+
 #include "tst_layout.moc"

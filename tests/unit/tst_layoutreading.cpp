@@ -4,9 +4,9 @@
 // place of config/configuration.cpp, that takes note of every question.
 #include "config/configuration.h"
 #include "support/layouttables.h"
+#include "support/test.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -88,5 +88,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLayoutReading)
+KORVEL_TEST(TestLayoutReading)
 #include "tst_layoutreading.moc"

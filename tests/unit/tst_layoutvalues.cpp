@@ -2,12 +2,13 @@
 #include "support/jobs.h"
 #include "support/layouttables.h"
 #include "support/temporaryhome.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <clocale>
 #include <cstdlib>
 #include <limits>
+
+namespace tst_layoutvalues {
 
 class TestLayoutValues : public QObject
 {
@@ -165,5 +166,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLayoutValues)
+KORVEL_TEST(TestLayoutValues)
+
+} // namespace tst_layoutvalues
+
 #include "tst_layoutvalues.moc"

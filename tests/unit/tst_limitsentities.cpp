@@ -1,16 +1,13 @@
 // The limits on entities of jobs: how many, how much text, and how often they are referred to.
 #include "support/limits.h"
+#include "support/test.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_limitsentities {
 
 QByteArray entity(const QByteArray &name, const QByteArray &text)
 {
     return "<!ENTITY " + name + " \"" + text + "\">";
 }
-
-} // namespace
 
 class TestLimitsEntities : public QObject
 {
@@ -209,5 +206,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLimitsEntities)
+KORVEL_TEST(TestLimitsEntities)
+
+} // namespace tst_limitsentities
+
 #include "tst_limitsentities.moc"

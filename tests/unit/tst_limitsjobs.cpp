@@ -2,10 +2,9 @@
 #include "support/limits.h"
 #include "support/methods.h"
 #include "support/settingstext.h"
+#include "support/test.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_limitsjobs {
 
 // What every document prints for the elements that all of them share, without attributes and with
 // every switch on. The name of the printer is empty, and centred: 16 blanks.
@@ -41,8 +40,6 @@ constexpr auto everySwitch =
        printDate = "true"; printTime = "true"; printTable = "true"; printCustomer = "true";
        printLicenseNumber = "true"; printFiscalCode = "true"; printCredit = "true";
        printWaiter = "true"; printNote = "true"; openCashDrawer = "true"; )";
-
-} // namespace
 
 class TestLimitsJobs : public QObject
 {
@@ -278,5 +275,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLimitsJobs)
+KORVEL_TEST(TestLimitsJobs)
+
+} // namespace tst_limitsjobs
+
 #include "tst_limitsjobs.moc"

@@ -1,10 +1,9 @@
 // The limits on settings files: deep groups, many settings, long names and values.
 #include "support/limits.h"
 #include "support/store.h"
+#include "support/test.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_limitssettings {
 
 /// A group of the brace notation within others of the same name: `depth` of them in all.
 QByteArray nestedGroups(int depth, const QByteArray &inner)
@@ -22,8 +21,6 @@ QString nestedKey(int depth, const QString &setting)
 {
     return QString("g.").repeated(depth) + setting;
 }
-
-} // namespace
 
 class TestLimitsSettings : public QObject
 {
@@ -189,5 +186,8 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLimitsSettings)
+KORVEL_TEST(TestLimitsSettings)
+
+} // namespace tst_limitssettings
+
 #include "tst_limitssettings.moc"

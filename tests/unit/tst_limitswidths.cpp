@@ -1,8 +1,9 @@
 // The limits on widths and margins: what a setting says, and how much is padded at most.
 #include "support/limits.h"
 #include "support/settingstext.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_limitswidths {
 
 class TestLimitsWidths : public QObject
 {
@@ -177,5 +178,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLimitsWidths)
+KORVEL_TEST(TestLimitsWidths)
+
+} // namespace tst_limitswidths
+
 #include "tst_limitswidths.moc"

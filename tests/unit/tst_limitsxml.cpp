@@ -1,9 +1,10 @@
 // The limits on the XML of jobs: nesting, namespaces, DTDs, and files that a job names.
 #include "support/limits.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <sys/stat.h>
+
+namespace tst_limitsxml {
 
 class TestLimitsXml : public QObject
 {
@@ -177,5 +178,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLimitsXml)
+KORVEL_TEST(TestLimitsXml)
+
+} // namespace tst_limitsxml
+
 #include "tst_limitsxml.moc"

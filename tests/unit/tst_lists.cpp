@@ -2,11 +2,10 @@
 #include "support/jobs.h"
 #include "support/recordingdriver.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 #include "support/translators.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_lists {
 
 const QByteArray settings = settingsFile(documentGroup("solddoc", R"(quantityFieldWidth = "3";
         priceFieldWidth = "7";
@@ -23,8 +22,6 @@ const QByteArray settings = settingsFile(documentGroup("solddoc", R"(quantityFie
         openCashDrawer = "true";)"));
 
 const QString rule = "println |================================|";
-
-} // namespace
 
 class TestLists : public QObject
 {
@@ -297,5 +294,8 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLists)
+KORVEL_TEST(TestLists)
+
+} // namespace tst_lists
+
 #include "tst_lists.moc"

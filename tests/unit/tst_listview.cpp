@@ -3,20 +3,18 @@
 #include "support/settingsview.h"
 #include "support/store.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
 #include <QHeaderView>
-#include <QTest>
 #include <QTreeWidget>
 
-namespace {
+namespace tst_listview {
 
 /// The view of a store's settings.
 std::unique_ptr<QTreeWidget> viewOf(const libconfig::Config &store)
 {
     return std::unique_ptr<QTreeWidget>(store.newConfigListView());
 }
-
-} // namespace
 
 class TestListView : public QObject
 {
@@ -328,5 +326,8 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestListView)
+KORVEL_TEST(TestListView)
+
+} // namespace tst_listview
+
 #include "tst_listview.moc"

@@ -1,13 +1,13 @@
 // The manual pages: their options and arguments are the programs' own, and their examples run.
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QTest>
 
-namespace {
+namespace tst_manpages {
 
 const QString top = KORVEL_SOURCE_DIR "/";
 
@@ -22,6 +22,7 @@ const QList<Program> programs = {
     {"korvel-check",    KORVEL_CHECK   },
     {"korvel-preview",  KORVEL_PREVIEW },
     {"korvel-print",    KORVEL_PRINT   },
+    {"korvel-recode",   KORVEL_RECODE  },
     {"korvel-settings", KORVEL_SETTINGS},
 };
 // clang-format on
@@ -36,7 +37,7 @@ QString pathOf(const QString &name)
     return {};
 }
 
-QStringList matches(const QString &text, const char *pattern)
+QStringList captured(const QString &text, const char *pattern)
 {
     QStringList found;
     const QRegularExpression expression(pattern, QRegularExpression::MultilineOption);
@@ -70,7 +71,7 @@ QStringList optionsOnThePage(const QString &page)
 {
     static const QRegularExpression spelling("^Fl (\\S+)(?: Ar (\\S+))?$");
     QStringList options;
-    for (const QString &row : matches(section(page, "OPTIONS"), "^\\.It (.*)$")) {
+    for (const QString &row : captured(section(page, "OPTIONS"), "^\\.It (.*)$")) {
         QStringList spellings;
         QStringList arguments;
         for (const QString &part : row.split(" , ")) {
@@ -87,13 +88,13 @@ QStringList optionsOnThePage(const QString &page)
     return options;
 }
 
-QStringList spellingsOf(const QString &option) { return matches(option, "(?:^| )(--?[\\w-]+)"); }
+QStringList spellingsOf(const QString &option) { return captured(option, "(?:^| )(--?[\\w-]+)"); }
 
 /// All options that a text names, as they are typed.
 QStringList optionsNamedIn(const QString &text)
 {
     QStringList options;
-    for (const QString &name : matches(text, "\\bFl (-?\\w[\\w-]*)"))
+    for (const QString &name : captured(text, "\\bFl (-?\\w[\\w-]*)"))
         options.append('-' + name);
     return sorted(options);
 }
@@ -103,7 +104,7 @@ QStringList argumentsOnThePage(const QString &page)
 {
     QString synopsis = section(page, "SYNOPSIS");
     synopsis.remove(QRegularExpression("Fl \\S+ Ar \\S+"));
-    return sorted(matches(synopsis, "\\bAr (\\w+)"));
+    return sorted(captured(synopsis, "\\bAr (\\w+)"));
 }
 
 struct Example
@@ -115,6 +116,10 @@ struct Example
 /// A literal line without the escapes that keep its characters as they are typed.
 QString literal(QString line)
 {
+    static const QRegularExpression numbered("\\\\\\[u([0-9A-F]{4})\\]");
+    for (auto match = numbered.match(line); match.hasMatch(); match = numbered.match(line))
+        line.replace(match.capturedStart(), match.capturedLength(),
+                     QChar(match.captured(1).toUShort(nullptr, 16)));
     return line.remove("\\&").replace("\\-", "-").replace("\\(ti", "~").replace("\\e", "\\");
 }
 
@@ -155,10 +160,8 @@ QString helpBelow(const QString &help, const QString &heading)
 
 QStringList optionsInTheHelp(const QString &help)
 {
-    return matches(helpBelow(help, "Options"), "^  (-\\S*(?: \\S+)*)");
+    return captured(helpBelow(help, "Options"), "^  (-\\S*(?: \\S+)*)");
 }
-
-} // namespace
 
 class TestManPages : public QObject
 {
@@ -245,7 +248,7 @@ private slots:
             QVERIFY(usage.startsWith("Usage: " KORVEL_PRINT " "));
             said = usage.section(KORVEL_PRINT, 1).simplified().split(' ');
         } else {
-            said = matches(helpBelow(saidBy(name, {"--help"}), "Arguments"), "^  (\\w+)");
+            said = captured(helpBelow(saidBy(name, {"--help"}), "Arguments"), "^  (\\w+)");
             for (QString &argument : said)
                 argument = argument.toLower(); // pages set them in another face, not in capitals
         }
@@ -263,8 +266,8 @@ private slots:
             if (program.name != name)
                 others.append(program.name);
         const QString page = pageOf(name);
-        QCOMPARE(matches(section(page, "SEE ALSO"), "^\\.Xr (\\S+) 1\\b"), others);
-        QCOMPARE(sorted(matches(page, "\\bXr (\\S+)")), others);
+        QCOMPARE(captured(section(page, "SEE ALSO"), "^\\.Xr (\\S+) 1\\b"), others);
+        QCOMPARE(sorted(captured(page, "\\bXr (\\S+)")), others);
     }
 
     /// Each message of the renderer, in its order, is a row of its page.
@@ -284,7 +287,7 @@ private slots:
                                  .replace(home.settingsPath(), "path")
                                  .trimmed();
         QCOMPARE(said.split('\n').size(), 4);
-        QCOMPARE(matches(section(pageOf(renderer), "DIAGNOSTICS"), "^\\.It (.*)$"),
+        QCOMPARE(captured(section(pageOf(renderer), "DIAGNOSTICS"), "^\\.It (.*)$"),
                  said.split('\n'));
     }
 
@@ -336,5 +339,8 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestManPages)
+KORVEL_TEST(TestManPages)
+
+} // namespace tst_manpages
+
 #include "tst_manpages.moc"

@@ -1,10 +1,9 @@
 // Kitchen order and full order: which calls each element causes.
 #include "support/recordingdriver.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_orders {
 
 constexpr auto settings = R"(korvel:
 {
@@ -37,8 +36,6 @@ public:
         return qName != "orderinfo" && PrinterDriver::printSections(qName, attributes);
     }
 };
-
-} // namespace
 
 class TestOrders : public QObject
 {
@@ -209,5 +206,8 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestOrders)
+KORVEL_TEST(TestOrders)
+
+} // namespace tst_orders
+
 #include "tst_orders.moc"

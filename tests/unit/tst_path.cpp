@@ -1,18 +1,18 @@
 // Paths: bytes to texts and back without a loss, and files opened under exactly these bytes.
 #include "config/path.h"
 #include "support/bytenames.h"
+#include "support/test.h"
 
 #include <QScopeGuard>
 #include <QSet>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <random>
 #include <thread>
 
-using korvel::path::Kind;
+namespace tst_path {
 
-namespace {
+using korvel::path::Kind;
 
 QString decoded(const QByteArray &bytes) { return korvel::path::fromBytes(bytes); }
 
@@ -26,8 +26,6 @@ QString lone(const QByteArray &bytes)
         text += QChar(0xDC00 + uchar(byte));
     return text;
 }
-
-} // namespace
 
 class TestPath : public QObject
 {
@@ -351,5 +349,8 @@ private:
     std::unique_ptr<QTemporaryDir> folder;
 };
 
-QTEST_GUILESS_MAIN(TestPath)
+KORVEL_TEST(TestPath)
+
+} // namespace tst_path
+
 #include "tst_path.moc"

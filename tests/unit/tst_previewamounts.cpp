@@ -1,9 +1,11 @@
 // The preview's amounts: exact products and sums, and what is no number.
 #include "companions/paper/amounts.h"
 #include "support/spelt.h"
+#include "support/test.h"
 
 #include <QRegularExpression>
-#include <QTest>
+
+namespace tst_previewamounts {
 
 using namespace Qt::Literals::StringLiterals;
 using namespace korvel::preview;
@@ -204,5 +206,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewAmounts)
+KORVEL_TEST(TestPreviewAmounts)
+
+} // namespace tst_previewamounts
+
 #include "tst_previewamounts.moc"

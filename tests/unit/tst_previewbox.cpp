@@ -1,17 +1,17 @@
 // The paper in a terminal: the box round it, its edges and colours.
 #include "support/box.h"
 #include "support/bytes.h"
+#include "support/test.h"
 
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
+
+namespace tst_previewbox {
 
 using namespace Qt::Literals::StringLiterals;
 using namespace korvel::preview;
 
 using Kind = PaperRow::Kind;
-
-namespace {
 
 QString box(const QList<PaperRow> &rows, int columns = 8) { return boxed(rows, columns, false); }
 
@@ -23,8 +23,6 @@ QStringList inside(const QString &box)
 }
 
 const QString pizza = "\xF0\x9F\x8D\x95"; // two units, two cells of a terminal
-
-} // namespace
 
 class TestPreviewBox : public QObject
 {
@@ -162,5 +160,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewBox)
+KORVEL_TEST(TestPreviewBox)
+
+} // namespace tst_previewbox
+
 #include "tst_previewbox.moc"

@@ -3,16 +3,16 @@
 #include "support/box.h"
 #include "support/bytes.h"
 #include "support/files.h"
+#include "support/test.h"
 
 #include <QDir>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <algorithm>
 
-using namespace korvel::preview;
+namespace tst_previewcases {
 
-namespace {
+using namespace korvel::preview;
 
 const QString cases = KORVEL_SOURCE_DIR "/tests/preview/";
 constexpr int columns = 32;
@@ -30,8 +30,6 @@ bool differLittle(const QByteArray &a, const QByteArray &b)
     const auto end = std::mismatch(a.rbegin(), a.rend() - same, b.rbegin(), b.rend() - same);
     return std::max(a.size(), b.size()) - same - (end.first - a.rbegin()) <= 8;
 }
-
-} // namespace
 
 class TestPreviewCases : public QObject
 {
@@ -90,5 +88,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewCases)
+KORVEL_TEST(TestPreviewCases)
+
+} // namespace tst_previewcases
+
 #include "tst_previewcases.moc"

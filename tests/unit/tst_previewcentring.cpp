@@ -2,16 +2,13 @@
 #include "support/bytes.h"
 #include "support/spelt.h"
 #include "support/streams.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_previewcentring {
 
 using namespace korvel::preview;
 
-namespace {
-
 QByteArray blanks(int count) { return QByteArray(count, ' '); }
-
-} // namespace
 
 class TestPreviewCentring : public QObject
 {
@@ -113,5 +110,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewCentring)
+KORVEL_TEST(TestPreviewCentring)
+
+} // namespace tst_previewcentring
+
 #include "tst_previewcentring.moc"

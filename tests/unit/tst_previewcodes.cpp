@@ -3,9 +3,11 @@
 #include "companions/preview/codes.h"
 #include "support/previewdesk.h"
 #include "support/streams.h"
+#include "support/test.h"
 
 #include <QSet>
-#include <QTest>
+
+namespace tst_previewcodes {
 
 namespace check = korvel::check;
 using korvel::preview::CodeInfo;
@@ -119,5 +121,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewCodes)
+KORVEL_TEST(TestPreviewCodes)
+
+} // namespace tst_previewcodes
+
 #include "tst_previewcodes.moc"

@@ -1,8 +1,9 @@
 // The preview's stream taken apart: the commands that fit, and where sections open and close.
 #include "support/spelt.h"
 #include "support/streams.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_previewcommands {
 
 using namespace Qt::Literals::StringLiterals;
 using namespace korvel::preview;
@@ -147,5 +148,8 @@ private slots:
     void openingOrClosing() { compareCommands(); }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewCommands)
+KORVEL_TEST(TestPreviewCommands)
+
+} // namespace tst_previewcommands
+
 #include "tst_previewcommands.moc"

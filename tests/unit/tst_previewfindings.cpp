@@ -4,14 +4,14 @@
 #include "companions/preview/findings.h"
 #include "support/bytes.h"
 #include "support/streams.h"
+#include "support/test.h"
 
 #include <QDirIterator>
 #include <QMap>
-#include <QTest>
+
+namespace tst_previewfindings {
 
 using namespace korvel::preview;
-
-namespace {
 
 /// What is found in a stream, as lines of text: "2: byte 6: ..." is about line 2 of the stream.
 QStringList foundIn(const QByteArray &stream, int columns = 32)
@@ -21,8 +21,6 @@ QStringList foundIn(const QByteArray &stream, int columns = 32)
         lines.append(QString("%1: byte %2: ").arg(finding.line).arg(finding.offset) + finding.text);
     return lines;
 }
-
-} // namespace
 
 class TestPreviewFindings : public QObject
 {
@@ -166,5 +164,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewFindings)
+KORVEL_TEST(TestPreviewFindings)
+
+} // namespace tst_previewfindings
+
 #include "tst_previewfindings.moc"

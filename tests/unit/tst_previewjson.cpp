@@ -1,15 +1,15 @@
 // The JSON and the list that korvel-preview writes, and the schema of the JSON.
 #include "support/previewdesk.h"
 #include "support/streams.h"
+#include "support/test.h"
 
 #include <QDirIterator>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMap>
-#include <QTest>
 
-namespace {
+namespace tst_previewjson {
 
 const QString top = KORVEL_SOURCE_DIR "/";
 const QString schema = top + "docs/preview.schema.json";
@@ -33,8 +33,6 @@ QStringList refused(const QByteArray &lines)
         numbers.append(QString::fromUtf8(run.standardError));
     return numbers;
 }
-
-} // namespace
 
 class TestPreviewJson : public QObject
 {
@@ -260,5 +258,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewJson)
+KORVEL_TEST(TestPreviewJson)
+
+} // namespace tst_previewjson
+
 #include "tst_previewjson.moc"

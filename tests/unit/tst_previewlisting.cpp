@@ -2,11 +2,13 @@
 #include "companions/preview/listing.h"
 #include "support/bytes.h"
 #include "support/commands.h"
+#include "support/test.h"
 
 #include <QJsonDocument>
-#include <QTest>
 
 #include <algorithm>
+
+namespace tst_previewlisting {
 
 using namespace Qt::Literals::StringLiterals;
 using namespace korvel::preview;
@@ -154,5 +156,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewListing)
+KORVEL_TEST(TestPreviewListing)
+
+} // namespace tst_previewlisting
+
 #include "tst_previewlisting.moc"

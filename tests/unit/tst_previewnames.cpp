@@ -2,8 +2,9 @@
 #include "support/bytenames.h"
 #include "support/previewdesk.h"
 #include "support/streams.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_previewnames {
 
 class TestPreviewNames : public QObject
 {
@@ -128,5 +129,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewNames)
+KORVEL_TEST(TestPreviewNames)
+
+} // namespace tst_previewnames
+
 #include "tst_previewnames.moc"

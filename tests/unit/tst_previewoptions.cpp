@@ -1,8 +1,9 @@
 // korvel-preview as a user starts it: the paper, its width, options that are none, help.
 #include "support/previewdesk.h"
 #include "support/streams.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_previewoptions {
 
 class TestPreviewOptions : public QObject
 {
@@ -144,6 +145,12 @@ private slots:
         QTest::newRow("output: another kind") << QStringList{"-o", "y.gif", "x.out"};
         QTest::newRow("output: no kind") << QStringList{"--output=png", "x.out"};
         QTest::newRow("output: empty") << QStringList{"--output=", "x.out"};
+        QTest::newRow("format: another") << QStringList{"-o", "y.png", "--format", "gif", "x.out"};
+        QTest::newRow("format: no output") << QStringList{"--format", "png", "x.out"};
+        QTest::newRow("look: another") << QStringList{"-o", "y.png", "--look", "fancy", "x.out"};
+        QTest::newRow("look: no output") << QStringList{"--look", "thermal", "x.out"};
+        QTest::newRow("transparent: no output") << QStringList{"--transparent", "x.out"};
+        QTest::newRow("transparent: PDF") << QStringList{"-o", "y.pdf", "--transparent", "x.out"};
         QTest::newRow("output: no value") << QStringList{"x.out", "-o"};
 
         QTest::newRow("output and JSON") << QStringList{"-o", "y.png", "--json", "x.out"};
@@ -210,5 +217,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewOptions)
+KORVEL_TEST(TestPreviewOptions)
+
+} // namespace tst_previewoptions
+
 #include "tst_previewoptions.moc"

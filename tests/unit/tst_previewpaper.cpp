@@ -1,17 +1,16 @@
 // The paper of a stream, row by row.
 #include "support/box.h"
 #include "support/streams.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <algorithm>
+
+namespace tst_previewpaper {
 
 using namespace Qt::Literals::StringLiterals;
 using namespace korvel::preview;
 
 using Kind = PaperRow::Kind;
-
-namespace {
 
 QString nameOf(Kind kind)
 {
@@ -49,8 +48,6 @@ QStringList sum(const QString &amount, const QString &label = "Sum (by the previ
 }
 
 QString blanks(int count) { return QString(count, ' '); }
-
-} // namespace
 
 class TestPreviewPaper : public QObject
 {
@@ -249,5 +246,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewPaper)
+KORVEL_TEST(TestPreviewPaper)
+
+} // namespace tst_previewpaper
+
 #include "tst_previewpaper.moc"

@@ -1,9 +1,11 @@
 // What korvel-preview finds: the lines that it says, the bytes that it names, its exit status.
 #include "support/previewdesk.h"
 #include "support/streams.h"
+#include "support/test.h"
 
 #include <QMap>
-#include <QTest>
+
+namespace tst_previewstatus {
 
 class TestPreviewStatus : public QObject
 {
@@ -184,5 +186,8 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewStatus)
+KORVEL_TEST(TestPreviewStatus)
+
+} // namespace tst_previewstatus
+
 #include "tst_previewstatus.moc"

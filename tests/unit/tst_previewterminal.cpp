@@ -2,9 +2,11 @@
 // obey.
 #include "support/previewdesk.h"
 #include "support/streams.h"
+#include "support/test.h"
 
 #include <QRegularExpression>
-#include <QTest>
+
+namespace tst_previewterminal {
 
 class TestPreviewTerminal : public QObject
 {
@@ -110,5 +112,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewTerminal)
+KORVEL_TEST(TestPreviewTerminal)
+
+} // namespace tst_previewterminal
+
 #include "tst_previewterminal.moc"

@@ -1,7 +1,8 @@
 // Texts of the preview's stream: characters, control characters, bytes spelt out.
 #include "companions/paper/text.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_previewtexts {
 
 using namespace Qt::Literals::StringLiterals;
 using namespace korvel::preview;
@@ -151,5 +152,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewTexts)
+KORVEL_TEST(TestPreviewTexts)
+
+} // namespace tst_previewtexts
+
 #include "tst_previewtexts.moc"

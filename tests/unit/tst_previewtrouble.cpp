@@ -1,10 +1,11 @@
 // What korvel-preview does where it can neither read nor write.
 #include "support/previewdesk.h"
 #include "support/streams.h"
-
-#include <QTest>
+#include "support/test.h"
 
 #include <sys/stat.h>
+
+namespace tst_previewtrouble {
 
 class TestPreviewTrouble : public QObject
 {
@@ -124,5 +125,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewTrouble)
+KORVEL_TEST(TestPreviewTrouble)
+
+} // namespace tst_previewtrouble
+
 #include "tst_previewtrouble.moc"

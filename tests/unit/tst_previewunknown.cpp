@@ -1,8 +1,9 @@
 // The preview's stream taken apart: what fits no command, and the first byte that does not fit.
 #include "support/spelt.h"
 #include "support/streams.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_previewunknown {
 
 using namespace Qt::Literals::StringLiterals;
 using namespace korvel::preview;
@@ -153,5 +154,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewUnknown)
+KORVEL_TEST(TestPreviewUnknown)
+
+} // namespace tst_previewunknown
+
 #include "tst_previewunknown.moc"

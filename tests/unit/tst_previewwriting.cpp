@@ -3,20 +3,18 @@
 #include "support/files.h"
 #include "support/spelt.h"
 #include "support/streams.h"
+#include "support/test.h"
 
 #include <QMap>
-#include <QTest>
+
+namespace tst_previewwriting {
 
 using namespace Qt::Literals::StringLiterals;
 using namespace korvel::preview;
 
 using Kind = Command::Kind;
 
-namespace {
-
 QByteArray blanks(int count) { return QByteArray(count, ' '); }
-
-} // namespace
 
 class TestPreviewWriting : public QObject
 {
@@ -135,5 +133,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPreviewWriting)
+KORVEL_TEST(TestPreviewWriting)
+
+} // namespace tst_previewwriting
+
 #include "tst_previewwriting.moc"

@@ -5,12 +5,12 @@
 #include "support/generator.h"
 #include "support/recordingdriver.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>
-#include <QTest>
 
-namespace {
+namespace tst_properties {
 
 /// A row for each seed.
 void addSeeds()
@@ -63,8 +63,6 @@ public:
 private:
     QTemporaryDir folder;
 };
-
-} // namespace
 
 class TestProperties : public QObject
 {
@@ -172,5 +170,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestProperties)
+KORVEL_TEST(TestProperties)
+
+} // namespace tst_properties
+
 #include "tst_properties.moc"

@@ -1,10 +1,9 @@
 // Full and summary receipt: which calls each element causes.
 #include "support/recordingdriver.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_receipts {
 
 constexpr auto settings = R"(korvel:
 {
@@ -18,8 +17,6 @@ constexpr auto settings = R"(korvel:
     };
 };
 )";
-
-} // namespace
 
 class TestReceipts : public QObject
 {
@@ -112,5 +109,8 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestReceipts)
+KORVEL_TEST(TestReceipts)
+
+} // namespace tst_receipts
+
 #include "tst_receipts.moc"

@@ -3,22 +3,20 @@
 #include "support/settingsfiles.h"
 #include "support/settingstext.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
 #include <QDir>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <csignal>
+
+namespace tst_rendering {
 
 using namespace korvel::shared;
 using End = Rendered::End;
 
-namespace {
-
 /// What came of the first run that a spy saw.
 Rendered first(const QSignalSpy &ended) { return ended[0][0].value<Rendered>(); }
-
-} // namespace
 
 class TestRendering : public QObject
 {
@@ -251,5 +249,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestRendering)
+KORVEL_TEST(TestRendering)
+
+} // namespace tst_rendering
+
 #include "tst_rendering.moc"

@@ -2,11 +2,10 @@
 #include "support/jobs.h"
 #include "support/recordingdriver.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 #include "support/translators.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_report {
 
 // What a report prints on paper 40 characters wide.
 const QString number = "print 0 |Number...................|";
@@ -34,8 +33,6 @@ QByteArray reportSettings(const QByteArray &more)
     return settingsFile(documentGroup("reportdoc", R"(printCustomer = "true"; printDate = "true";
         openCashDrawer = "true"; )" + more));
 }
-
-} // namespace
 
 class TestReport : public QObject
 {
@@ -384,5 +381,8 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestReport)
+KORVEL_TEST(TestReport)
+
+} // namespace tst_report
+
 #include "tst_report.moc"

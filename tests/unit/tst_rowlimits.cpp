@@ -1,14 +1,11 @@
 // Rows of any style beyond what is usual: unknown styles, widths at their bounds, long texts.
 #include "support/rows.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_rowlimits {
 
 const QStringList styles = {"qdpt", "qxdpt", "qxdtDoubleLine", "qxd", "qd", "date-amount-type"};
-
-} // namespace
 
 class TestRowLimits : public QObject
 {
@@ -133,5 +130,8 @@ private:
     const TemporaryHome home{""};
 };
 
-QTEST_GUILESS_MAIN(TestRowLimits)
+KORVEL_TEST(TestRowLimits)
+
+} // namespace tst_rowlimits
+
 #include "tst_rowlimits.moc"

@@ -1,15 +1,12 @@
 // The row styles: widths, fills, cuts and pads of their columns.
 #include "support/rows.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_rows {
 
 /// The usual texts with another description.
 QStringList named(const QString &description) { return {"2", description, "1.20", "2.40"}; }
-
-} // namespace
 
 class TestRows : public QObject
 {
@@ -285,5 +282,8 @@ private:
     const TemporaryHome home{""};
 };
 
-QTEST_GUILESS_MAIN(TestRows)
+KORVEL_TEST(TestRows)
+
+} // namespace tst_rows
+
 #include "tst_rows.moc"

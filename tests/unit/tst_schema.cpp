@@ -4,14 +4,14 @@
 #include "companions/check/vocabulary.h"
 #include "support/bytes.h"
 #include "support/schemajobs.h"
+#include "support/test.h"
 #include "support/validator.h"
 
 #include <QSet>
-#include <QTest>
+
+namespace tst_schema {
 
 namespace check = korvel::check;
-
-namespace {
 
 Validator relaxNg(const QByteArray &schema = check::relaxNgSchema())
 {
@@ -27,8 +27,6 @@ QByteArray elementOf(const vocabulary::Element &element, vocabulary::Document do
     return tag + "/>";
 }
 
-} // namespace
-
 class TestSchema : public QObject
 {
     Q_OBJECT
@@ -36,16 +34,16 @@ class TestSchema : public QObject
 private slots:
     void isRelaxNg()
     {
-        const Run run = relaxNg().run(documentOf("printSold", ""));
+        const Run run = relaxNg().run(printJobOf("printSold", ""));
         QVERIFY2(run.exited && run.status == Valid, run.standardError.constData());
         QCOMPARE(run.standardOutput, QByteArray());
 
         // What is no schema is noticed.
         const QByteArray schema = check::relaxNgSchema();
         const Validator broken = relaxNg(QByteArray(schema).replace("zeroOrMore", "anyNumberOf"));
-        QCOMPARE(broken.run(documentOf("printSold", "")).status, int(BadSchema));
+        QCOMPARE(broken.run(printJobOf("printSold", "")).status, int(BadSchema));
         const Validator cut = relaxNg(schema.first(schema.size() / 2));
-        QCOMPARE(cut.run(documentOf("printSold", "")).status, int(BadSchema));
+        QCOMPARE(cut.run(printJobOf("printSold", "")).status, int(BadSchema));
     }
 
     void examples_data() { addExampleJobs(); }
@@ -60,7 +58,7 @@ private slots:
     void accepts_data()
     {
         QTest::addColumn<QByteArray>("job");
-        for (const SoundJob &sound : soundJobs())
+        for (const AcceptedJob &sound : acceptedJobs())
             QTest::newRow(qPrintable(sound.what)) << sound.job;
     }
 
@@ -109,7 +107,7 @@ private slots:
                 const auto document =
                     knows ? method.document
                           : vocabulary::Document(element.documents & ~(element.documents - 1));
-                jobs.append(documentOf(method.name.data(), elementOf(element, document)));
+                jobs.append(printJobOf(method.name.data(), elementOf(element, document)));
                 known.append(knows);
                 what.append(name + " in " + method.name);
             }
@@ -140,5 +138,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSchema)
+KORVEL_TEST(TestSchema)
+
+} // namespace tst_schema
+
 #include "tst_schema.moc"

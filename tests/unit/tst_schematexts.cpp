@@ -1,13 +1,13 @@
 // What the schemas of jobs tell an editor: each element and attribute in words.
 #include "companions/check/schema.h"
 #include "companions/check/schematexts.h"
+#include "support/test.h"
 
-#include <QTest>
 #include <QXmlStreamReader>
 
-namespace check = korvel::check;
+namespace tst_schematexts {
 
-namespace {
+namespace check = korvel::check;
 
 /// A name that a schema declares, and the texts that stand at it.
 struct Declaration
@@ -52,8 +52,6 @@ QStringList textsAt(const QList<Declaration> &declarations, const QString &path)
             texts += declaration.texts;
     return texts;
 }
-
-} // namespace
 
 class TestSchemaTexts : public QObject
 {
@@ -122,5 +120,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSchemaTexts)
+KORVEL_TEST(TestSchemaTexts)
+
+} // namespace tst_schematexts
+
 #include "tst_schematexts.moc"

@@ -4,10 +4,9 @@
 #include "support/recordingdriver.h"
 #include "support/shown.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_sections {
 
 using Text = const QString &;
 using Attributes = const QXmlAttributes &;
@@ -49,8 +48,6 @@ class NoPartialOrderDriver : public GreedyDriver
 public:
     void printPartialOrder(Text /*qName*/, Attributes /*attributes*/) override { }
 };
-
-} // namespace
 
 class TestSections : public QObject
 {
@@ -218,5 +215,8 @@ private:
     const TemporaryHome home{""};
 };
 
-QTEST_GUILESS_MAIN(TestSections)
+KORVEL_TEST(TestSections)
+
+} // namespace tst_sections
+
 #include "tst_sections.moc"

@@ -4,11 +4,13 @@
 #include "support/settingstext.h"
 #include "support/settingsview.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
 #include <QFileInfo>
-#include <QTest>
 
 #include <memory>
+
+namespace tst_settingsdocument {
 
 using namespace korvel::settings;
 
@@ -266,5 +268,8 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestSettingsDocument)
+KORVEL_TEST(TestSettingsDocument)
+
+} // namespace tst_settingsdocument
+
 #include "tst_settingsdocument.moc"

@@ -4,15 +4,15 @@
 #include "support/settingsfiles.h"
 #include "support/settingstext.h"
 #include "support/settingsview.h"
+#include "support/test.h"
 
 #include <QMap>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTreeWidgetItemIterator>
 
-using namespace korvel::settings;
+namespace tst_settingshints {
 
-namespace {
+using namespace korvel::settings;
 
 /// Marked rows and what they say: "korvel.doc.printDate: ...". A value's row stands for itself.
 QMap<QString, QString> marksOf(QTreeWidget &view)
@@ -32,8 +32,6 @@ QMap<QString, QString> marksOf(QTreeWidget &view)
 }
 
 void mark(QTreeWidget &view) { hints::mark(view, SettingsDocument::writtenBy(view)); }
-
-} // namespace
 
 class TestSettingsHints : public QObject
 {
@@ -76,8 +74,8 @@ private slots:
 
         row("a misspelt key", doc("paperwidth = 30;"),
             {"korvel.doc.paperwidth", "korvel.doc.paperwidth.30"}, "No document");
-        row("a key of an unknown group", "docs: { paperWidth = 30; };",
-            {"korvel.docs.paperWidth", "korvel.docs.paperWidth.30"}, "No document");
+        row("a misspelt group", "docs: { paperWidth = 30; };", {"korvel.docs"}, "No document");
+        row("an unknown group", "custom: { paperWidth = 30; };", {"korvel.custom"}, "No document");
         row("a key outside a document's group", "paperWidth = 30;",
             {"korvel.paperWidth", "korvel.paperWidth.30"}, "No document");
         row("the keys of the language", "language: { basedir = /; file = ; };", {}, {});
@@ -85,8 +83,8 @@ private slots:
             {"korvel.language.file", "korvel.language.file./"}, "catalogue");
         row("another key of the language", "language: { name = it; };",
             {"korvel.language.name", "korvel.language.name.it"}, "No document");
-        row("a key too deep", doc("inner: { paperWidth = 30; };"),
-            {"korvel.doc.inner.paperWidth", "korvel.doc.inner.paperWidth.30"}, "No document");
+        row("a key too deep", doc("inner: { paperWidth = 30; };"), {"korvel.doc.inner"},
+            "No document");
 
         // W - q - p - t - 3 characters for the description of a receipt, at least one.
         row("columns that leave one character",
@@ -116,8 +114,8 @@ private slots:
         row("a paper wider than the printer's", doc("paperWidth = 33;"),
             {"korvel.doc.paperWidth", "korvel.doc.paperWidth.33"}, "32");
         row("the second of two groups of a name",
-            "doc: { printDate = true; }; doc: { printDate = yes; };",
-            {"korvel.doc.printDate", "korvel.doc.printDate.yes"}, "off");
+            "doc: { printDate = true; }; doc: { printTime = true; };", {"korvel.doc"},
+            "second time");
     }
 
     void marks()
@@ -248,5 +246,8 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestSettingsHints)
+KORVEL_TEST(TestSettingsHints)
+
+} // namespace tst_settingshints
+
 #include "tst_settingshints.moc"

@@ -4,10 +4,10 @@
 #include "support/settingsfiles.h"
 #include "support/settingstext.h"
 #include "support/settingsview.h"
+#include "support/test.h"
 
 #include <QFileInfo>
 #include <QScopeGuard>
-#include <QTest>
 
 #include <csignal>
 
@@ -15,9 +15,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-using namespace korvel::settings;
+namespace tst_settingsobstacles {
 
-namespace {
+using namespace korvel::settings;
 
 /// Lets no file grow beyond a size, as on a full disk, as long as it lives.
 class FullDisk
@@ -76,8 +76,6 @@ private:
     static constexpr uid_t nobody = 65534;
     bool changed;
 };
-
-} // namespace
 
 class TestSettingsObstacles : public QObject
 {
@@ -296,5 +294,8 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestSettingsObstacles)
+KORVEL_TEST(TestSettingsObstacles)
+
+} // namespace tst_settingsobstacles
+
 #include "tst_settingsobstacles.moc"

@@ -2,8 +2,9 @@
 #include "support/answers.h"
 #include "support/renderer.h"
 #include "support/settingseditor.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_settingsopening {
 
 class TestSettingsOpening : public QObject
 {
@@ -227,6 +228,8 @@ private:
     Answers answers;
 };
 
-int main(int argc, char *argv[]) { return runWindowTest<TestSettingsOpening>(argc, argv); }
+KORVEL_TEST_BY(runWindowTest, TestSettingsOpening)
+
+} // namespace tst_settingsopening
 
 #include "tst_settingsopening.moc"

@@ -3,15 +3,15 @@
 #include "printer/company/commands.h"
 #include "support/answers.h"
 #include "support/settingseditor.h"
+#include "support/test.h"
 
 #include <QImage>
-#include <QTest>
+
+namespace tst_settingspaper {
 
 namespace commands = korvel::commands;
 namespace preview = korvel::preview;
 using korvel::settings::PaperView;
-
-namespace {
 
 /// Counts how often a widget is painted.
 class Paintings : public QObject
@@ -52,8 +52,6 @@ bool sameRows(const QImage &one, const QImage &other)
     const QRect rows(border, border, commands::lineWidth * 12, other.height() - 2 * border);
     return one.size() == other.size() && one.copy(rows) == other.copy(rows);
 }
-
-} // namespace
 
 class TestSettingsPaper : public QObject
 {
@@ -286,6 +284,8 @@ private:
     Answers answers;
 };
 
-int main(int argc, char *argv[]) { return runWindowTest<TestSettingsPaper>(argc, argv); }
+KORVEL_TEST_BY(runWindowTest, TestSettingsPaper)
+
+} // namespace tst_settingspaper
 
 #include "tst_settingspaper.moc"

@@ -2,9 +2,11 @@
 #include "support/answers.h"
 #include "support/settingseditor.h"
 #include "support/settingstext.h"
+#include "support/test.h"
 
 #include <QDir>
-#include <QTest>
+
+namespace tst_settingssaving {
 
 class TestSettingsSaving : public QObject
 {
@@ -177,6 +179,8 @@ private:
     Answers answers;
 };
 
-int main(int argc, char *argv[]) { return runWindowTest<TestSettingsSaving>(argc, argv); }
+KORVEL_TEST_BY(runWindowTest, TestSettingsSaving)
+
+} // namespace tst_settingssaving
 
 #include "tst_settingssaving.moc"

@@ -1,19 +1,19 @@
 // The catalogues of the settings editor: whole, and true to the texts that they translate.
 #include "companions/check/vocabulary.h"
 #include "companions/settings/window.h"
+#include "support/test.h"
 
 #include <QDir>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
-#include <QTest>
 #include <QTranslator>
 #include <QXmlStreamReader>
 
-using namespace korvel::settings;
+namespace tst_settingstranslations {
 
-namespace {
+using namespace korvel::settings;
 
 const QString sources = KORVEL_SOURCE_DIR "/companions/settings/translations";
 const QString compiled = KORVEL_BINARY_DIR "/companions/settings";
@@ -130,8 +130,6 @@ QStringList mnemonicsOf(const QStringList &texts)
         letters.append(QKeySequence::mnemonic(text).toString().section('+', -1).toLower());
     return letters;
 }
-
-} // namespace
 
 class TestSettingsTranslations : public QObject
 {
@@ -323,5 +321,8 @@ private:
     }
 };
 
-QTEST_MAIN(TestSettingsTranslations)
+KORVEL_TEST(TestSettingsTranslations)
+
+} // namespace tst_settingstranslations
+
 #include "tst_settingstranslations.moc"

@@ -1,11 +1,13 @@
 // The settings editor as a technician uses it: its help, its keys, its size.
 #include "support/answers.h"
 #include "support/settingseditor.h"
+#include "support/test.h"
 
 #include <QDir>
 #include <QSettings>
 #include <QSplitter>
-#include <QTest>
+
+namespace tst_settingswindow {
 
 class TestSettingsWindow : public QObject
 {
@@ -135,6 +137,8 @@ private:
     Answers answers;
 };
 
-int main(int argc, char *argv[]) { return runWindowTest<TestSettingsWindow>(argc, argv); }
+KORVEL_TEST_BY(runWindowTest, TestSettingsWindow)
+
+} // namespace tst_settingswindow
 
 #include "tst_settingswindow.moc"

@@ -2,8 +2,9 @@
 #include "support/jobs.h"
 #include "support/rows.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
-#include <QTest>
+namespace tst_titles {
 
 class TestTitles : public QObject
 {
@@ -118,5 +119,8 @@ private:
     const TemporaryHome home{""};
 };
 
-QTEST_GUILESS_MAIN(TestTitles)
+KORVEL_TEST(TestTitles)
+
+} // namespace tst_titles
+
 #include "tst_titles.moc"

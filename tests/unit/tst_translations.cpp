@@ -2,12 +2,12 @@
 #include "config/config.h"
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
+#include "support/test.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTranslator>
 
-namespace {
+namespace tst_translations {
 
 const QString catalogues = KORVEL_BINARY_DIR "/translations";
 const QStringList languages = {"de", "es", "fr", "it"};
@@ -29,13 +29,7 @@ constexpr auto job = R"(<job>
 </job>
 )";
 
-QByteArray settings(const QString &baseDir, const QString &file)
-{
-    return R"(korvel:
-{
-    language: { basedir = ")"
-           + QFile::encodeName(baseDir) + R"("; file = ")" + QFile::encodeName(file) + R"("; };
-    receiptdoc:
+constexpr auto layouts = R"(    receiptdoc:
     {
         quantityFieldWidth = "3"; priceFieldWidth = "7"; totalPriceFieldWidth = "8";
         paperWidth = "32"; printCustomer = "true";
@@ -43,6 +37,11 @@ QByteArray settings(const QString &baseDir, const QString &file)
     reportdoc: { priceFieldWidth = "7"; paperWidth = "36"; };
 };
 )";
+
+QByteArray settings(const QString &baseDir, const QString &file)
+{
+    return "korvel:\n{\n    language: { basedir = \"" + QFile::encodeName(baseDir) + "\"; file = \""
+           + QFile::encodeName(file) + "\"; };\n" + layouts;
 }
 
 /// What the job prints, labels in the given language.
@@ -119,8 +118,6 @@ public:
 private:
     libconfig::Config config{KORVEL_SOURCE_DIR "/examples/korvel.conf", "cfg"};
 };
-
-} // namespace
 
 class TestTranslations : public QObject
 {
@@ -348,5 +345,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTranslations)
+KORVEL_TEST(TestTranslations)
+
+} // namespace tst_translations
+
 #include "tst_translations.moc"

@@ -1,9 +1,8 @@
 // The limits of a settings file: groups, settings, names and values, each at its edge and beyond.
 #include "config/config.h"
+#include "support/test.h"
 
-#include <QTest>
-
-namespace {
+namespace tst_tree {
 
 constexpr qsizetype mostGroups = 262144;
 constexpr qsizetype mostSettings = 262144;
@@ -40,8 +39,6 @@ private:
 };
 
 QByteArray times(qsizetype count, const QByteArray &piece) { return piece.repeated(count); }
-
-} // namespace
 
 class TestTree : public QObject
 {
@@ -188,5 +185,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTree)
+KORVEL_TEST(TestTree)
+
+} // namespace tst_tree
+
 #include "tst_tree.moc"

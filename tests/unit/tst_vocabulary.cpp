@@ -1,7 +1,8 @@
 // The tables of the vocabulary: their rows fit together, and are found.
+#include "support/test.h"
 #include "support/vocabularytables.h"
 
-#include <QTest>
+namespace tst_vocabulary {
 
 using vocabulary::Attribute;
 using vocabulary::Document;
@@ -135,9 +136,16 @@ private slots:
             KitchenOrder | FullOrder | Receipt | Invoice | DeliveryNote | SummaryInvoice;
         QCOMPARE(titlesOf(six),
                  "kitchen order, full order, receipt, invoice, delivery note, summary invoice");
-        QCOMPARE(titlesOf(six | SoldItems), "other documents");
+        QCOMPARE(titlesOf(vocabulary::shared),
+                 "all documents but fiscal receipt, summary order, summary fiscal receipt");
+        QCOMPARE(titlesOf(vocabulary::shared & ~Documents(SoldItems)),
+                 "kitchen order, full order, receipt, invoice, delivery note, summary receipt, "
+                 "summary invoice, period report, statement of account");
     }
 };
 
-QTEST_GUILESS_MAIN(TestVocabulary)
+KORVEL_TEST(TestVocabulary)
+
+} // namespace tst_vocabulary
+
 #include "tst_vocabulary.moc"

@@ -1,15 +1,15 @@
 // The attributes of the vocabulary: what a value of each becomes on the paper.
+#include "support/test.h"
 #include "support/till.h"
 
 #include <QRegularExpression>
-#include <QTest>
+
+namespace tst_vocabularyattributes {
 
 using vocabulary::Attribute;
 using vocabulary::Element;
 using vocabulary::Method;
 using vocabulary::Value;
-
-namespace {
 
 /// A value of an attribute, and a piece of a line that it makes.
 struct Shown
@@ -39,8 +39,6 @@ const Shown shownValues[] = {
 // clang-format on
 
 bool isRead(const Attribute &row) { return row.value != Value::Kept && row.value != Value::Unread; }
-
-} // namespace
 
 class TestVocabularyAttributes : public QObject
 {
@@ -132,5 +130,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestVocabularyAttributes)
+KORVEL_TEST(TestVocabularyAttributes)
+
+} // namespace tst_vocabularyattributes
+
 #include "tst_vocabularyattributes.moc"

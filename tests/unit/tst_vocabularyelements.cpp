@@ -1,8 +1,10 @@
 // The elements of the vocabulary: a job of each prints, switched and in its documents.
+#include "support/test.h"
 #include "support/till.h"
 
 #include <QRegularExpression>
-#include <QTest>
+
+namespace tst_vocabularyelements {
 
 using vocabulary::Attribute;
 using vocabulary::Element;
@@ -108,5 +110,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestVocabularyElements)
+KORVEL_TEST(TestVocabularyElements)
+
+} // namespace tst_vocabularyelements
+
 #include "tst_vocabularyelements.moc"

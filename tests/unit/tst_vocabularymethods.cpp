@@ -1,9 +1,10 @@
 // The methods of the vocabulary: the engine prints them, in groups and rows as the tables say.
 #include "support/capturedoutput.h"
 #include "support/settingstext.h"
+#include "support/test.h"
 #include "support/till.h"
 
-#include <QTest>
+namespace tst_vocabularymethods {
 
 using vocabulary::Element;
 using vocabulary::Method;
@@ -72,5 +73,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestVocabularyMethods)
+KORVEL_TEST(TestVocabularyMethods)
+
+} // namespace tst_vocabularymethods
+
 #include "tst_vocabularymethods.moc"

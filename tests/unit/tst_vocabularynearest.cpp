@@ -1,8 +1,9 @@
 // What a misspelt name of the vocabulary may be meant to be.
 #include "companions/shared/nearest.h"
+#include "support/test.h"
 #include "support/vocabularytables.h"
 
-#include <QTest>
+namespace tst_vocabularynearest {
 
 using vocabulary::Attribute;
 using vocabulary::Element;
@@ -90,5 +91,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestVocabularyNearest)
+KORVEL_TEST(TestVocabularyNearest)
+
+} // namespace tst_vocabularynearest
+
 #include "tst_vocabularynearest.moc"

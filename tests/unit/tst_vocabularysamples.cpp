@@ -1,18 +1,18 @@
 // The jobs of the sample shop: the vocabulary knows all in them, and they show all of it.
 #include "support/bytes.h"
+#include "support/test.h"
 #include "support/vocabularytables.h"
 
 #include <QDir>
 #include <QRegularExpression>
-#include <QTest>
 #include <QXmlStreamReader>
+
+namespace tst_vocabularysamples {
 
 using vocabulary::Attribute;
 using vocabulary::Element;
 using vocabulary::Method;
 using vocabulary::Value;
-
-namespace {
 
 /// An attribute of a job of the sample shop, or an element without any.
 struct Sample
@@ -57,10 +57,6 @@ const Attribute *rowOf(const Sample &sample)
             return &row;
     return nullptr;
 }
-
-} // namespace
-
-Q_DECLARE_METATYPE(Sample)
 
 class TestVocabularySamples : public QObject
 {
@@ -137,5 +133,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestVocabularySamples)
+KORVEL_TEST(TestVocabularySamples)
+
+} // namespace tst_vocabularysamples
+
 #include "tst_vocabularysamples.moc"

@@ -1,14 +1,13 @@
 // The settings of the vocabulary: which of them change a job of all elements of a document.
+#include "support/test.h"
 #include "support/till.h"
 
-#include <QTest>
+namespace tst_vocabularysettings {
 
 using vocabulary::Document;
 using vocabulary::Element;
 using vocabulary::Method;
 using vocabulary::Setting;
-
-namespace {
 
 /// All elements of a document with all their attributes, long names and short figures.
 QString fullJob(Document document)
@@ -34,8 +33,6 @@ QString otherValue(const QString &value)
     const int number = value.toInt(&isNumber);
     return isNumber ? QString::number(number + 1) : QString("false");
 }
-
-} // namespace
 
 class TestVocabularySettings : public QObject
 {
@@ -68,5 +65,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestVocabularySettings)
+KORVEL_TEST(TestVocabularySettings)
+
+} // namespace tst_vocabularysettings
+
 #include "tst_vocabularysettings.moc"

@@ -3,12 +3,12 @@
 #include "support/bytenames.h"
 #include "support/capturedoutput.h"
 #include "support/store.h"
+#include "support/test.h"
 
 #include <QScopeGuard>
-#include <QTest>
 #include <QTextStream>
 
-namespace {
+namespace tst_writers {
 
 // The settings of the notation's own example, in the writer's form.
 const QByteArray language = "korvel: \n"
@@ -37,8 +37,6 @@ const QByteArray languageXml = "\n"
         QCOMPARE(linesOf(actual), linesOf(expected));                                              \
         QCOMPARE(actual, expected);                                                                \
     } while (false)
-
-} // namespace
 
 class TestWriters : public QObject
 {
@@ -342,5 +340,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestWriters)
+KORVEL_TEST(TestWriters)
+
+} // namespace tst_writers
+
 #include "tst_writers.moc"

@@ -3,13 +3,12 @@
 #include "companions/check/vocabulary.h"
 #include "support/bytes.h"
 #include "support/schemajobs.h"
+#include "support/test.h"
 #include "support/validator.h"
 
-#include <QTest>
+namespace tst_xmlschema {
 
 namespace check = korvel::check;
-
-namespace {
 
 Validator xsd(const QByteArray &schema = check::xmlSchema())
 {
@@ -21,8 +20,6 @@ bool hasNamedRoot(const QByteArray &job)
     return job.contains("<printjob>") || job.contains("<printjob ");
 }
 
-} // namespace
-
 class TestXmlSchema : public QObject
 {
     Q_OBJECT
@@ -30,16 +27,16 @@ class TestXmlSchema : public QObject
 private slots:
     void isXmlSchema()
     {
-        const Run run = xsd().run(documentOf("printSold", ""));
+        const Run run = xsd().run(printJobOf("printSold", ""));
         QVERIFY2(run.exited && run.status == Valid, run.standardError.constData());
         QCOMPARE(run.standardOutput, QByteArray());
 
         // What is no schema is noticed.
         const QByteArray schema = check::xmlSchema();
         const Validator broken = xsd(QByteArray(schema).replace("xs:choice", "xs:choices"));
-        QCOMPARE(broken.run(documentOf("printSold", "")).status, int(BadSchema));
+        QCOMPARE(broken.run(printJobOf("printSold", "")).status, int(BadSchema));
         const Validator cut = xsd(schema.first(schema.size() / 2));
-        QCOMPARE(cut.run(documentOf("printSold", "")).status, int(BadSchema));
+        QCOMPARE(cut.run(printJobOf("printSold", "")).status, int(BadSchema));
     }
 
     void examples_data() { addExampleJobs(); }
@@ -53,15 +50,15 @@ private slots:
 
     void accepts_data()
     {
-        QTest::addColumn<SoundJob>("sound");
-        for (const SoundJob &sound : soundJobs())
+        QTest::addColumn<AcceptedJob>("sound");
+        for (const AcceptedJob &sound : acceptedJobs())
             QTest::newRow(qPrintable(sound.what)) << sound;
     }
 
     /// All but a root of another name.
     void accepts()
     {
-        QFETCH(SoundJob, sound);
+        QFETCH(AcceptedJob, sound);
         const Run run = xsd().run(sound.job);
         QVERIFY(run.exited);
         QVERIFY2(run.status == (sound.namedRoot ? Valid : Invalid), run.standardError.constData());
@@ -102,5 +99,8 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestXmlSchema)
+KORVEL_TEST(TestXmlSchema)
+
+} // namespace tst_xmlschema
+
 #include "tst_xmlschema.moc"
