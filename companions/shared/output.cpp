@@ -5,7 +5,9 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QJsonDocument>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace Qt::Literals::StringLiterals;
@@ -58,6 +60,23 @@ int writeBytes(const QByteArray &bytes, int status)
     const bool written = file.open(stdout, QIODevice::WriteOnly)
                          && file.write(bytes) == bytes.size() && file.flush();
     return written ? status : trouble(unwritable);
+}
+
+QString jsonLine(const QJsonObject &object)
+{
+    const QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Compact);
+    if (std::all_of(json.begin(), json.end(), [](char c) { return c >= ' ' && c <= '~'; }))
+        return QString::fromLatin1(json) + u'\n'; // as most are, and fast
+    QString line;
+    for (const uint point : QString::fromUtf8(json).toUcs4()) {
+        if (isPrintable(point)) {
+            line += QChar::fromUcs4(point);
+            continue;
+        }
+        for (const char16_t unit : QChar::fromUcs4(point))
+            line += u"\\u"_s + QString::number(unit, 16).rightJustified(4, u'0');
+    }
+    return line + u'\n';
 }
 
 int writeOut(const QString &text, int status)
