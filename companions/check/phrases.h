@@ -72,6 +72,8 @@ inline constexpr Phrase meantMissing{"; did you mean \"%1\", which is missing?"}
 inline constexpr Phrase otherMissing{", and its \"%1\" is missing"};
 
 // TextContent
+inline constexpr Phrase childElement{
+    "<%1> has %2 as an element, which prints nothing: write it as an attribute"};
 inline constexpr Phrase childElements{
     "<%1> has %2 as elements, which print nothing: write them as attributes"};
 inline constexpr Phrase strayText{"the text %1 in <%2> is not printed: write it as an attribute"};
