@@ -172,6 +172,7 @@ inline constexpr Phrase braceTooMany{"a } closes %1 too early: what follows is n
 inline constexpr Phrase closesFile{"a } closes nothing: what follows is not read"};
 inline constexpr Phrase noBrace{"the group %1 has no { behind its name"};
 inline constexpr Phrase noColon{"the group %1 has no : behind its name%2"};
+inline constexpr Phrase noHead{"the group %1 has neither : nor { behind its name%2"};
 inline constexpr Phrase otherMark{"\"%1\" stands where the \"%2\" of %3 belongs"};
 inline constexpr Phrase otherQuote{
     "%1 stands where a \" of %2 belongs, and becomes part of the value"};
