@@ -8,10 +8,13 @@ namespace korvel::check {
 
 namespace {
 
-/// Whether a tag has what an attribute has: a text, or nothing.
-bool isPlain(const Tag &tag)
+/// Whether a tag has what an attribute has: a text, or nothing; or attributes of its own where no
+/// element is called so: <price value="7.00"/>.
+bool isPlain(const Tag &tag, const Tag &parent)
 {
-    return !tag.text.isEmpty() || (tag.attributes.isEmpty() && !tag.holdsOthers);
+    const bool isBare =
+        tag.attributes.isEmpty() || (!vocabulary::isElement(tag.name) && !parent.find(tag.name));
+    return !tag.text.isEmpty() || (isBare && !tag.holdsOthers);
 }
 
 } // namespace
@@ -33,9 +36,11 @@ void gatherContents(Context &context)
 {
     constexpr qsizetype mostNames = 12; // that a finding shows
     for (const Tag &tag : context.job.tags) {
-        if (!isPlain(tag) || tag.parent <= 0) // in the root stand elements
+        if (tag.parent <= 0) // in the root stand elements
             continue;
         const Tag &parent = context.job.tags[tag.parent];
+        if (!isPlain(tag, parent))
+            continue;
         if (!isAttributeOf(parent.name, tag.name)
             && (tag.text.isEmpty() || vocabulary::isElement(tag.name)))
             continue;
@@ -52,8 +57,10 @@ bool noteContents(Context &context, const Tag &tag)
 {
     const SpelledOut spelled = context.spelledOut.value(&tag);
     if (spelled.first) {
-        context.note(spelled.first->place, Code::TextContent,
-                     filled(phrase::childElements, tag.name, quoted(spelled.names)));
+        context.note(
+            spelled.first->place, Code::TextContent,
+            filled(spelled.names.size() == 1 ? phrase::childElement : phrase::childElements,
+                   tag.name, quoted(spelled.names)));
         return true;
     }
     if (tag.text.isEmpty())

@@ -373,12 +373,12 @@ inline QString settingsOf(const Example &example, QLatin1StringView words)
     return QString(example.settings).replace("%1"_L1, words);
 }
 
-/// The lines of an example that are right instead of wrong.
+/// The lines of an example that are right instead of wrong, as they stand in it.
 inline QString mendedLinesOf(const Example &example)
 {
     const QString text = QString(example.settings) + u'\n' + example.job;
     const QString line = text.split(u'\n').filter(u"%1"_s).value(0);
-    return line.trimmed().replace("%1"_L1, example.right);
+    return QString(line).replace("%1"_L1, example.right);
 }
 
 } // namespace korvel::check

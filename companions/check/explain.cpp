@@ -10,6 +10,14 @@ namespace {
 /// Lines, each with blanks before it.
 QString indented(QString lines) { return u"    "_s + lines.replace(u'\n', "\n    "_L1) + u'\n'; }
 
+/// Lines without the blanks that the first begins with.
+QString dedented(const QString &lines)
+{
+    const QString text = lines.trimmed();
+    const QString blanks = lines.first(lines.indexOf(text));
+    return blanks.isEmpty() ? text : QString(text).replace(u'\n' + blanks, u"\n"_s);
+}
+
 QString shown(const Example &example)
 {
     QString text;
@@ -18,7 +26,7 @@ QString shown(const Example &example)
     if (!example.job.isEmpty())
         text += (text.isEmpty() ? u"\nFor example, the job\n\n"_s : u"\nand the job\n\n"_s)
                 + indented(jobOf(example, example.wrong));
-    return text + u"\nmended by\n\n"_s + indented(mendedLinesOf(example));
+    return text + u"\nmended by\n\n"_s + indented(dedented(mendedLinesOf(example)));
 }
 
 } // namespace

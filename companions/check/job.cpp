@@ -141,7 +141,10 @@ public:
             const Tag *innermost = open.isEmpty() ? nullptr : &job.tags[open.constLast().tag];
             const XmlFault fault =
                 faultIn(document, error, at, left ? left : innermost, left != nullptr);
-            const Place stop = places.of(fault.offset);
+            if (fresh >= 0
+                && (fault.offset == textEnd || error == XML_ERROR_UNCLOSED_CDATA_SECTION))
+                job.tags[fresh].text.clear(); // what is said of the fault is enough
+            const Place stop = Places(document).of(fault.offset); // maybe in front of the last one
             if (fault.isInOpen)
                 stopAtMalformed((left ? left : innermost)->place, fault.words,
                                 filled(phrase::behindLine, QString::number(stop.line)));
@@ -214,6 +217,7 @@ private:
 
     void readTag(const char *name, const char **attributes)
     {
+        fresh = -1;
         if (!open.isEmpty())
             job.tags[open.constLast().tag].holdsOthers = true;
         const qsizetype start = offset();
@@ -287,12 +291,18 @@ private:
                 return;
             const bool spelt = document[offset()] == *bytes; // else it comes out of an entity
             tag.textPlace = places.of(offset() + (spelt ? length - text.size() : 0));
+            fresh = open.constLast().tag;
         }
+        textEnd = offset() + XML_GetCurrentByteCount(parser.get());
         if (tag.text.size() < longest)
             tag.text += QString::fromUtf8(text.first(std::min(text.size(), longest)));
     }
 
-    void closeTag(const char * /*name*/) { namespaces -= open.takeLast().namespaces; }
+    void closeTag(const char * /*name*/)
+    {
+        fresh = -1;
+        namespaces -= open.takeLast().namespaces;
+    }
 
     void readInstruction(const char *target, const char * /*data*/)
     {
@@ -353,6 +363,8 @@ private:
     Job job;
     QList<Open> open;
     app::Entities entities;
+    qsizetype fresh = -1; // the tag whose text has begun behind all other tags
+    qsizetype textEnd = 0;
     qsizetype namespaces = 0;
     int declaredAttributes = 0;
     bool stopped = false;

@@ -187,7 +187,8 @@ QString orMethod(const QString &name)
     QStringList names;
     for (const Method &row : vocabulary::methods())
         names.append(row.name);
-    return orNearest(name, names);
+    const QString near = orNearest(name, names);
+    return near.isEmpty() ? orName(shared::nearest(QString(u"print"_s + name), names)) : near;
 }
 
 /// Notes a method whose name is not where it is read; false when the job ends there.

@@ -63,6 +63,8 @@ inline constexpr Phrase meantMissing{"; did you mean \"%1\", which is missing?"}
 inline constexpr Phrase otherMissing{", and its \"%1\" is missing"};
 
 // TextContent
+inline constexpr Phrase childElement{
+    "<%1> has %2 as an element, which prints nothing: write it as an attribute"};
 inline constexpr Phrase childElements{
     "<%1> has %2 as elements, which print nothing: write them as attributes"};
 inline constexpr Phrase strayText{"the text %1 in <%2> is not printed: write it as an attribute"};
@@ -161,6 +163,7 @@ inline constexpr Phrase braceTooMany{"a } closes %1 too early: what follows is n
 inline constexpr Phrase closesFile{"a } closes nothing: what follows is not read"};
 inline constexpr Phrase noBrace{"the group %1 has no { behind its name"};
 inline constexpr Phrase noColon{"the group %1 has no : behind its name%2"};
+inline constexpr Phrase noHead{"the group %1 has neither : nor { behind its name%2"};
 inline constexpr Phrase otherMark{"\"%1\" stands where the \"%2\" of %3 belongs"};
 inline constexpr Phrase otherQuote{
     "%1 stands where a \" of %2 belongs, and becomes part of the value"};

@@ -64,6 +64,39 @@ void Proofreader::readColonEquals(Name name, qint64 equals)
     readSetting(name, true);
 }
 
+/// A group of which the name stands alone in a line, as in other notations: [doc]; false when there
+/// is none.
+bool Proofreader::readSection(const Name &name)
+{
+    constexpr qint64 longest = 40;
+    const bool isFirst = groups.size() == 1 && isTop(groups.front().name);
+    const bool isNext = groups.size() == 2 && groups.back().isSection;
+    const qint64 lineEnd = scan.lineEnd(name.stray, name.begin);
+    const qint64 end = scan.trimmedEnd(name.stray, lineEnd);
+    if ((!isFirst && !isNext) || lineEnd == name.begin || end - name.stray > longest)
+        return false;
+    const QString text = latin1(name.stray, end);
+    const bool isBracketed = text.startsWith(u'[') && text.endsWith(u']');
+    if (!isBracketed && !isGroup(text))
+        return false;
+    const QString meant = meantGroup(text);
+    if (meant.isEmpty())
+        return false;
+    if (isNext) {
+        change(name.stray, 0, "};");
+        groups.removeLast();
+    }
+    note(Code::Unterminated, name.stray,
+         filled(phrase::noHead, shownPathOf(text), meant == text ? QString() : orName(meant)),
+         pathOf(text));
+    change(name.stray, end - name.stray, meant.toLatin1() + ":{");
+    groups.append({meant, scan.indentOf(name.stray)});
+    groups.back().isSection = hasSection = true;
+    lastClosed.reset();
+    position = lastEnd = end;
+    return true;
+}
+
 qint64 Proofreader::behindColons(qint64 colon) const
 {
     while (isAt(colon, ':'))
@@ -177,6 +210,7 @@ void Proofreader::reopen()
     note(Code::Unterminated, early.brace,
          filled(phrase::braceTooMany, shared::inOneLine(asSeen(early.name), u' ')));
     change(early.brace, early.behind - early.brace, {});
+    hasReopened = true;
     groups.append({lastTop->name, lastTop->indent});
     lastTop.reset();
     lastInner.reset();
@@ -224,7 +258,9 @@ void Proofreader::close(qint64 brace)
 
 void Proofreader::end()
 {
-    if (groups.isEmpty())
+    // What lacks for these is said of them.
+    const bool isSaid = groups.size() == 1 && (hasSection || hasReopened);
+    if (groups.isEmpty() || isSaid)
         return;
     notation.slips.append(misfit.value_or(
         Slip{Code::Unterminated, lastEnd, filled(phrase::fileEnds, innermost()), {}}));

@@ -135,9 +135,23 @@ Proofreader::Name Proofreader::nextName() const
     return name;
 }
 
-/// Whether a } stands there, or another bracket in its place.
+/// Whether the word "end", alone in its line, ends there.
+bool Proofreader::endsWordForBrace(qint64 at) const
+{
+    constexpr qint64 toBegin = 2;
+    if (!scan.isOneOf("dD", at) || at < toBegin || groups.size() < 2
+        || !scan.beginsLine(at - toBegin)
+        || latin1(at - toBegin, at + 1).compare("end"_L1, Qt::CaseInsensitive) != 0)
+        return false;
+    const qint64 next = scan.behindSpace(at + 1);
+    return scan.endsLine(at + 1) || (isAt(next, ';') && scan.endsLine(next + 1));
+}
+
+/// Whether a } stands there, or another bracket, or the end of a word, in its place.
 bool Proofreader::closesGroup(qint64 at) const
 {
+    if (endsWordForBrace(at))
+        return true;
     if (!scan.isOneOf("}])>", at) || bytes[at] == '}')
         return isAt(at, '}');
     return !groups.isEmpty() && (groups.back().closing == bytes[at] || scan.beginsLine(at))
@@ -151,6 +165,8 @@ void Proofreader::readStatement(const Name &name)
         readColon(name);
         break;
     case '=':
+        if (readSection(name))
+            break;
         takeStrayOut(name, name.begin);
         readSetting(name);
         break;
@@ -171,17 +187,24 @@ void Proofreader::readStatement(const Name &name)
         }
         position = name.mark + 1;
         break;
-    default: // of brackets
-        takeStrayOut(name, name.mark);
-        if (mark != '}') {
-            if (groups.back().closing != mark)
-                note(Code::Unterminated, name.mark,
-                     filled(phrase::otherMark, QChar::fromLatin1(mark), u"}",
-                            filled(phrase::theGroup, innermost())));
-            change(name.mark, 1, "}");
-        }
-        close(name.mark);
+    default:
+        readClosing(name);
     }
+}
+
+/// A } or what stands for it.
+void Proofreader::readClosing(const Name &name)
+{
+    const qint64 begin = endsWordForBrace(name.mark) ? name.mark - 2 : name.mark;
+    const QString mark = latin1(begin, name.mark + 1);
+    takeStrayOut(name, begin);
+    if (mark != '}'_L1) {
+        if (mark != QChar::fromLatin1(groups.back().closing))
+            note(Code::Unterminated, begin,
+                 filled(phrase::otherMark, mark, u"}", filled(phrase::theGroup, innermost())));
+        change(begin, name.mark + 1 - begin, "}");
+    }
+    close(name.mark);
 }
 
 /// What stands before a statement, up to there, and is no statement.

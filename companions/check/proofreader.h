@@ -39,12 +39,15 @@ private:
         qint64 indent;            // as of Scan
         char closing = '}';       // or what goes with another bracket
         bool hasSettings = false; // of its own
+        bool isSection = false;   // begun by its name alone
         qint64 brace = 0;         // that closes it
         qint64 behind = 0;        // the ; of that
     };
 
     [[nodiscard]] Name nextName() const;
     [[nodiscard]] bool closesGroup(qint64 at) const;
+    [[nodiscard]] bool endsWordForBrace(qint64 at) const;
+    void readClosing(const Name &name);
     [[nodiscard]] QString latin1(qint64 from, qint64 to) const;
     [[nodiscard]] QString excerpt(qint64 from, qint64 to) const;
     [[nodiscard]] QStringList pathOf(const QString &name) const;
@@ -64,6 +67,7 @@ private:
     qint64 addEquals(qint64 from, qint64 end);
     void readSetting(const Name &name, bool isSaid = false);
     qint64 readEquals(const Name &name, bool &isSaid);
+    qint64 mendReferences(const Name &name, qint64 begin, bool &isSaid);
     qint64 endValue(const Name &name, qint64 value, qint64 missing, bool isSaid);
     void mendQuotes(const Name &name, qint64 begin, qint64 end, bool isSaid);
     [[nodiscard]] qint64 missingSemicolon(qint64 from, qint64 to) const;
@@ -73,6 +77,7 @@ private:
     void readColon(const Name &name);
     void readColonEquals(Name name, qint64 equals);
     void readGroup(const Name &name);
+    bool readSection(const Name &name);
     bool readOtherBrace(const Name &name, qint64 brace);
     void readHeadWithoutColon(const Name &name);
     void readBraceAlone(const Name &name);
@@ -90,6 +95,8 @@ private:
     qint64 lastEnd = 0;    // of the last statement
     qint64 semicolon = -1; // the next one, once it is found
     QList<Group> groups;
+    bool hasSection = false;         // some group was begun by its name alone
+    bool hasReopened = false;        // a group that was closed too early
     std::optional<Group> lastClosed; // when no group was opened since
     std::optional<Group> lastTop;    // the top-level group that was closed last
     std::optional<Group> lastInner;  // a group that a document's setting follows, below no document

@@ -119,7 +119,7 @@ void Proofreader::readSetting(const Name &name, bool isSaid)
     if (groups.size() == 1 && lastClosed && !lastInner && isSetting(name.text))
         lastInner = lastClosed;
     const qint64 value = readEquals(name, isSaid);
-    const qint64 last = nextSemicolon(value);
+    const qint64 last = nextSemicolon(mendReferences(name, scan.behindSpace(value), isSaid));
     if (name.text.isEmpty()) {
         note(Code::Unterminated, name.mark,
              filled(phrase::noSettingName, excerpt(value, std::min(last, scan.lineEnd(value)))));
@@ -144,6 +144,28 @@ qint64 Proofreader::readEquals(const Name &name, bool &isSaid)
     return second + 1;
 }
 
+/// Takes quotes around a value that are written as references: &quot;true&quot;; where the last of
+/// them ends.
+qint64 Proofreader::mendReferences(const Name &name, qint64 begin, bool &isSaid)
+{
+    constexpr QByteArrayView reference = "&quot;";
+    if (!QByteArrayView(bytes).sliced(begin).startsWith(reference))
+        return begin;
+    if (!isSaid)
+        note(Code::Unterminated, name.begin,
+             filled(phrase::otherQuote, QString::fromLatin1(reference), shownPathOf(name.text)),
+             pathOf(name.text));
+    isSaid = true;
+    change(begin, reference.size(), "\"");
+    const qint64 behind = begin + reference.size();
+    const auto value = QByteArrayView(bytes).first(scan.nextOf("=\r\n", behind));
+    const qint64 last = value.indexOf(reference, behind);
+    if (last < 0)
+        return behind;
+    change(last, reference.size(), "\"");
+    return last + reference.size();
+}
+
 /// Puts a semicolon where a value lacks it, or has another mark in its place; where the value ends.
 qint64 Proofreader::endValue(const Name &name, qint64 value, qint64 missing, bool isSaid)
 {
@@ -160,7 +182,8 @@ qint64 Proofreader::endValue(const Name &name, qint64 value, qint64 missing, boo
                       : filled(phrase::noSemicolon, path, read),
              pathOf(name.text));
     }
-    change(end, missing - end, ";");
+    const bool isEmpty = scan.trimmedEnd(value, end) <= value;
+    change(end, missing - end, isEmpty && isSwitch(name.text) ? "true;" : ";");
     return end;
 }
 

@@ -46,6 +46,20 @@ std::vector<std::vector<Counting>> settingsByGroup(const Tree &tree)
     return groups;
 }
 
+/// The bytes of UTF-8 that add no UTF-16 unit to those before them: all but the first of a
+/// character, of which one that takes two units has two.
+QList<qint64> furtherBytes(const QByteArray &bytes)
+{
+    QList<qint64> further;
+    for (qsizetype at = 0; at < bytes.size(); ++at) {
+        const auto byteAt = [&](qsizetype i) { return static_cast<unsigned char>(bytes[i]); };
+        const bool goesOn = byteAt(at) >= 0x80U && byteAt(at) < 0xC0U;
+        if (goesOn && byteAt(at - 1) < 0xF0U)
+            further.append(at);
+    }
+    return further;
+}
+
 /// The value that a setting stands for.
 QString meantBy(const SettingsFile::Entry &entry)
 {
@@ -68,6 +82,8 @@ SettingsFile::SettingsFile(const QByteArray &bytes)
 {
     for (qsizetype feed = -1; (feed = bytes.indexOf('\n', feed + 1)) >= 0;)
         lineStarts.append(feed + 1);
+    if (bytes.isValidUtf8())
+        withoutColumn = furtherBytes(bytes);
     const Notation notation = readNotation(bytes);
     nothingRead = notation.isLost;
     for (const Slip &slip : notation.slips)
@@ -213,11 +229,14 @@ KVConfiguration &SettingsFile::forEngine() const
     return const_cast<SettingsFile &>(*this);
 }
 
-/// Where a byte of the file stands; bytes are characters of Latin-1.
+/// Where a byte of the file stands. What is no UTF-8 is Latin-1.
 Place SettingsFile::placeOf(qint64 offset) const
 {
     const auto next = std::upper_bound(lineStarts.begin(), lineStarts.end(), offset);
-    return {next - lineStarts.begin(), offset - *std::prev(next) + 1};
+    const qint64 start = *std::prev(next);
+    const auto first = std::lower_bound(withoutColumn.begin(), withoutColumn.end(), start);
+    const auto last = std::lower_bound(first, withoutColumn.end(), offset);
+    return {next - lineStarts.begin(), offset - start - (last - first) + 1};
 }
 
 /// Likewise, of a byte of the file with its slips corrected.

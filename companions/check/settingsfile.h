@@ -90,7 +90,8 @@ private:
     [[nodiscard]] Place placeOf(qint64 offset) const;
     [[nodiscard]] Place placeOfCorrected(qint64 corrected) const;
 
-    QList<qint64> lineStarts; // offsets in the file
+    QList<qint64> lineStarts;    // offsets in the file
+    QList<qint64> withoutColumn; // bytes of characters of UTF-8 that add no UTF-16 unit
     QList<Behind> edited;
     QList<Finding> slipsFound;
     QList<Finding> groupsFound;

@@ -172,8 +172,19 @@ QString meantKey(QAnyStringView group, const QString &name)
         return {};
     const QString text = bare(name).section(u'.', -1); // without the path that it is looked up by
     const QString nearest = nearestName(text, keys);
-    // Most switches begin with this.
-    return nearest.isEmpty() ? shared::nearest(QString(u"print"_s + text), keys) : nearest;
+    if (!nearest.isEmpty())
+        return nearest;
+    // Most switches begin with this, where others write a word like it, and some go on behind that.
+    const QString begun = shared::nearest(QString(u"print"_s + text), keys);
+    if (!begun.isEmpty())
+        return begun;
+    static const QRegularExpression verb(u"^(show|display|enable|with|use|has)(?=[A-Z_])_?"_s);
+    static const QRegularExpression lastWord(u"(?<=[a-z])[A-Z][a-z]+$"_s);
+    QString other = text;
+    other.replace(verb, u"print"_s);
+    if (other == text)
+        other.remove(lastWord);
+    return keys.contains(other) ? other : QString();
 }
 
 QString meantValue(vocabulary::Kind kind, const QString &value)

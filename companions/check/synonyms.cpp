@@ -109,7 +109,7 @@ constexpr Synonyms synonyms[] = {
     {"name"_L1,
      "description title label caption text article item product nome descrizione "
      "denominazione articolo prodotto bezeichnung beschreibung artikel designation libelle "
-     "nom nombre descripcion producto"_L1},
+     "nom nombre descripcion producto fullname customer client cliente kunde"_L1},
     {"description"_L1,
      "name title label caption text article item product nome descrizione denominazione "
      "articolo prodotto bezeichnung beschreibung artikel designation libelle nom nombre "
@@ -142,7 +142,7 @@ constexpr Synonyms synonyms[] = {
      "dept dep vatgroup reparto abteilung warengruppe rayon departement departamento "
      "seccion"_L1},
     {"serialnumber"_L1,
-     "number serial no documentnumber invoicenumber receiptnumber numero nummer "
+     "number serial serialno no nr num id documentnumber invoicenumber receiptnumber numero nummer "
      "belegnummer rechnungsnummer"_L1},
     {"waiter"_L1,
      "server operator staff user cameriere operatore kellner bedienung serveur camarero"_L1},
@@ -182,7 +182,9 @@ constexpr Synonyms synonyms[] = {
      "ip host address hostname server indirizzoip indirizzo adresse ipadresse adresseip "
      "direccionip"_L1},
     {"type"_L1,
-     "kind reason tipo causale art typ grund genre motivo"_L1},
+     "kind reason tipo causale art typ grund genre motivo description text name label title "
+     "descrizione testo nome bezeichnung beschreibung libelle designation nom descripcion "
+     "nombre concepto"_L1},
 
     // Groups of settings, and what stands in them.
     {"language"_L1,

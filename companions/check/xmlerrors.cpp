@@ -90,6 +90,7 @@ constexpr qsizetype toReference = -1;
 constexpr qsizetype toTag = -2;
 constexpr qsizetype toQuote = -3;
 constexpr qsizetype toOpen = -4; // at the element that is open
+constexpr qsizetype toSection = -5; // at the last CDATA section
 
 /// What stands around an error.
 struct Surroundings
@@ -138,6 +139,8 @@ struct Surroundings
             return tag;
         if (lead == toOpen)
             return before.size();
+        if (lead == toSection)
+            return before.lastIndexOf("<![CDATA[");
         return lead == toQuote ? quote : before.size() - lead;
     }
 
@@ -155,6 +158,13 @@ struct Surroundings
     [[nodiscard]] bool isBehindValue() const
     {
         return inTag && (before.endsWith('"') || before.endsWith('\''));
+    }
+
+    /// Behind the name of an end tag.
+    [[nodiscard]] bool isBehindEndName() const
+    {
+        return inTag && before.sliced(tag).startsWith("</")
+               && (isBlank(before.back()) || isOfName(before.back()));
     }
 
     /// Behind a value that took in the name of the next: number="1 name="
@@ -218,6 +228,8 @@ constexpr Wording wordings[] = {
      "\"<\" in a value; write &lt;, or end the value with its quote"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.before.endsWith("--"); }, 2,
      "\"--\" in a comment; write a single -"_L1},
+    {XML_ERROR_INVALID_TOKEN, [](At at) { return at.before.endsWith("<!-"); }, 3,
+     "a comment begins with <!--"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.before.endsWith("]]") && !at.inTag; }, 2,
      "\"]]>\" in a text; write ]]&gt;"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.before.endsWith("</") && at.inTag; }, 2,
@@ -243,6 +255,9 @@ constexpr Wording wordings[] = {
      "a value without quotes; write \"{value}\""_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inTag && at.behind.startsWith('<'); }, toTag,
      "the tag that begins here has no \">\""_L1},
+    {XML_ERROR_INVALID_TOKEN,
+     [](At at) { return at.isBehindEndName() && !isForbidden(at.behind); }, 0,
+     "{character} behind the name of an end tag, which has nothing else"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inTag && at.before.endsWith('/'); }, 1,
      "\"/\" in a tag without a \">\" behind it"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.isBehindValue() && at.tookNext(); }, toQuote,
@@ -250,6 +265,15 @@ constexpr Wording wordings[] = {
     {XML_ERROR_INVALID_TOKEN,
      [](At at) { return at.isBehindValue() && at.hasAttributeBehind(); }, 0,
      "no blank between a value and the next attribute"_L1},
+    {XML_ERROR_INVALID_TOKEN,
+     [](At at) { return at.isBehindValue() && at.behind.startsWith("\\>"); }, 0,
+     "{character} cannot stand behind a value; a tag without content ends with />"_L1},
+    {XML_ERROR_INVALID_TOKEN,
+     [](At at) { return at.isBehindValue() && (at.behind[0] == ',' || at.behind[0] == ';'); }, 0,
+     "{character} cannot stand behind a value; blanks alone part attributes"_L1},
+    {XML_ERROR_INVALID_TOKEN,
+     [](At at) { return at.isBehindValue() && at.before.endsWith('\''); }, 0,
+     "{character} cannot stand behind a value; for a ' in a value write &apos;"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.isBehindValue(); }, 0,
      "{character} cannot stand behind a value; for a quote in a value write &quot;"_L1},
     {XML_ERROR_INVALID_TOKEN,
@@ -271,6 +295,8 @@ constexpr Wording wordings[] = {
 
     {XML_ERROR_UNCLOSED_TOKEN, [](At at) { return at.behind.startsWith("<!--"); }, 0,
      "a comment without its \"-->\""_L1},
+    {XML_ERROR_UNCLOSED_TOKEN, [](At at) { return at.behind.startsWith("<?xml "); }, 0,
+     "an XML declaration without its \"?>\""_L1},
     {XML_ERROR_UNCLOSED_TOKEN, [](At at) { return at.behind.startsWith("<?"); }, 0,
      "an instruction without its \"?>\""_L1},
     {XML_ERROR_UNCLOSED_TOKEN, [](At at) { return at.behind.startsWith('<'); }, 0,
@@ -278,7 +304,7 @@ constexpr Wording wordings[] = {
     {XML_ERROR_UNCLOSED_TOKEN, [](At at) { return at.behind.startsWith('&'); }, 0,
      "\"&\" begins a reference without its \";\"; write &amp;, or end the reference"_L1},
     {XML_ERROR_UNCLOSED_TOKEN, always, 0, "what begins here does not end"_L1},
-    {XML_ERROR_UNCLOSED_CDATA_SECTION, always, 0, "a CDATA section without its \"]]>\""_L1},
+    {XML_ERROR_UNCLOSED_CDATA_SECTION, always, toSection, "a CDATA section without its \"]]>\""_L1},
 
     {XML_ERROR_NO_ELEMENTS, [](At at) { return at.inRoot; }, toOpen,
      "<{open}> is never closed; write </{open}> where it ends, or /> in place of its >"_L1},

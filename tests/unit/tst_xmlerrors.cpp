@@ -76,9 +76,9 @@ private slots:
         row("<job a=^'1 b='2'/>", "the value that begins here has no closing quote");
         row("<job c='' a=^'1\" b='2'/>", "the value that begins here has no closing quote");
         row("<job a='1 '^2' 3'/>",
-            "\"2\" cannot stand behind a value; for a quote in a value write &quot;");
+            "\"2\" cannot stand behind a value; for a ' in a value write &apos;");
         row("<job a='1'^, b='2'/>",
-            "\",\" cannot stand behind a value; for a quote in a value write &quot;");
+            "\",\" cannot stand behind a value; blanks alone part attributes");
         row("<job a^'1'/>", "a value without a \"=\" before it");
         row("<job a=^\u201c1\u201d/>", "\"\u201c\" is no quote to XML; write \" or '");
         row("<job a=^1/>", "a value without quotes; write \"1\"");
@@ -135,6 +135,7 @@ private slots:
         row("<job><!-- ^-- --></job>", "\"--\" in a comment; write a single -");
         row("<job>^<!-- </job>", "a comment without its \"-->\"");
         row("<job>^<?a </job>", "an instruction without its \"?>\"");
+        row("^<?xml version='1.0'>\n<job/>", "an XML declaration without its \"?>\"");
         row("<job>^<!DOCTYPE job></job>", "\"<!\" begins no comment and no CDATA section");
         row("<job>^<? a?></job>", "\"<?\" without a name");
         row("<job>^<?a\u00b7 b?></job>", "an instruction has no name");
