@@ -89,7 +89,7 @@ QString writtenFor(QStringView name)
 constexpr qsizetype toReference = -1;
 constexpr qsizetype toTag = -2;
 constexpr qsizetype toQuote = -3;
-constexpr qsizetype toOpen = -4; // at the element that is open
+constexpr qsizetype toOpen = -4;    // at the element that is open
 constexpr qsizetype toSection = -5; // at the last CDATA section
 
 /// What stands around an error.
