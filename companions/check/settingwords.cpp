@@ -171,11 +171,11 @@ QString meantKey(QAnyStringView group, const QString &name)
     if (isCommentedOut(name))
         return {};
     const QString text = bare(name).section(u'.', -1); // without the path that it is looked up by
-    const QString nearest = nearestName(text, keys);
+    QString nearest = nearestName(text, keys);
     if (!nearest.isEmpty())
         return nearest;
     // Most switches begin with this, where others write a word like it, and some go on behind that.
-    const QString begun = shared::nearest(QString(u"print"_s + text), keys);
+    QString begun = shared::nearest(QString(u"print"_s + text), keys);
     if (!begun.isEmpty())
         return begun;
     static const QRegularExpression verb(u"^(show|display|enable|with|use|has)(?=[A-Z_])_?"_s);

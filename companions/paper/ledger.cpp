@@ -3,22 +3,20 @@
 
 namespace korvel::preview {
 
-using Kind = Command::Kind;
-
 std::optional<Sum> Ledger::take(const Command &command)
 {
     std::optional<Sum> ended;
-    if (command.kind == Kind::SectionOpened) {
+    if (command.kind == Command::Kind::SectionOpened) {
         ended = end();
         if (command.section == Section::Fiscal)
             open = Sum{command.offset, command.line, {}};
-    } else if (command.kind == Kind::SectionClosed && command.section == Section::Fiscal) {
+    } else if (command.kind == Command::Kind::SectionClosed && command.section == Section::Fiscal) {
         if (open)
             open->closed = true;
         ended = end();
-    } else if (command.kind == Kind::SaleRow) {
+    } else if (command.kind == Command::Kind::SaleRow) {
         count(Amount::of(command.amount, command.quantity));
-    } else if (command.kind == Kind::Deduction) {
+    } else if (command.kind == Command::Kind::Deduction) {
         const auto amount = Amount::of(command.amount);
         count(amount ? std::optional(-*amount) : std::nullopt);
     }
