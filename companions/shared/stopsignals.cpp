@@ -22,7 +22,7 @@ void note(int signal)
 {
     const int error = errno;
     came = signal;
-    static_cast<void>(::write(pipeEnds[1], "", 1)); // a full pipe has told it before
+    [[maybe_unused]] const auto told = ::write(pipeEnds[1], "", 1); // a full pipe: told before
     errno = error;
 }
 
