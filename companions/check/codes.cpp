@@ -16,16 +16,8 @@ constexpr const CodeInfo &rowAt(std::size_t i)
     return i < std::size(jobCodes) ? jobCodes[i] : settingsCodes[i - std::size(jobCodes)];
 }
 
-constexpr bool isInOrder()
-{
-    for (std::size_t i = 0; i < std::size_t(Code::Count); ++i) {
-        if (rowAt(i).code != Code(i))
-            return false;
-    }
-    return true;
-}
-static_assert(std::size(jobCodes) + std::size(settingsCodes) == std::size_t(Code::Count)
-                  && isInOrder(),
+static_assert(shared::areInOrder(jobCodes) && shared::areInOrder(settingsCodes, std::size(jobCodes))
+                  && std::size(jobCodes) + std::size(settingsCodes) == std::size_t(Code::Count),
               "each code has its row, in the order of the codes");
 
 } // namespace

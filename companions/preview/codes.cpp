@@ -113,15 +113,7 @@ constexpr CodeInfo rows[] = {
 };
 // clang-format on
 
-constexpr bool isInOrder()
-{
-    for (std::size_t i = 0; i < std::size(rows); ++i) {
-        if (rows[i].code != Code(i))
-            return false;
-    }
-    return true;
-}
-static_assert(std::size(rows) == std::size_t(Code::Count) && isInOrder(),
+static_assert(shared::areInOrder(rows) && std::size(rows) == std::size_t(Code::Count),
               "each code has its row, in the order of the codes");
 
 } // namespace

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cstddef>
 
 namespace korvel::shared {
 
@@ -41,6 +42,17 @@ struct CodeRow : CodeWords
     {
     }
 };
+
+/// Whether these are the rows of as many codes, in their order.
+template<typename Code, std::size_t count>
+constexpr bool areInOrder(const CodeRow<Code> (&rows)[count], std::size_t firstCode = 0)
+{
+    for (std::size_t i = 0; i < count; ++i) {
+        if (rows[i].code != Code(firstCode + i))
+            return false;
+    }
+    return true;
+}
 
 /// The row of the code that is shown by that name; null when there is none.
 template<typename Code>

@@ -4,8 +4,6 @@
 
 #include <QtGlobal>
 
-#include <cerrno>
-#include <cstddef>
 
 #include <linux/capability.h>
 #include <sys/prctl.h>
