@@ -4,7 +4,6 @@
 
 #include <QtGlobal>
 
-
 #include <linux/capability.h>
 #include <sys/prctl.h>
 #include <sys/syscall.h>
