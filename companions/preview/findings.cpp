@@ -41,7 +41,7 @@ public:
             note(Code::LeftOpen, openedAt, sectionName(*open));
         std::stable_sort(found.begin(), found.end(),
                          [](const Finding &a, const Finding &b) { return a.offset < b.offset; });
-        if (more)
+        if (more && !ignored.contains(*more))
             found.append({*more, found.constLast().offset, worded(infoOf(*more))});
         findPlaces();
         return found;

@@ -91,6 +91,14 @@ private slots:
         for (const Finding &finding : findings(stream, 32, {Code::EndsText, Code::TooWide}))
             left.append(infoOf(finding.code).name);
         QCOMPARE(left, QStringList("unknown-command"));
+
+        // What says that there are more can be left out too.
+        const QByteArray errors(1001, '\n');
+        const QByteArray warnings = line(QByteArray(1001, ')'));
+        QCOMPARE(findings(errors, 32, {Code::MoreErrors}).size(), 1000);
+        QCOMPARE(findings(errors, 32, {Code::MoreWarnings}).size(), 1001);
+        QCOMPARE(findings(warnings, 32, {Code::MoreWarnings}).size(), 1000);
+        QCOMPARE(findings(warnings, 32, {Code::MoreErrors}).size(), 1001);
     }
 
     /// Rows of the paper count sums and the marks between documents, as the box shows them.
