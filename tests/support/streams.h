@@ -57,4 +57,5 @@ inline const QByteArrayList brokenStreams = {
     "=K\n=C1\n=S\r\n=V/$" + QByteArray(40, '9') + "\r\n=T1\n",
     "=K\n=C1\n=R1/2/$1/*1/(\xff)\n=T1\n",
     documentOf(QByteArray(1001, ')')),
+    QByteArray(1001, '\n'),
 };
