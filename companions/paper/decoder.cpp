@@ -1,7 +1,6 @@
 // The commands of the printer's language as tables, matched and written.
 #include "companions/paper/decoder.h"
 
-#include "companions/paper/text.h"
 #include "printer/company/commands.h"
 
 #include <algorithm>
@@ -233,7 +232,7 @@ void splitCentring(Command &command)
     const auto blanks = text - command.content.cbegin();
     if (blanks == 0)
         return;
-    const qsizetype width = decoded(command.content, *command.codePage).size();
+    const qsizetype width = command.codePage->decode(command.content).size();
 
     // With s blanks before n characters: s = (W - n) / 2 rounded down, and s + n is the width.
     for (const qsizetype spaces : {commands::lineWidth - width, commands::lineWidth - 1 - width}) {

@@ -17,7 +17,7 @@ using Row = PaperRow::Kind;
 
 QString textOf(const Command &command, const QByteArray &bytes)
 {
-    return shared::inOneLine(decoded(bytes, *command.codePage));
+    return shared::inOneLine(command.codePage->decode(bytes));
 }
 
 /// The amount for the reader: "1.20", or as it was sent where it is no plain number.
@@ -118,7 +118,7 @@ QString widestRow(const Command &command, int columns)
 {
     QString widest;
     if (command.kind == Kind::Line) {
-        widest = QString(command.spaces, u' ') + decoded(command.content, *command.codePage);
+        widest = QString(command.spaces, u' ') + command.codePage->decode(command.content);
     } else if (command.kind == Kind::SaleRow || command.kind == Kind::Deduction) {
         // A row may hold more than the description: a quantity, a department.
         Roll roll(columns, [&](const PaperRow &row) {

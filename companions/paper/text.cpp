@@ -9,13 +9,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::preview {
 
-QString decoded(QByteArrayView text, const CodePage &page) { return page.decode(text); }
-
-qsizetype characterLength(QByteArrayView text, const CodePage &page)
-{
-    return page.characterLength(text);
-}
-
 bool isReadable(QByteArrayView text, const CodePage &page)
 {
     if (page.isUnicode())
@@ -31,7 +24,7 @@ bool isControl(QByteArrayView character, const CodePage &page)
 {
     if (character.size() == 1 && static_cast<unsigned char>(character.front()) < 0x80)
         return static_cast<unsigned char>(character.front()) < 0x20 || character.front() == 0x7f;
-    const QList<uint> points = decoded(character, page).toUcs4();
+    const QList<uint> points = page.decode(character).toUcs4();
     return points.size() == 1 && QChar::category(points.front()) == QChar::Other_Control;
 }
 
@@ -44,9 +37,9 @@ QString escaped(QByteArrayView bytes, const CodePage &page)
             bytes = bytes.sliced(1);
             continue;
         }
-        const qsizetype length = characterLength(bytes, page);
+        const qsizetype length = page.characterLength(bytes);
         const QByteArrayView character = bytes.first(length > 0 ? length : 1);
-        const QString shown = decoded(character, page);
+        const QString shown = page.decode(character);
         const char first = character.front();
         if (first == '\n')
             text += "\\n"_L1;
@@ -64,6 +57,11 @@ QString escaped(QByteArrayView bytes, const CodePage &page)
         bytes = bytes.sliced(character.size());
     }
     return text;
+}
+
+QString quoted(QByteArrayView bytes, const CodePage &page)
+{
+    return u'"' + escaped(bytes, page) + u'"';
 }
 
 } // namespace korvel::preview

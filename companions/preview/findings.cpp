@@ -48,12 +48,6 @@ public:
     }
 
 private:
-    /// How bytes are called in a finding.
-    [[nodiscard]] QString nameOf(QByteArrayView bytes) const
-    {
-        return u'"' + escaped(bytes, page) + u'"';
-    }
-
     template<typename... Words>
     void note(Code code, qsizetype offset, const Words &...words)
     {
@@ -120,7 +114,7 @@ private:
         inspectAmount(row, amount, u"sale row"_s);
         inspectField(quantity, row.quantity);
         if (!isQuantity(row.quantity))
-            note(Code::WrongQuantity, quantity, nameOf(row.quantity));
+            note(Code::WrongQuantity, quantity, quoted(row.quantity, page));
         else if (!counted)
             inspectSize(row, Amount::of(row.amount, row.quantity), u"sale row"_s);
         inspectText(description, row.description, Code::EndsField);
@@ -132,7 +126,7 @@ private:
         if (open != Section::Fiscal)
             note(Code::OutsideFiscal, row.offset, what);
         if (!isWholeHundredths(row.amount))
-            note(Code::WrongAmount, amountAt, nameOf(row.amount));
+            note(Code::WrongAmount, amountAt, quoted(row.amount, page));
     }
 
     /// Notes a row that is not in the sum, unless that is so because its amount is no number, which
@@ -157,16 +151,16 @@ private:
         bool readable =
             true; // bytes that are no characters are one finding as long as they follow each other
         while (!text.isEmpty() && more != Code::MoreErrors) {
-            const qsizetype length = characterLength(text, page);
+            const qsizetype length = page.characterLength(text);
             const QByteArrayView character = text.first(std::max<qsizetype>(length, 1));
             if (length == 0 && readable)
-                note(Code::NotUtf8, offset, nameOf(character), page.name());
+                note(Code::NotUtf8, offset, quoted(character, page), page.name());
             else if (character == ")")
                 note(parenthesis, offset, u")"_s);
             else if (character == "\n" || character == "\r")
-                note(Code::BreaksText, offset, nameOf(character));
+                note(Code::BreaksText, offset, quoted(character, page));
             else if (length > 0 && isControl(character, page))
-                note(Code::ControlCode, offset, nameOf(character));
+                note(Code::ControlCode, offset, quoted(character, page));
             readable = length > 0;
             offset += character.size();
             text = text.sliced(character.size());
@@ -195,7 +189,7 @@ private:
         }
         const QByteArrayView rest = QByteArrayView(stream).sliced(bad);
         const QString byte =
-            nameOf(rest.first(std::max<qsizetype>(characterLength(rest, page), 1)));
+            quoted(rest.first(std::max<qsizetype>(page.characterLength(rest), 1)), page);
         if (command.begunAs)
             note(Code::BrokenCommand, bad, kindName(*command.begunAs), byte);
         else

@@ -58,29 +58,27 @@ const SectionNames &namesOf(Section section)
 
 QString meaning(const Command &command)
 {
-    const auto quoted = [&](const QByteArray &text) {
-        return QString(u'"' + escaped(text, *command.codePage) + u'"');
-    };
+    const auto shown = [&](const QByteArray &text) { return quoted(text, *command.codePage); };
     switch (command.kind) {
     case Kind::Line:
         return u"text line, "_s
                + (command.spaces > 0 ? QString::number(command.spaces) + u" centring blanks, "_s
                                      : QString())
-               + quoted(command.content);
+               + shown(command.content);
     case Kind::SectionOpened:
         return sectionName(command.section) + u" opened"_s;
     case Kind::SectionClosed:
         return sectionName(command.section) + u" closed"_s;
     case Kind::SaleRow:
-        return u"sale row, department "_s + quoted(command.department) + u", amount "_s
-               + quoted(command.amount) + u", quantity "_s + quoted(command.quantity)
-               + u", description "_s + quoted(command.description);
+        return u"sale row, department "_s + shown(command.department) + u", amount "_s
+               + shown(command.amount) + u", quantity "_s + shown(command.quantity)
+               + u", description "_s + shown(command.description);
     case Kind::Deduction:
-        return u"deduction, amount "_s + quoted(command.amount);
+        return u"deduction, amount "_s + shown(command.amount);
     case Kind::Unknown:
         break;
     }
-    return u"unknown command, "_s + quoted(command.content);
+    return u"unknown command, "_s + shown(command.content);
 }
 
 } // namespace
@@ -103,7 +101,7 @@ QJsonObject toJson(const Command &command)
         {u"line"_s, command.line},
     };
     const auto text = [&](const QString &key, const QByteArray &bytes) {
-        object.insert(key, decoded(bytes, *command.codePage));
+        object.insert(key, command.codePage->decode(bytes));
     };
     switch (command.kind) {
     case Kind::Line:
