@@ -22,7 +22,7 @@ QString latin1(QString text)
 
 KVConfiguration::KVConfiguration()
 {
-    readBraces(korvel::path::home() + "/.korvel/conf/korvel.conf"_L1);
+    readBraces(korvel::path::home() + korvel::path::settingsInHome);
 }
 
 QString KVConfiguration::getStrValue(const QString &key) const

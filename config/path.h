@@ -5,6 +5,7 @@
 #include <QByteArrayView>
 #include <QDir>
 #include <QFile>
+#include <QLatin1StringView>
 #include <QString>
 #include <QStringConverter>
 
@@ -132,5 +133,8 @@ inline QString home()
         return path;
     return path.isEmpty() ? QDir::homePath() : QDir::cleanPath(path);
 }
+
+/// The settings file of a user, below the home folder.
+inline constexpr QLatin1StringView settingsInHome("/.korvel/conf/korvel.conf");
 
 } // namespace korvel::path

@@ -8,7 +8,6 @@
 #include "companions/shared/files.h"
 #include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
-#include "config/path.h"
 
 #include <QCoreApplication>
 
@@ -24,7 +23,7 @@ namespace check = korvel::check;
 
 namespace {
 
-constexpr qint64 largestFile = 67'108'864; // 64 MiB
+constexpr qint64 largestJob = 67'108'864; // 64 MiB
 
 const QCommandLineOption settingsOption(u"settings"_s,
                                         u"Check by this settings file too, and the file itself."_s,
@@ -101,17 +100,14 @@ int checkFiles(const QCommandLineParser &parser, Report &report)
     std::unique_ptr<check::SettingsFile> settings;
     if (parser.isSet(settingsOption)) {
         const QString path = parser.value(settingsOption);
-        // The renderer reads its settings from nothing else.
-        if (path == "-"_L1 || korvel::path::kindOf(path) == korvel::path::Kind::Other)
-            return trouble(path + u": no regular file"_s);
-        const auto bytes = readWhole(path, largestFile, error);
+        const auto bytes = readSettings(path, error);
         if (!bytes)
             return trouble(path + u": "_s + error);
         settings = std::make_unique<check::SettingsFile>(*bytes);
         report.add(path, checkSettings(*settings));
     }
     for (const QString &path : parser.positionalArguments()) {
-        const auto job = readWhole(path, largestFile, error);
+        const auto job = readWhole(path, largestJob, error);
         if (!job)
             report.status = trouble(path + u": "_s + error);
         else if (check::isSettings(*job))

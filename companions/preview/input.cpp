@@ -15,9 +15,6 @@ namespace korvel::preview {
 
 namespace {
 
-constexpr qint64 largestInput = 4'194'304;     // 4 MiB, of a stream or a job
-constexpr qint64 largestSettings = 67'108'864; // 64 MiB
-
 struct Settings
 {
     QString path; // for people
@@ -31,22 +28,16 @@ QByteArray sampleSettings()
 }
 
 /// The settings to render by; see readInput().
-std::optional<Settings> readSettings(const QString &given, QString &note, QString &error)
+std::optional<Settings> settingsFor(const QString &given, QString &note, QString &error)
 {
     const QString path =
-        given.isEmpty() ? korvel::path::home() + "/.korvel/conf/korvel.conf"_L1 : given;
-    const auto kind = korvel::path::kindOf(path);
-    if (given.isEmpty() && kind == korvel::path::Kind::Nothing) {
+        given.isEmpty() ? korvel::path::home() + korvel::path::settingsInHome : given;
+    if (given.isEmpty() && korvel::path::kindOf(path) == korvel::path::Kind::Nothing) {
         note = u"there are no settings in "_s + path
                + u": shown by those of the sample shop; --settings names others"_s;
         return Settings{u"sample settings"_s, sampleSettings()};
     }
-    // The renderer reads its settings from nothing else.
-    if (path == "-"_L1 || kind == korvel::path::Kind::Other) {
-        error = path + u": no regular file"_s;
-        return {};
-    }
-    const auto bytes = shared::readWhole(path, largestSettings, error);
+    const auto bytes = shared::readSettings(path, error);
     if (!bytes) {
         error = path + u": "_s + error;
         return {};
@@ -81,7 +72,7 @@ bool isJob(QByteArrayView bytes)
 std::optional<Input> readInput(const QString &path, InputKind kind, const QString &settingsPath,
                                const QList<check::Code> &ignored, QString &error)
 {
-    const auto bytes = shared::readWhole(path, largestInput, error);
+    const auto bytes = shared::readWhole(path, shared::largestStream, error);
     if (!bytes) {
         error = path + u": "_s + error;
         return {};
@@ -91,7 +82,7 @@ std::optional<Input> readInput(const QString &path, InputKind kind, const QStrin
         input.stream = *bytes;
         return input;
     }
-    const auto settings = readSettings(settingsPath, input.note, error);
+    const auto settings = settingsFor(settingsPath, input.note, error);
     if (!settings)
         return {};
     const check::SettingsFile read(settings->bytes);
@@ -103,9 +94,9 @@ std::optional<Input> readInput(const QString &path, InputKind kind, const QStrin
         error = path + u": "_s + rendered.reason();
         return {};
     }
-    if (rendered.stream.size() > largestInput) {
-        error =
-            path + u": its stream is larger than "_s + QString::number(largestInput) + u" bytes"_s;
+    if (rendered.stream.size() > shared::largestStream) {
+        error = path + u": its stream is larger than "_s + QString::number(shared::largestStream)
+                + u" bytes"_s;
         return {};
     }
     input.stream = rendered.stream;

@@ -9,6 +9,7 @@
 #include <QHash>
 
 #include <cstdio>
+#include <utility>
 
 using korvel::recode::CodePage;
 using korvel::recode::Loss;
@@ -16,8 +17,6 @@ using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-constexpr qint64 largestStream = 4'194'304; // 4 MiB
 
 const QCommandLineOption fromOption(u"from"_s, u"The code page that the stream comes in."_s,
                                     u"name"_s, u"UTF-8"_s);

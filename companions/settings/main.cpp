@@ -29,7 +29,7 @@ std::optional<int> readArguments(int argc, char *argv[], QString &file)
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1)
         return trouble(u"one settings file at most; see --help"_s);
-    file = files.value(0, korvel::path::home() + u"/.korvel/conf/korvel.conf"_s);
+    file = files.value(0, korvel::path::home() + korvel::path::settingsInHome);
     // The toolkit would make replacement characters of the rest, and files of such names.
     for (const char *variable : {"HOME", "XDG_CONFIG_HOME"})
         if (const QString path = korvel::path::fromBytes(qgetenv(variable)); !path.isValidUtf16())

@@ -8,6 +8,9 @@
 
 namespace korvel::shared {
 
+/// Bytes of a command stream, or of a job to make one of, that a companion takes at most: 4 MiB.
+inline constexpr qint64 largestStream = 4'194'304;
+
 /**
  * All bytes of a file, or of standard input for "-".
  *
@@ -15,6 +18,14 @@ namespace korvel::shared {
  * @param error why nothing is given, as one line without the file's name
  */
 std::optional<QByteArray> readWhole(const QString &path, qint64 limit, QString &error);
+
+/**
+ * All bytes of a settings file, up to 64 MiB. It is a regular file: the renderer reads its settings
+ * from nothing else, and not from standard input.
+ *
+ * @param error why nothing is given, as one line without the file's name
+ */
+std::optional<QByteArray> readSettings(const QString &path, QString &error);
 
 /**
  * Replaces a file by these bytes, or makes a new one: whole, or not at all. What a link leads to is

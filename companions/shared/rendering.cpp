@@ -3,6 +3,7 @@
 
 #include "companions/shared/oneline.h"
 #include "companions/shared/stopsignals.h"
+#include "config/path.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -25,7 +26,7 @@ namespace {
 
 using End = Rendered::End;
 
-const auto settingsName = u".korvel/conf/korvel.conf"_s;
+const QString settingsName = korvel::path::settingsInHome.sliced(1); // without its slash
 const auto jobName = u"job.xml"_s;
 const auto streamName = u"stream.out"_s;
 
