@@ -54,8 +54,7 @@ void addErrors(Input &input, const QString &file, const QList<check::Finding> &f
     }
 }
 
-} // namespace
-
+/// Whether bytes are a job: XML, in whatever encoding. All else counts as a stream.
 bool isJob(QByteArrayView bytes)
 {
     for (const QByteArrayView mark :
@@ -69,8 +68,11 @@ bool isJob(QByteArrayView bytes)
     return bytes.startsWith('<');
 }
 
-std::optional<Input> readInput(const QString &path, InputKind kind, const QString &settingsPath,
-                               const QList<check::Code> &ignored, QString &error)
+} // namespace
+
+std::optional<Input> readInput(const QString &path, InputKind kind, const recode::CodePage &page,
+                               const QString &settingsPath, const QList<check::Code> &ignored,
+                               QString &error)
 {
     const auto bytes = shared::readWhole(path, shared::largestStream, error);
     if (!bytes) {
@@ -81,6 +83,10 @@ std::optional<Input> readInput(const QString &path, InputKind kind, const QStrin
     if (!input.isJob) {
         input.stream = *bytes;
         return input;
+    }
+    if (!page.isUnicode()) {
+        error = u"--charset is for streams; a job is rendered in UTF-8"_s;
+        return {};
     }
     const auto settings = settingsFor(settingsPath, input.note, error);
     if (!settings)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "companions/check/findings.h"
+#include "companions/recode/codepage.h"
 
 #include <QByteArray>
 #include <QString>
@@ -31,17 +32,16 @@ struct Input
     std::optional<QString> said = {}; // by the renderer that refused the job, in one line
 };
 
-/// Whether bytes are a job: XML, in whatever encoding. All else counts as a stream.
-bool isJob(QByteArrayView bytes);
-
 /**
  * Reads a stream or a job. A job is checked, and rendered by the settings of this file; of this
  * user, when the path is empty; or by those of the sample shop when there are none.
  *
+ * @param page    of a stream; a job is refused where it is not UTF-8
  * @param ignored errors of the checker that are left out
  * @param error   why nothing is given, in one line
  */
-std::optional<Input> readInput(const QString &path, InputKind kind, const QString &settings,
-                               const QList<check::Code> &ignored, QString &error);
+std::optional<Input> readInput(const QString &path, InputKind kind, const recode::CodePage &page,
+                               const QString &settings, const QList<check::Code> &ignored,
+                               QString &error);
 
 } // namespace korvel::preview

@@ -8,11 +8,11 @@
 #include "companions/preview/terminal.h"
 #include "companions/recode/codepage.h"
 #include "companions/shared/commandline.h"
-#include "companions/shared/files.h"
 #include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
 #include "printer/company/commands.h"
 
+#include <QFile>
 #include <QGuiApplication>
 
 #include <algorithm>
@@ -235,12 +235,10 @@ int run(QCommandLineParser &parser, const QStringList &arguments)
     const auto kind = parser.isSet(jobOption)      ? preview::InputKind::Job
                       : parser.isSet(streamOption) ? preview::InputKind::Stream
                                                    : preview::InputKind::ByContent;
-    const auto input = preview::readInput(parser.positionalArguments().constFirst(), kind,
+    const auto input = preview::readInput(parser.positionalArguments().constFirst(), kind, *page,
                                           parser.value(settingsOption), ignored.inJobs, error);
     if (!input)
         return trouble(error);
-    if (input->isJob && !page->isUnicode())
-        return trouble(u"--charset is for streams; a job is rendered in UTF-8"_s);
     const QList<preview::Finding> found =
         preview::findings(input->stream, columns, ignored.inStreams, *page);
     if (!parser.isSet(quietOption))

@@ -122,6 +122,12 @@ private slots:
         QCOMPARE(run.standardError,
                  "korvel-preview: --charset is for streams; a job is rendered in "
                  "UTF-8\n");
+
+        // No work is done on the job first.
+        const Run early =
+            Desk("<job/>").run({"--charset=cp858", "--settings", "none.conf", "x.out"});
+        VERIFY_TROUBLE(early);
+        QCOMPARE(linesOf(early.standardError), linesOf(run.standardError));
     }
 
     void trouble()
