@@ -106,7 +106,7 @@ std::optional<Input> readInput(const QString &path, InputKind kind, const recode
         return {};
     }
     input.stream = rendered.stream;
-    if (rendered.end == shared::Rendered::End::Refused)
+    if (rendered.end == shared::Rendered::End::Refused && input.errors.isEmpty())
         input.said = rendered.reason();
     return input;
 }

@@ -27,9 +27,12 @@ struct Input
     QString path; // "-" for standard input
     bool isJob = false;
     QByteArray stream = {};
-    QList<CheckError> errors = {};    // of a job and its settings
-    QString note = {};                // what stands in for what is missing, in one line
-    std::optional<QString> said = {}; // by the renderer that refused the job, in one line
+    QList<CheckError> errors = {}; // of a job and its settings
+    QString note = {};             // what stands in for what is missing, in one line
+
+    /// What the renderer said that refused the job, in one line, where the checker has not said it
+    /// better: an error too.
+    std::optional<QString> said = {};
 };
 
 /**

@@ -70,6 +70,8 @@ void writeJson(Output &out, const preview::Input &input, const QList<preview::Fi
 {
     for (const preview::Input::CheckError &error : input.errors)
         out << jsonLine(toJson(error.file, error.finding));
+    if (input.said)
+        out << jsonLine({{u"said"_s, *input.said}});
     auto next = found.begin();
     const auto writeSum = [&](const std::optional<preview::Sum> &sum) {
         if (sum)
@@ -119,7 +121,7 @@ void tell(const preview::Input &input, const QList<preview::Finding> &found)
         lines += programName() + u": "_s + inOneLine(input.note) + u'\n';
     for (const preview::Input::CheckError &error : input.errors)
         lines += lineOf(error.file, error.finding);
-    if (input.said && input.errors.isEmpty()) // else the checker has said it better
+    if (input.said)
         lines += inOneLine(input.path) + u": "_s + *input.said + u'\n';
     for (const preview::Finding &finding : found)
         lines += lineOf(input.path, input.isJob, finding);

@@ -204,6 +204,14 @@ private slots:
         QVERIFY2(run.standardError.contains("job.xml: " KORVEL_PRINT
                                             " says: File Format Not Supported\n"),
                  run.standardError.constData());
+
+        const Run json = shop.run(QStringList{"--json", "-q"} + arguments);
+        VERIFY_ENDED(json, 1);
+        QCOMPARE(linesOf(json.standardOutput),
+                 QStringList("{\"said\":\"" KORVEL_PRINT " says: File Format Not Supported\"}\\n"));
+        const Run checked = shop.run({"--json", "-q", "job.xml"});
+        VERIFY_ENDED(checked, 1);
+        QVERIFY2(!checked.standardOutput.contains("\"said\""), checked.standardOutput.constData());
     }
 
     void linesOfThePaper()

@@ -162,14 +162,17 @@ private slots:
     void schemaAllowsNothingElse_data()
     {
         QTest::addColumn<QJsonObject>("object");
-        const auto row = [](QJsonObject object) {
-            if (!object.contains("column"))
-                object.insert("offset", 7);
-            object.insert("line", 3);
+        const auto add = [](const QJsonObject &object) {
             const QString bytes = object.contains("bytes") ? " with its bytes" : "";
             QTest::newRow(
                 qPrintable(object.value("command").toString(object.keys().join(' ')) + bytes))
                 << object;
+        };
+        const auto row = [&](QJsonObject object) {
+            if (!object.contains("column"))
+                object.insert("offset", 7);
+            object.insert("line", 3);
+            add(object);
         };
 
         row({{"command", "line"}, {"spaces", 13}, {"text", "CASSA"}});
@@ -195,6 +198,7 @@ private slots:
         row({{"code", "too-wide"}, {"level", "warning"}, {"text", "x"}});
         row({{"sum", "-1.005"}, {"counted", 1}, {"uncounted", 0}, {"closed", false}});
         row({{"code", "limit"}, {"level", "error"}, {"text", "x"}, {"file", "x"}, {"column", 1}});
+        add({{"said", "x"}});
     }
 
     void schemaAllowsNothingElse()
