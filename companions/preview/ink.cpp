@@ -93,7 +93,7 @@ private:
     QList<QPointF> positions;
 };
 
-/// Black dots of one image onto another, which is as high at least below "top".
+/// Black dots of one image onto another, which has room for all rows of dots from that place on.
 void stamp(QImage &paper, const QImage &letter, QPoint at)
 {
     const int first = at.x() / 8;

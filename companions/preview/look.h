@@ -6,7 +6,7 @@
 
 namespace korvel::preview {
 
-/// What a picture is painted by. All measures are dots of a print head of 203 dpi.
+/// What a picture is painted by. All measures are dots, of which a metre has dotsPerMetre.
 struct Look
 {
     /**

@@ -47,7 +47,8 @@ public:
     /// Paints all of it, from the point (0, 0) on; what is beside the paper stays as it is.
     void paint(QPainter &painter) const;
 
-    /// At 203 dpi, with nothing around the paper but this colour. The paper must fit.
+    /// In the look's dots a metre, with nothing around the paper but this colour. The paper must
+    /// fit.
     [[nodiscard]] QImage toImage(const QColor &around = Qt::white) const;
 
     /// An SVG of the same size and colours: of texts, or of whole dots as an image. The paper must
