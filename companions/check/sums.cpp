@@ -88,7 +88,9 @@ public:
             addLost(tag);
             return;
         }
-        known &= !context.doubtful.contains(&tag);
+        // A figure that nothing reads may be a discount, wherever it stands.
+        const bool counts = isRow(tag) || tag.name.startsWith(element::total);
+        known &= !(counts ? context.doubtful : context.figureLost).contains(&tag);
         if (isRow(tag))
             addRow(tag);
         else if (tag.name == element::total)
