@@ -2,6 +2,7 @@
 #include "companions/check/mojibake.h"
 
 #include "companions/check/phrases.h"
+#include "companions/check/words.h"
 #include "companions/recode/codepage.h"
 
 #include <QByteArray>
@@ -145,11 +146,18 @@ Mojibake meantInDos(const QString &text)
 
 } // namespace
 
+char byteOf(QChar character)
+{
+    if (character.unicode() <= 0xFF)
+        return character.toLatin1();
+    const auto *const found =
+        std::find(std::begin(windows), std::end(windows), character.unicode());
+    return found == std::end(windows) ? '\0' : static_cast<char>(0x80 + (found - windows));
+}
+
 Mojibake beforeMojibake(const QString &text)
 {
-    const bool ascii =
-        std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
-    if (ascii)
+    if (isAscii(text))
         return {};
     QString meant = meantOnce(text);
     if (meant == text)

@@ -93,7 +93,7 @@ QString meantNumber(const QString &value)
 
 QString asSeen(const QString &latin1)
 {
-    if (std::all_of(latin1.begin(), latin1.end(), [](QChar c) { return c.unicode() < 0x80; }))
+    if (isAscii(latin1))
         return latin1;
     QString text;
     for (const uint character : decoded(latin1).toUcs4()) {
