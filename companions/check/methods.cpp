@@ -166,6 +166,13 @@ Naming namingOf(const Context &context, const Tag &tag)
     return {};
 }
 
+/// Whether an element is called almost like the method, whatever its prefix.
+bool isLikeMethod(const Tag &tag)
+{
+    const QString name = tag.name.mid(tag.name.indexOf(u':') + 1);
+    return !shared::nearest(name, {element::method}).isEmpty();
+}
+
 /// What stands for the method of a job that has none: an element of almost that name, or one with
 /// the name of a document in it.
 Selection standIn(const Context &context, const Tag &tag)
@@ -175,10 +182,8 @@ Selection standIn(const Context &context, const Tag &tag)
         said = namingOf(context, tag).method;
     for (const JobAttribute &candidate : tag.attributes)
         said = said ? said : vocabulary::findMethod(candidate.value);
-    const bool like =
-        !shared::nearest(tag.name.mid(tag.name.indexOf(u':') + 1), {element::method}).isEmpty();
     const bool alone = !tag.holdsOthers || context.spelledOut.contains(&tag);
-    return {said, said, said || (like && alone)};
+    return {said, said, said || (isLikeMethod(tag) && alone)};
 }
 
 /// The method that a name may stand for.
@@ -251,7 +256,7 @@ bool checkMethod(Context &context, const Tag &tag)
     const JobAttribute *name = tag.find(attribute::name);
     if (tag.name != element::method) {
         context.note(tag.place, Code::NoMethod,
-                     selection.said && shared::nearest(tag.name, {element::method}).isEmpty()
+                     selection.said && !isLikeMethod(tag)
                          ? filled(phrase::writeMethodFirst, selection.said->name)
                          : filled(phrase::misspeltMethod, tag.name));
         context.method = selection.read;
