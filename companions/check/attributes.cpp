@@ -154,7 +154,6 @@ void noteLost(Context &context, const Tag &tag, const QList<const JobAttribute *
 {
     if (figures.isEmpty())
         return;
-    constexpr qsizetype mostNames = 12; // that a finding shows
     QStringList names;
     for (const JobAttribute *figure : figures.first(std::min(mostNames, figures.size())))
         names.append(figure->name);

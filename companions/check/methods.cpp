@@ -63,13 +63,6 @@ Fit fitOf(const Part &own, Document document)
     return fit;
 }
 
-/// Whether an element stands among the parts' that most documents share.
-bool isSharedName(const QString &name)
-{
-    const Element *inKitchen = vocabulary::findElement(name, vocabulary::KitchenOrder);
-    return inKitchen && vocabulary::isShared(*inKitchen);
-}
-
 bool printsTotal(Document document)
 {
     return std::any_of(vocabulary::elements().begin(), vocabulary::elements().end(),
@@ -99,7 +92,7 @@ const Method *betterFor(const Part &part, const Method &selected)
 {
     Part own;
     std::copy_if(part.begin(), part.end(), std::back_inserter(own), [](const Tag *tag) {
-        return vocabulary::isElement(tag->name) && !isSharedName(tag->name);
+        return vocabulary::isElement(tag->name) && !vocabulary::isSharedName(tag->name);
     });
     const Documents spoken = spokenOf(part);
     const Fit here = fitOf(own, selected.document);

@@ -130,7 +130,7 @@ void SettingsFile::checkFirstGroup(bool hasTop)
     if (name == top)
         return;
     const bool isNameless = name == QLatin1StringView(namelessGroup);
-    const bool isMeant = isNameless || isNear(name, {top});
+    const bool isMeant = isNameless || isTop(name);
     const QString question = isMeant ? orName(top) : QString();
     const QString text = isNameless
                              ? filled(phrase::namelessFirstGroup, question)

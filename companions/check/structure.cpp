@@ -74,10 +74,8 @@ void checkIgnored(Context &context, const Tag &tag, bool isRoot)
         noteContents(context, tag);
         return;
     }
-    const bool isFault =
-        std::any_of(context.job.faults.begin(), context.job.faults.end(), [&](const Fault &fault) {
-            return fault.place.line == tag.place.line && fault.place.column == tag.place.column;
-        });
+    const bool isFault = std::any_of(context.job.faults.begin(), context.job.faults.end(),
+                                     [&](const Fault &fault) { return fault.place == tag.place; });
     context.lost.insert(&tag);
     if (isFault)
         return; // a tag that is never closed may be meant to close another one
