@@ -109,7 +109,7 @@ bool hasControl(const JobAttribute &attribute);
 /// The characters of a text that is printed or registered: those that are control characters, that
 /// came of a wrong encoding, or that the printer's code page lacks.
 ///
-/// @param bearer words for what has a control character
+/// @param bearer words for the text, with which a finding on its characters begins
 void checkCharacters(Context &context, const JobAttribute &attribute, const QString &bearer);
 
 // texts.cpp

@@ -104,7 +104,7 @@ void checkElement(Context &context, const Tag &tag, const Element &element)
 /// False when the job ends at this tag.
 bool checkTag(Context &context, const Tag &tag, bool isRoot)
 {
-    if (tag.name == element::method || context.selections.contains(&tag))
+    if (context.selections.contains(&tag))
         return checkMethod(context, tag);
     if (context.method && standsForAttribute(context, tag))
         return true;
@@ -138,6 +138,7 @@ QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings,
         context.note({}, Code::NoMethod, phrase::beginWithMethod);
     }
     checkSums(context);
+    // The engine lays out what the job says, which need not be the document that is meant.
     const bool asSaid =
         std::all_of(context.selections.begin(), context.selections.end(),
                     [](const Selection &selection) { return selection.said == selection.read; });
