@@ -49,7 +49,7 @@ AmountText amountIn(const QString &value)
     return result;
 }
 
-/// Whether a text has anything of a number: "2 x", "½", "IV".
+/// Whether a text has anything of a number: "2 x", "½".
 bool hasDigit(const QString &text)
 {
     return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isNumber(); });
@@ -99,9 +99,7 @@ bool isFigure(const Tag &tag, const JobAttribute &attribute)
 {
     if (!hasDigit(attribute.value))
         return false;
-    const vocabulary::Element *inKitchen =
-        vocabulary::findElement(tag.name, vocabulary::KitchenOrder);
-    const bool shared = inKitchen && vocabulary::isShared(*inKitchen);
+    const bool shared = vocabulary::isSharedName(tag.name);
     const bool named = std::any_of(vocabulary::attributes().begin(), vocabulary::attributes().end(),
                                    [&](const vocabulary::Attribute &row) {
                                        return vocabulary::isFigure(row)

@@ -154,11 +154,11 @@ void noteLost(Context &context, const Tag &tag, const QList<const JobAttribute *
 {
     if (figures.isEmpty())
         return;
-    constexpr qsizetype mostNames = 12; // that a finding shows
     QStringList names;
     for (const JobAttribute *figure : figures.first(std::min(mostNames, figures.size())))
         names.append(figure->name);
     const bool one = figures.size() == 1;
+    context.figureLost.insert(&tag);
     context.note(figures.constFirst()->place, Code::LostFigure, quoted(names), tag.name,
                  context.method->title, one ? phrase::figureLost : phrase::figuresLost,
                  one ? orNearest(names.constFirst(), unused) : QString());
@@ -201,7 +201,7 @@ void noteUnread(Context &context, const Tag &tag, const Element &element,
 bool isOfFigures(const Finding &finding)
 {
     return finding.code >= Code::LostFigure && finding.code <= Code::FiscalDepartment
-           && finding.code != Code::DecimalComma;
+           && finding.code != Code::MissingText && finding.code != Code::DecimalComma;
 }
 
 /// The cancelled documents: their count and total by name, then three attributes for each, by

@@ -43,7 +43,7 @@ QString joined(QStringList paths)
         paths.resize(most);
         paths.append(u"..."_s);
     }
-    return shared::inOneLine(paths.join(", "_L1), u' ');
+    return shared::inOneLine(asSeen(paths.join(", "_L1)), u' ');
 }
 
 /// Why no catalogue is loaded; empty when one is, or when the folder has those of other locales.
@@ -57,16 +57,15 @@ QString whyUntranslated(const QString &name, const QString &folder, const QStrin
         const QDir dir(korvel::path::forToolkit(folder.isEmpty() ? u"/"_s : folder));
         if (!dir.entryList({pattern}, QDir::Files).isEmpty())
             return {};
-        return filled(
-            phrase::notFound,
-            shared::inOneLine(folder + korvel::catalogue::beforeLocale + "*.qm"_L1, u' '));
+        return filled(phrase::notFound,
+                      joined({folder + korvel::catalogue::beforeLocale + "*.qm"_L1}));
     }
     const QStringList paths = completed(name);
     const auto found = std::find_if(paths.begin(), paths.end(), [](const QString &path) {
         return korvel::path::kindOf(path) == korvel::path::Kind::File;
     });
     if (found != paths.end())
-        return filled(phrase::notLoaded, quoted(*found));
+        return filled(phrase::notLoaded, quoted(asSeen(*found)));
     const bool lacksSlash = !folder.isEmpty() && !folder.endsWith(u'/') && !file.startsWith(u'/');
     return filled(phrase::notFound, joined(paths))
            + (lacksSlash ? QString(phrase::beginsWithSlash) : QString());
@@ -93,9 +92,8 @@ void checkCatalogue(const SettingsFile &settings, QList<Finding> &findings)
         return;
     const QString folder = settings.value(group::language, language::basedir);
     const QString why = whyUntranslated(catalogueOf(settings), folder, file);
-    const auto isAscii = [](QChar c) { return c.unicode() < 0x80; };
-    const bool isMisread = !std::all_of(why.begin(), why.end(), isAscii);
-    const QString words = asSeen(why) + (isMisread ? QString(phrase::beyondAscii) : QString());
+    const bool isMisread = !isAscii(folder) || !isAscii(file);
+    const QString words = why + (isMisread ? QString(phrase::beyondAscii) : QString());
     if (!why.isEmpty())
         findings.append({entry->place, Code::Catalogue, worded(Code::Catalogue, words),
                          entry->groups + QStringList(entry->key), entry->occurrence});

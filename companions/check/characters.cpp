@@ -87,11 +87,6 @@ bool noteOdd(Context &context, const JobAttribute &attribute, const QString &bea
     return odd != 0;
 }
 
-bool isAscii(const QString &text)
-{
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
-}
-
 } // namespace
 
 bool hasControl(const JobAttribute &attribute)
@@ -110,8 +105,7 @@ void checkCharacters(Context &context, const JobAttribute &attribute, const QStr
                      quoted(found.meant), found.readAs);
         return; // what else is odd about its characters comes of that
     }
-    const bool plain = isAscii(attribute.value) && !attribute.value.contains(u'&');
-    if (!plain && noteOdd(context, attribute, bearer))
+    if (noteOdd(context, attribute, bearer))
         return;
     if (hasControl(attribute))
         context.note(attribute.place, Code::ControlCharacter, bearer);

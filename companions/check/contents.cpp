@@ -34,7 +34,6 @@ bool standsForAttribute(const Context &context, const Tag &tag)
 
 void gatherContents(Context &context)
 {
-    constexpr qsizetype mostNames = 12; // that a finding shows
     for (const Tag &tag : context.job.tags) {
         if (tag.parent <= 0) // in the root stand elements
             continue;

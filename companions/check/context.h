@@ -40,9 +40,10 @@ struct Context
     QSet<const Tag *> forAttributes = {};           // all of them
     QHash<const Tag *, Selection> selections = {};  // by the elements that select
     QSet<const Tag *> lost = {}; // elements of which nothing is printed, though something should be
-    QSet<const Tag *> doubtful = {}; // elements of whose figures something is said
-    QChar decimalMark = {};          // of the first amount that has one
-    bool mixesMarks = false;         // once that is said
+    QSet<const Tag *> doubtful = {};   // elements of whose figures something is said
+    QSet<const Tag *> figureLost = {}; // elements with a figure that nothing reads
+    QChar decimalMark = {};            // of the first amount that has one
+    bool mixesMarks = false;           // once that is said
 
     /// Notes a finding that says the wording of its code with these words.
     template<typename... Words>
@@ -108,7 +109,7 @@ bool hasControl(const JobAttribute &attribute);
 /// The characters of a text that is printed or registered: those that are control characters, that
 /// came of a wrong encoding, or that the printer's code page lacks.
 ///
-/// @param bearer words for what has a control character
+/// @param bearer words for the text, with which a finding on its characters begins
 void checkCharacters(Context &context, const JobAttribute &attribute, const QString &bearer);
 
 // texts.cpp

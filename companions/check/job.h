@@ -16,6 +16,11 @@ struct Place
 {
     qsizetype line = 1;
     qsizetype column = 1;
+
+    friend bool operator==(const Place &a, const Place &b)
+    {
+        return a.line == b.line && a.column == b.column;
+    }
 };
 
 struct JobAttribute

@@ -241,8 +241,7 @@ bool isSaid(const Context &context, const WideLine &line)
     return std::any_of(context.findings.begin(), context.findings.end(), [&](const Finding &other) {
         return (other.code == Code::Mojibake || other.code == Code::EscapedTwice
                 || other.code == Code::Amount)
-               && other.place.line == line.finding.place.line
-               && other.place.column == line.finding.place.column;
+               && other.place == line.finding.place;
     });
 }
 

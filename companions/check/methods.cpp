@@ -63,13 +63,6 @@ Fit fitOf(const Part &own, Document document)
     return fit;
 }
 
-/// Whether an element stands among the parts' that most documents share.
-bool isSharedName(const QString &name)
-{
-    const Element *inKitchen = vocabulary::findElement(name, vocabulary::KitchenOrder);
-    return inKitchen && vocabulary::isShared(*inKitchen);
-}
-
 bool printsTotal(Document document)
 {
     return std::any_of(vocabulary::elements().begin(), vocabulary::elements().end(),
@@ -99,7 +92,7 @@ const Method *betterFor(const Part &part, const Method &selected)
 {
     Part own;
     std::copy_if(part.begin(), part.end(), std::back_inserter(own), [](const Tag *tag) {
-        return vocabulary::isElement(tag->name) && !isSharedName(tag->name);
+        return vocabulary::isElement(tag->name) && !vocabulary::isSharedName(tag->name);
     });
     const Documents spoken = spokenOf(part);
     const Fit here = fitOf(own, selected.document);
@@ -166,6 +159,13 @@ Naming namingOf(const Context &context, const Tag &tag)
     return {};
 }
 
+/// Whether an element is called almost like the method, whatever its prefix.
+bool isLikeMethod(const Tag &tag)
+{
+    const QString name = tag.name.mid(tag.name.indexOf(u':') + 1);
+    return !shared::nearest(name, {element::method}).isEmpty();
+}
+
 /// What stands for the method of a job that has none: an element of almost that name, or one with
 /// the name of a document in it.
 Selection standIn(const Context &context, const Tag &tag)
@@ -175,10 +175,8 @@ Selection standIn(const Context &context, const Tag &tag)
         said = namingOf(context, tag).method;
     for (const JobAttribute &candidate : tag.attributes)
         said = said ? said : vocabulary::findMethod(candidate.value);
-    const bool like =
-        !shared::nearest(tag.name.mid(tag.name.indexOf(u':') + 1), {element::method}).isEmpty();
     const bool alone = !tag.holdsOthers || context.spelledOut.contains(&tag);
-    return {said, said, said || (like && alone)};
+    return {said, said, said || (isLikeMethod(tag) && alone)};
 }
 
 /// The method that a name may stand for.
@@ -251,7 +249,7 @@ bool checkMethod(Context &context, const Tag &tag)
     const JobAttribute *name = tag.find(attribute::name);
     if (tag.name != element::method) {
         context.note(tag.place, Code::NoMethod,
-                     selection.said && shared::nearest(tag.name, {element::method}).isEmpty()
+                     selection.said && !isLikeMethod(tag)
                          ? filled(phrase::writeMethodFirst, selection.said->name)
                          : filled(phrase::misspeltMethod, tag.name));
         context.method = selection.read;

@@ -2,14 +2,17 @@
 #include "companions/check/mojibake.h"
 
 #include "companions/check/phrases.h"
+#include "companions/check/words.h"
 #include "companions/recode/codepage.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -24,16 +27,6 @@ constexpr char16_t windows[] = {
     u'€', 0,    u'‚', u'ƒ', u'„', u'…', u'†', u'‡', u'ˆ', u'‰', u'Š', u'‹', u'Œ', 0, u'Ž', 0,
     0,    u'‘', u'’', u'“', u'”', u'•', u'–', u'—', u'˜', u'™', u'š', u'›', u'œ', 0, u'ž', u'Ÿ',
 };
-
-/// The byte that a character was read from; 0 for one that was read from none.
-char byteOf(QChar character)
-{
-    if (character.unicode() <= 0xFF)
-        return character.toLatin1();
-    const auto *const found =
-        std::find(std::begin(windows), std::end(windows), character.unicode());
-    return found == std::end(windows) ? '\0' : static_cast<char>(0x80 + (found - windows));
-}
 
 /// Whether a byte goes on with a character of UTF-8.
 bool goesOn(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
@@ -145,11 +138,18 @@ Mojibake meantInDos(const QString &text)
 
 } // namespace
 
+char byteOf(QChar character)
+{
+    if (character.unicode() <= 0xFF)
+        return character.toLatin1();
+    const auto *const found =
+        std::find(std::begin(windows), std::end(windows), character.unicode());
+    return found == std::end(windows) ? '\0' : static_cast<char>(0x80 + (found - windows));
+}
+
 Mojibake beforeMojibake(const QString &text)
 {
-    const bool ascii =
-        std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
-    if (ascii)
+    if (isAscii(text))
         return {};
     QString meant = meantOnce(text);
     if (meant == text)

@@ -5,6 +5,9 @@
 
 namespace korvel::check {
 
+/// The byte of Windows-1252 that a character was read from; 0 for one that was read from none.
+char byteOf(QChar character);
+
 /// A text that was read in another encoding than it was written in.
 struct Mojibake
 {

@@ -116,7 +116,7 @@ void Proofreader::readGroup(const Name &name)
         change(behind, meant - behind, {});
     }
     // The renderer passes over other text before it.
-    const qint64 mark = isAt(meant, '{') ? meant : scan.nextOf(":={};", meant);
+    const qint64 mark = scan.nextOf(":={};", meant);
     if (isAt(mark, '{')) {
         if (name.text.isEmpty())
             change(name.mark, 0, namelessGroup);

@@ -11,7 +11,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::check {
 
-bool isTop(const QString &name) { return isNear(name, {vocabulary::group::korvel}); }
+namespace {
+
+constexpr auto wordForBrace = "end"_L1;
+
+} // namespace
+
 bool isGroup(const QString &name) { return isNear(name, vocabulary::groupNames()); }
 
 bool isSetting(const QString &name)
@@ -69,7 +74,7 @@ void Proofreader::note(Code code, qint64 offset, const QString &text, const QStr
     notation.slips.append({code, offset, text, setting});
 }
 
-/// @param name of a setting for an = or a ;, else of a group
+/// @param name of a setting for an =, else of a group
 void Proofreader::noteOtherMark(qint64 offset, const QString &mark, char meant, const QString &name)
 {
     const QString path = shownPathOf(name);
@@ -138,10 +143,9 @@ Proofreader::Name Proofreader::nextName() const
 /// Whether the word "end", alone in its line, ends there.
 bool Proofreader::endsWordForBrace(qint64 at) const
 {
-    constexpr qint64 toBegin = 2;
-    if (!scan.isOneOf("dD", at) || at < toBegin || groups.size() < 2
-        || !scan.beginsLine(at - toBegin)
-        || latin1(at - toBegin, at + 1).compare("end"_L1, Qt::CaseInsensitive) != 0)
+    const qint64 begin = at + 1 - wordForBrace.size();
+    if (!scan.isOneOf("dD", at) || begin < 0 || groups.size() < 2 || !scan.beginsLine(begin)
+        || latin1(begin, at + 1).compare(wordForBrace, Qt::CaseInsensitive) != 0)
         return false;
     const qint64 next = scan.behindSpace(at + 1);
     return scan.endsLine(at + 1) || (isAt(next, ';') && scan.endsLine(next + 1));
@@ -160,7 +164,7 @@ bool Proofreader::closesGroup(qint64 at) const
 
 void Proofreader::readStatement(const Name &name)
 {
-    switch (const char mark = bytes[name.mark]; mark) {
+    switch (bytes[name.mark]) {
     case ':':
         readColon(name);
         break;
@@ -195,14 +199,15 @@ void Proofreader::readStatement(const Name &name)
 /// A } or what stands for it.
 void Proofreader::readClosing(const Name &name)
 {
-    const qint64 begin = endsWordForBrace(name.mark) ? name.mark - 2 : name.mark;
-    const QString mark = latin1(begin, name.mark + 1);
+    const qint64 end = name.mark + 1;
+    const qint64 begin = end - (endsWordForBrace(name.mark) ? wordForBrace.size() : 1);
+    const QString mark = latin1(begin, end);
     takeStrayOut(name, begin);
     if (mark != '}'_L1) {
         if (mark != QChar::fromLatin1(groups.back().closing))
             note(Code::Unterminated, begin,
                  filled(phrase::otherMark, mark, u"}", filled(phrase::theGroup, innermost())));
-        change(begin, name.mark + 1 - begin, "}");
+        change(begin, end - begin, "}");
     }
     close(name.mark);
 }

@@ -105,7 +105,6 @@ private:
 
 // Names, as they are meant: also one that is misspelt so that it can be told which.
 
-bool isTop(const QString &name);
 bool isGroup(const QString &name);
 bool isSetting(const QString &name);
 bool isKnown(const QString &name);

@@ -1,10 +1,11 @@
 // The settings of a settings file: marks around a value that are missing or other ones.
 #include "companions/check/proofreader.h"
 
+#include "companions/check/mojibake.h"
 #include "companions/check/settingwords.h"
+#include "companions/check/words.h"
 
 #include <algorithm>
-#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -12,57 +13,41 @@ namespace korvel::check {
 
 namespace {
 
+/// A quote of another kind, as it is written at one end of a value.
 struct Quote
 {
-    QByteArrayView bytes;
-    const char *shown;
+    QChar mark;
+    QByteArray bytes; // in UTF-8, or in Windows-1252, where it must not be a byte of UTF-8
 };
 
-// In UTF-8, then in Windows-1252, where they must not be bytes of UTF-8.
-constexpr Quote quoteMarks[] = {
-    {"\xE2\x80\x9C", "\u201C"},
-    {"\xE2\x80\x9D", "\u201D"},
-    {"\xE2\x80\x9E", "\u201E"},
-    {"\xE2\x80\x9F", "\u201F"},
-    {"\xE2\x80\x98", "\u2018"},
-    {"\xE2\x80\x99", "\u2019"},
-    {"\xE2\x80\x9A", "\u201A"},
-    {"\xE2\x80\xB2", "\u2032"},
-    {"\xE2\x80\xB3", "\u2033"},
-    {"\xC2\xAB", "\u00AB"},
-    {"\xC2\xBB", "\u00BB"},
-    {"'", "'"},
-    {"`", "`"},
-    {"\x93", "\u201C"},
-    {"\x94", "\u201D"},
-    {"\x84", "\u201E"},
-    {"\x91", "\u2018"},
-    {"\x92", "\u2019"},
-    {"\x82", "\u201A"},
-    {"\xAB", "\u00AB"},
-    {"\xBB", "\u00BB"},
-};
+const QList<Quote> &quotesAsWritten()
+{
+    static const QList<Quote> quotes = [] {
+        QList<Quote> all = {{u'\'', "'"}, {u'`', "`"}};
+        for (const QChar mark : otherQuotes) {
+            all.append({mark, QString(mark).toUtf8()});
+            if (const char byte = byteOf(mark); byte != 0)
+                all.append({mark, QByteArray(1, byte)});
+        }
+        return all;
+    }();
+    return quotes;
+}
 
 bool isBeyondAscii(char c) { return static_cast<unsigned char>(c) >= 0x80U; }
 
-/// The quote of another kind that a text begins with; null when it begins with none.
-const Quote *quoteAtBegin(QByteArrayView text)
-{
-    for (const Quote &quote : quoteMarks) {
-        const bool isAlone = quote.bytes.size() > 1 || text.size() < 2 || !isBeyondAscii(text[1]);
-        if (text.startsWith(quote.bytes) && isAlone)
-            return &quote;
-    }
-    return nullptr;
-}
+enum class End { Front, Back };
 
-/// Likewise, that it ends with.
-const Quote *quoteAtEnd(QByteArrayView text)
+/// The quote of another kind that a text has at that end; null when it has none.
+const Quote *quoteAt(End end, QByteArrayView text)
 {
-    for (const Quote &quote : quoteMarks) {
-        const bool isAlone =
-            quote.bytes.size() > 1 || text.size() < 2 || !isBeyondAscii(text[text.size() - 2]);
-        if (text.endsWith(quote.bytes) && isAlone)
+    for (const Quote &quote : quotesAsWritten()) {
+        const bool isThere =
+            end == End::Front ? text.startsWith(quote.bytes) : text.endsWith(quote.bytes);
+        if (!isThere)
+            continue;
+        const char next = text.size() < 2 ? ' ' : text[end == End::Front ? 1 : text.size() - 2];
+        if (quote.bytes.size() > 1 || !isBeyondAscii(quote.bytes[0]) || !isBeyondAscii(next))
             return &quote;
     }
     return nullptr;
@@ -193,14 +178,13 @@ void Proofreader::mendQuotes(const Name &name, qint64 begin, qint64 end, bool is
     if (begin >= end)
         return;
     const auto text = QByteArrayView(bytes).sliced(begin, end - begin);
-    const Quote *first = quoteAtBegin(text);
-    const Quote *last = quoteAtEnd(text);
+    const Quote *first = quoteAt(End::Front, text);
+    const Quote *last = quoteAt(End::Back, text);
     if (!first && !last)
         return;
     if (!isSaid)
         note(Code::Unterminated, name.begin,
-             filled(phrase::otherQuote, QString::fromUtf8((first ? first : last)->shown),
-                    shownPathOf(name.text)),
+             filled(phrase::otherQuote, (first ? first : last)->mark, shownPathOf(name.text)),
              pathOf(name.text));
     if (first)
         change(begin, first->bytes.size(), "\"");

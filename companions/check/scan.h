@@ -42,6 +42,8 @@ public:
     /// The next of such a byte, or the end of the file.
     [[nodiscard]] qint64 next(char c, qint64 from) const;
 
+    /// Whether a comment of any language begins there.
+    [[nodiscard]] bool beginsComment(qint64 at) const;
     /// Behind the comment of any language that begins there; the same place when there is none. Of
     /// one that takes out the head of a group alone, behind its mark.
     [[nodiscard]] qint64 behindComment(qint64 at) const;
@@ -59,7 +61,6 @@ public:
 private:
     [[nodiscard]] qint64 behind(const char *mark, qint64 from) const;
     [[nodiscard]] qint64 behindLineComment(qint64 at, qint64 text) const;
-    [[nodiscard]] bool beginsComment(qint64 at) const;
     [[nodiscard]] bool isBehindSemicolon(qint64 at) const;
 
     const QByteArray &bytes;

@@ -66,10 +66,6 @@ QString meantBy(const SettingsFile::Entry &entry)
     const korvel::vocabulary::Setting *setting = korvel::vocabulary::findSetting(entry.meant);
     if (!setting)
         return entry.value;
-    bool isNumber = false;
-    (void)entry.value.toInt(&isNumber);
-    if (isNumber && setting->kind == korvel::vocabulary::Kind::Number)
-        return entry.value;
     const QString meant = meantValue(setting->kind, entry.value);
     return meant.isEmpty() ? entry.value : meant;
 }
@@ -130,7 +126,7 @@ void SettingsFile::checkFirstGroup(bool hasTop)
     if (name == top)
         return;
     const bool isNameless = name == QLatin1StringView(namelessGroup);
-    const bool isMeant = isNameless || isNear(name, {top});
+    const bool isMeant = isNameless || isTop(name);
     const QString question = isMeant ? orName(top) : QString();
     const QString text = isNameless
                              ? filled(phrase::namelessFirstGroup, question)

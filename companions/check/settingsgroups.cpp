@@ -97,7 +97,7 @@ void SettingsGroups::judge(qsizetype at)
 void SettingsGroups::judgeTop(qsizetype at)
 {
     const QString &name = groups[at].path.constLast();
-    const bool isMeant = at == 0 || isNear(name, {vocabulary::group::korvel});
+    const bool isMeant = at == 0 || isTop(name);
     groups[at].role = isMeant ? Role::Groups : Role::Nothing;
     if (!isMeant)
         noteUnread(at, phrase::otherTopGroup);

@@ -1,8 +1,10 @@
 // Names and values brought back to those that documents read.
 #include "companions/check/settingwords.h"
 
+#include "companions/check/scan.h"
 #include "companions/check/words.h"
 #include "companions/shared/nearest.h"
+#include "companions/shared/oneline.h"
 
 #include <QRegularExpression>
 
@@ -14,18 +16,10 @@ namespace korvel::check {
 
 namespace {
 
-/// Whether a character takes no room on the screen, or that of a blank without being one.
+/// Whether a character beyond ASCII takes no room on the screen, or that of a blank.
 bool isHidden(uint character)
 {
-    switch (QChar::category(character)) {
-    case QChar::Other_Format:
-    case QChar::Separator_Space:
-        return character != u' ';
-    case QChar::Other_Control:
-        return character >= 0x80;
-    default:
-        return false;
-    }
+    return character >= 0x80 && (QChar::isSpace(character) || !shared::isPrintable(character));
 }
 
 /// A text of Latin-1 bytes as UTF-8, if it can be that. Of a character at its end the store may
@@ -93,7 +87,7 @@ QString meantNumber(const QString &value)
 
 QString asSeen(const QString &latin1)
 {
-    if (std::all_of(latin1.begin(), latin1.end(), [](QChar c) { return c.unicode() < 0x80; }))
+    if (isAscii(latin1))
         return latin1;
     QString text;
     for (const uint character : decoded(latin1).toUcs4()) {
@@ -105,17 +99,18 @@ QString asSeen(const QString &latin1)
     return text;
 }
 
-bool isCommentedOut(QStringView name)
+bool isCommentedOut(const QString &name)
 {
-    constexpr QLatin1StringView marks[] = {"#"_L1, "//"_L1, "/*"_L1, ";"_L1, "--"_L1, "<!--"_L1};
-    return std::any_of(std::begin(marks), std::end(marks),
-                       [&](QLatin1StringView mark) { return name.startsWith(mark); });
+    const QByteArray bytes = name.toLatin1();
+    return Scan(bytes).beginsComment(0);
 }
 
 bool isNear(const QString &name, const QStringList &names)
 {
     return names.contains(name) || !shared::nearest(name, names).isEmpty();
 }
+
+bool isTop(const QString &name) { return isNear(name, {vocabulary::group::korvel}); }
 
 QString meantGroup(const QString &name)
 {

@@ -10,10 +10,13 @@ namespace korvel::check {
 QString asSeen(const QString &latin1);
 
 /// Whether a name begins like a comment of any language.
-bool isCommentedOut(QStringView name);
+bool isCommentedOut(const QString &name);
 
 /// Whether a name is one of these, or misspelt so that it can be told which.
 bool isNear(const QString &name, const QStringList &names);
+
+/// Whether a name is that of the outermost group, as it is meant.
+bool isTop(const QString &name);
 
 /// The group of a document, or "language", that the name of a group stands for; empty for none.
 QString meantGroup(const QString &name);

@@ -74,10 +74,8 @@ void checkIgnored(Context &context, const Tag &tag, bool isRoot)
         noteContents(context, tag);
         return;
     }
-    const bool isFault =
-        std::any_of(context.job.faults.begin(), context.job.faults.end(), [&](const Fault &fault) {
-            return fault.place.line == tag.place.line && fault.place.column == tag.place.column;
-        });
+    const bool isFault = std::any_of(context.job.faults.begin(), context.job.faults.end(),
+                                     [&](const Fault &fault) { return fault.place == tag.place; });
     context.lost.insert(&tag);
     if (isFault)
         return; // a tag that is never closed may be meant to close another one
@@ -106,7 +104,7 @@ void checkElement(Context &context, const Tag &tag, const Element &element)
 /// False when the job ends at this tag.
 bool checkTag(Context &context, const Tag &tag, bool isRoot)
 {
-    if (tag.name == element::method || context.selections.contains(&tag))
+    if (context.selections.contains(&tag))
         return checkMethod(context, tag);
     if (context.method && standsForAttribute(context, tag))
         return true;
@@ -140,6 +138,7 @@ QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings,
         context.note({}, Code::NoMethod, phrase::beginWithMethod);
     }
     checkSums(context);
+    // The engine lays out what the job says, which need not be the document that is meant.
     const bool asSaid =
         std::all_of(context.selections.begin(), context.selections.end(),
                     [](const Selection &selection) { return selection.said == selection.read; });

@@ -88,7 +88,9 @@ public:
             addLost(tag);
             return;
         }
-        known &= !context.doubtful.contains(&tag);
+        // A figure that nothing reads may be a discount, wherever it stands.
+        const bool counts = isRow(tag) || tag.name.startsWith(element::total);
+        known &= !(counts ? context.doubtful : context.figureLost).contains(&tag);
         if (isRow(tag))
             addRow(tag);
         else if (tag.name == element::total)
@@ -275,28 +277,28 @@ private:
 
 void checkSums(Context &context)
 {
-    // Where a job selects several documents, nobody knows which row is of which.
-    const bool several = context.selections.size() > 1;
     std::optional<Rows> document;
     const Tag *method = nullptr;
-    QList<const Tag *> lost; // in front of the method
+    QList<const Tag *> lost; // in front of the first method
     for (const Tag &tag : context.job.tags) {
         const vocabulary::Method *read = context.selections.value(&tag).read;
         if (!read && context.selections.contains(&tag))
             return; // the job ends here
-        if (document)
+        if (read) {
+            context.method = read;
+            method = &tag;
+            document.emplace(context);
+            for (const Tag *other : std::exchange(lost, {}))
+                document->add(*other);
+        } else if (document) {
             document->add(tag);
-        else if (context.lost.contains(&tag))
+        } else if (context.lost.contains(&tag)) {
             lost.append(&tag);
-        if (!read || document)
-            continue;
-        context.method = read;
-        method = &tag;
-        document.emplace(context);
-        for (const Tag *other : std::exchange(lost, {}))
-            document->add(*other);
+        }
     }
-    if (document && !several && context.job.faults.isEmpty()) // else the rest is not known
+    // Where a job selects several documents, nobody knows which row is of which.
+    const bool isOnly = context.selections.size() == 1;
+    if (document && isOnly && context.job.faults.isEmpty()) // else the rest is not known
         document->close(*method);
 }
 

@@ -56,6 +56,12 @@ bool isElement(QAnyStringView name)
 
 bool isShared(const Element &row) { return row.documents == shared; }
 
+bool isSharedName(QAnyStringView name)
+{
+    return find(elements(), [&](const Element &row) { return row.name == name && isShared(row); })
+           != nullptr;
+}
+
 bool isOptional(const Attribute &row)
 {
     return !row.setting.isEmpty() || row.value == Value::Kept || row.value == Value::Unread

@@ -52,6 +52,9 @@ bool isElement(QAnyStringView name);
 /// Whether an element is one of those that all documents with text lines share.
 bool isShared(const Element &row);
 
+/// Whether an element of that name is.
+bool isSharedName(QAnyStringView name);
+
 /// Whether a job may do without an attribute: it has a switch, or no place of its own on the paper.
 /// What `printers` names is printed with `headers`, if there are any.
 bool isOptional(const Attribute &row);

@@ -6,9 +6,16 @@
 #include "companions/check/vocabulary.h"
 #include "companions/shared/nearest.h"
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::check {
+
+bool isAscii(QStringView text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+}
 
 QString quoted(const QStringList &names) { return u'"' + names.join("\", \""_L1) + u'"'; }
 

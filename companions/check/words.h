@@ -9,6 +9,15 @@ namespace korvel::check {
 
 using shared::quoted;
 
+/// Names that a finding shows at most.
+constexpr qsizetype mostNames = 12;
+
+/// Quotes that people write around a value, and that neither XML nor settings know.
+constexpr QStringView otherQuotes = u"“”„‟‘’‚′″«»";
+
+/// Whether a text has no character beyond ASCII.
+bool isAscii(QStringView text);
+
 /// Several names in quotes, parted by commas.
 QString quoted(const QStringList &names);
 

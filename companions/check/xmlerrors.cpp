@@ -2,6 +2,7 @@
 #include "companions/check/xmlerrors.h"
 
 #include "companions/check/entitynames.h"
+#include "companions/check/words.h"
 #include "companions/shared/oneline.h"
 
 #include <algorithm>
@@ -46,17 +47,16 @@ QString characterIn(QByteArrayView text)
     return u"U+"_s + QString::number(code, 16).toUpper().rightJustified(4, u'0');
 }
 
-/// The value that a text begins with, which has no quotes: up to a blank or the end of its tag.
-QString unquotedIn(QByteArrayView text)
+/// In quotes, the value that a text begins with, which has none: up to a blank or the end of its
+/// tag.
+QString valueIn(QByteArrayView text)
 {
-    constexpr qsizetype longest = 40;
     const auto end = std::find_if(text.begin(), text.end(),
                                   [](char c) { return isBlank(c) || c == '>' || c == '<'; });
     QByteArrayView value = text.first(end - text.begin());
     if (end != text.end() && *end == '>' && value.endsWith('/'))
         value.chop(1);
-    const QString shown = QString::fromUtf8(value);
-    return shown.size() > longest ? shown.first(longest - 1) + u'…' : shown;
+    return shared::quoted(QString::fromUtf8(value));
 }
 
 bool isForbidden(QByteArrayView text)
@@ -70,8 +70,8 @@ bool isForbidden(QByteArrayView text)
 bool beginsWithOtherQuote(QByteArrayView text)
 {
     const char32_t first = firstOf(text);
-    constexpr char32_t quotes[] = {U'‘', U'’', U'“', U'”', U'„', U'«', U'»'};
-    return std::find(std::begin(quotes), std::end(quotes), first) != std::end(quotes);
+    return std::any_of(otherQuotes.begin(), otherQuotes.end(),
+                       [&](QChar quote) { return quote.unicode() == first; });
 }
 
 /// How the character of a reference can be written: "è" or &#232;.
@@ -252,7 +252,7 @@ constexpr Wording wordings[] = {
      [](At at) { return at.isUnquoted() && beginsWithOtherQuote(at.behind); }, 0,
      "{character} is no quote to XML; write \" or '"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.isUnquoted(); }, 0,
-     "a value without quotes; write \"{value}\""_L1},
+     "a value without quotes; write {value}"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inTag && at.behind.startsWith('<'); }, toTag,
      "the tag that begins here has no \">\""_L1},
     {XML_ERROR_INVALID_TOKEN,
@@ -375,7 +375,7 @@ XmlFault faultIn(const QByteArray &document, XML_Error error, qsizetype offset, 
     words.replace("{written}"_L1, writtenFor(nameIn(at.behind)));
     words.replace("{name}"_L1, nameIn(at.behind));
     words.replace("{character}"_L1, characterIn(at.behind));
-    words.replace("{value}"_L1, unquotedIn(at.behind));
+    words.replace("{value}"_L1, valueIn(at.behind));
     if (open) {
         words.replace("{open}"_L1, open->name);
         words.replace("{line}"_L1, QString::number(open->place.line));

@@ -99,36 +99,38 @@ private slots:
         QTest::addColumn<QByteArray>("group");
         QTest::addColumn<QByteArray>("settings");
         QTest::addColumn<QStringList>("documents");
+        QTest::addColumn<QString>("blamed"); // a narrow paper, else the first of the widest columns
 
         // By the table of rows in docs/settings.md, W being 32 unless it is set.
         QTest::newRow("kitchen order: W - q - 3")
             << QByteArray("doc") << QByteArray("p = 99; t = 99; q = 28;")
-            << QStringList{"kitchen order"};
+            << QStringList{"kitchen order"} << QString("quantityFieldWidth");
         QTest::newRow("delivery note: W - q - 3")
-            << QByteArray("deliverydoc") << QByteArray("q = 28;") << QStringList{"delivery note"};
+            << QByteArray("deliverydoc") << QByteArray("q = 28;") << QStringList{"delivery note"}
+            << QString("quantityFieldWidth");
         QTest::newRow("full order: W - q - p - t - 1")
             << QByteArray("prefiscaldoc") << QByteArray("p = 9; t = 11; q = 10;")
-            << QStringList{"full order"};
+            << QStringList{"full order"} << QString("quantityFieldWidth");
         QTest::newRow("receipts: W - q - p - t - 3")
             << QByteArray("receiptdoc") << QByteArray("p = 9; t = 11; q = 8;")
-            << QStringList{"receipt", "summary receipt"};
+            << QStringList{"receipt", "summary receipt"} << QString("totalPriceFieldWidth");
         QTest::newRow("summary invoice: W - q - p - t - 3, the invoice has two more")
             << QByteArray("invoicedoc") << QByteArray("p = 9; t = 11; q = 8;")
-            << QStringList{"summary invoice"};
+            << QStringList{"summary invoice"} << QString("totalPriceFieldWidth");
         QTest::newRow("both invoices")
             << QByteArray("invoicedoc") << QByteArray("q = 0; p = 20; paperWidth = 22; t = 1;")
-            << QStringList();
+            << QStringList() << QString();
         QTest::newRow("sold items: W - q - p - t - 3")
             << QByteArray("solddoc") << QByteArray("p = 9; t = 11; q = 8;")
-            << QStringList{"sold items"};
+            << QStringList{"sold items"} << QString("totalPriceFieldWidth");
         QTest::newRow("statement: W - 15 - p - 3")
             << QByteArray("reportdoc") << QByteArray("q = 99; t = 99; p = 13;")
-            << QStringList{"statement of account"};
+            << QStringList{"statement of account"} << QString("priceFieldWidth");
         QTest::newRow("a narrow paper") << QByteArray("doc") << QByteArray("paperWidth = 7; q = 3;")
-                                        << QStringList{"kitchen order"};
+                                        << QStringList{"kitchen order"} << QString("paperWidth");
         QTest::newRow("a paper of 0 is the printer's")
             << QByteArray("doc") << QByteArray("paperWidth = 0; q = 28;")
-            << QStringList{"kitchen order"};
+            << QStringList{"kitchen order"} << QString("quantityFieldWidth");
     }
 
     void room()
@@ -136,6 +138,7 @@ private slots:
         QFETCH(QByteArray, group);
         QFETCH(QByteArray, settings);
         QFETCH(QStringList, documents);
+        QFETCH(QString, blamed);
         settings.replace("q =", "quantityFieldWidth =")
             .replace("p =", "priceFieldWidth =")
             .replace("t =", "totalPriceFieldWidth =");
@@ -154,13 +157,17 @@ private slots:
         // One more in the last column, which is the narrowest with room to lose.
         const qsizetype last = settings.lastIndexOf("= ") + 2;
         const int width = settings.mid(last).chopped(1).toInt();
-        const auto narrow = findingsOf(settings.first(last) + QByteArray::number(width + 1) + ';');
+        const QByteArray wider = settings.first(last) + QByteArray::number(width + 1) + ';';
+        const auto narrow = findingsOf(wider);
         QCOMPARE(narrow.size(), 1);
         QCOMPARE(infoOf(narrow[0].code).name, QLatin1String("columns"));
         QVERIFY2(narrow[0].text.startsWith("the columns of the " + documents.join(", ")
                                            + " leave no room for the description"),
                  qPrintable(narrow[0].text));
+        // Eight blanks stand before the settings, and columns count from 1.
+        const qsizetype column = 9 + (' ' + wider).indexOf(' ' + blamed.toLatin1() + " =");
         QCOMPARE(narrow[0].place.line, 5);
+        QCOMPARE(narrow[0].place.column, column);
     }
 };
 

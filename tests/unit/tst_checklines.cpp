@@ -145,11 +145,14 @@ private slots:
     {
         const Desk desk;
         writeFile(desk.path("shop.conf"),
-                  "korvel:\n{\n  a\x1B[1m:\n  {\n    b\x1B[2m = \"1\";\n  };\n};\n");
+                  "korvel:\n{\n  a\x1B[1m:\n  {\n    b\x1B[2m = \"1\";\n  };\n"
+                  "  doc:\n  {\n    b\x1B[2m = \"1\";\n  };\n};\n");
         const Run run = desk.run({"--settings", "shop.conf"});
         VERIFY_ENDED(run, 0);
         QCOMPARE(run.standardOutput,
                  "shop.conf:3:3: warning: nothing reads korvel.a [1m: no document has such a group "
+                 "[unread-key]\n"
+                 "shop.conf:9:5: warning: nothing reads korvel.doc.b [2m: there is no such setting "
                  "[unread-key]\n");
     }
 

@@ -87,6 +87,9 @@ private slots:
                 shared.append(row.name);
         QCOMPARE(shared, QStringList({"printers", "geometry", "headers", "logo", "company",
                                       "receipt", "invoice", "delivery", "orderinfo"}));
+        for (const Element &row : vocabulary::elements())
+            QCOMPARE(vocabulary::isSharedName(row.name), shared.contains(row.name));
+        QVERIFY(!vocabulary::isSharedName(u"Logo"));
     }
 
     void attributesAreFound()

@@ -81,6 +81,7 @@ private slots:
             "\",\" cannot stand behind a value; blanks alone part attributes");
         row("<job a^'1'/>", "a value without a \"=\" before it");
         row("<job a=^\u201c1\u201d/>", "\"\u201c\" is no quote to XML; write \" or '");
+        row("<job a=^\u201a1\u2018/>", "\"\u201a\" is no quote to XML; write \" or '");
         row("<job a=^1/>", "a value without quotes; write \"1\"");
         row("<job a=^\u00e8 b='1'>", "a value without quotes; write \"\u00e8\"");
         row("<job a=^1/2>", "a value without quotes; write \"1/2\"");
