@@ -18,8 +18,6 @@
 
 #include <cstdio>
 
-#include <unistd.h>
-
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
 namespace commands = korvel::commands;
@@ -39,13 +37,6 @@ const QCommandLineOption jsonOption(u"json"_s, u"Write a JSON object for each co
 const QCommandLineOption listOption(u"list"_s, u"Write a line for each command instead."_s);
 const QCommandLineOption quietOption({u"q"_s, u"quiet"_s},
                                      u"Do not say what is wrong; the exit status still does."_s);
-
-/// Whether standard output is a terminal that wants colours.
-bool wantsColours()
-{
-    return isatty(STDOUT_FILENO) == 1 && qEnvironmentVariableIsEmpty("NO_COLOR")
-           && qgetenv("TERM") != "dumb";
-}
 
 /// Writes the picture that the file's name asks for; the status to end with.
 int writePicture(const QString &path, const QList<preview::PaperRow> &rows, int columns, int status)
@@ -87,7 +78,7 @@ int write(const QCommandLineParser &parser, const QByteArray &stream, int column
         while (const auto command = decoder.next())
             out << listed(*command) + u'\n';
     } else {
-        const preview::Box box(columns, wantsColours());
+        const preview::Box box(columns, preview::wantsColours());
         out << box.top();
         preview::Roll roll(columns, [&](const preview::PaperRow &row) { out << box.line(row); });
         while (const auto command = decoder.next())

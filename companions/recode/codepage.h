@@ -73,6 +73,9 @@ private:
     QHash<char16_t, char> bytesOf;          // the first byte of each character beyond ASCII
 };
 
+/// What to say to who asked for a code page by a name that none has; one line.
+QString noCodePage(const QString &name);
+
 /**
  * A command stream in another code page: its texts change, its commands stay.
  *
