@@ -1,0 +1,53 @@
+// The printer: puts documents on its paper, keeps them, adds up.
+#pragma once
+
+#include "companions/recode/codepage.h"
+#include "companions/simulator/report.h"
+
+#include <optional>
+
+namespace korvel::simulator {
+
+/// No more rows of one document are shown than these.
+inline constexpr qint64 mostRows = 100'000;
+
+/// Takes documents one after the other.
+class Printer
+{
+public:
+    /**
+     * @param charset what the texts of documents are in; nothing: UTF-8
+     * @param folder  where each document goes as a file, behind those that are there; empty:
+     * nowhere
+     */
+    Printer(std::optional<recode::CodePage> charset, QString folder, Report &report);
+
+    /// Makes the folder, if it is not there; false, with its reason said, where documents cannot be
+    /// kept in it.
+    bool prepare();
+
+    /// Keeps a document, reports it and what is wrong with it.
+    void print(const Document &document, qint64 connection);
+
+    [[nodiscard]] const Day &day() const { return sums; }
+
+    /// Whether all documents could be kept; what could not is said on standard error.
+    [[nodiscard]] bool isSound() const { return sound; }
+
+private:
+    [[nodiscard]] bool isTable() const;
+    [[nodiscard]] QByteArray inUtf8(const Document &document) const;
+    [[nodiscard]] QList<preview::Finding> findingsOf(const Document &document,
+                                                     const QByteArray &stream) const;
+    void keep(const Print &print);
+    void keepFile(qint64 number, const QString &ending, const QByteArray &bytes);
+
+    const std::optional<recode::CodePage> charset;
+    const QString folder;
+    Report &report;
+    qint64 last = 0; // number of the last document
+    Day sums;
+    bool sound = true;
+};
+
+} // namespace korvel::simulator
