@@ -195,8 +195,8 @@ QString CodePage::decode(QByteArrayView bytes) const
 QString noCodePage(const QString &name)
 {
     return u"there is no code page \""_s + name
-           + u"\"; take UTF-8, or one that iconv knows of one byte a character, with ASCII below 128, "
-             "such as cp858"_s;
+           + u"\"; take UTF-8, or one that iconv knows of one byte a character, with ASCII "
+             "below 128, such as cp858"_s;
 }
 
 QByteArray recoded(QByteArrayView stream, const CodePage &from, const CodePage &to,
