@@ -66,12 +66,13 @@ needs no display.")
 korvel_package(tools korvel-tools
     SECTION utils
     RECOMMENDS fonts-dejavu-core korvel-print
-    SYNOPSIS "preview and checker for the print jobs of korvel-print"
+    SYNOPSIS "preview, checker and printer simulator for korvel-print"
     DESCRIPTION
 "korvel-preview shows what a command stream would put on the paper of a fiscal
 receipt printer, in the terminal or as a PNG or PDF, and says what is wrong
 with it. korvel-check says what is wrong with a print job or with the settings
-of a shop, before anything is printed.
+of a shop, before anything is printed. korvel-printer-sim takes streams like
+the printer, over the network or on a serial line, for tills and their tests.
 
 Schemas of print jobs, in RELAX NG and as an XSD, are included.")
 
