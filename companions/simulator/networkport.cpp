@@ -21,9 +21,6 @@ namespace {
 // Connections that are kept open although nothing more is read; then the oldest is closed.
 constexpr std::size_t mostKeptOpen = 100;
 
-// What the kernel takes for a reader that reads, bytes. Less than it can is no option for it.
-constexpr int roomyBuffer = 262'144;
-
 struct FreeAddresses
 {
     void operator()(addrinfo *first) const { freeaddrinfo(first); }

@@ -16,11 +16,10 @@ class Printer
 {
 public:
     /**
-     * @param charset what the texts of documents are in; nothing: UTF-8
-     * @param folder  where each document goes as a file, behind those that are there; empty:
-     * nowhere
+     * @param codePage    what the texts of documents are in; nothing: UTF-8
+     * @param paperFolder where documents are kept, behind those that are there; empty: nowhere
      */
-    Printer(std::optional<recode::CodePage> charset, QString folder, Report &report);
+    Printer(std::optional<recode::CodePage> codePage, QString paperFolder, Report &reported);
 
     /// Makes the folder, if it is not there; false, with its reason said, where documents cannot be
     /// kept in it.

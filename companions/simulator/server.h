@@ -24,18 +24,18 @@ struct Task
 class Server
 {
 public:
-    Server(Port &port, Printer &printer, Report &report, Task task);
+    Server(Port &openPort, Printer &thePrinter, Report &theReport, Task theTask);
     ~Server();
     Q_DISABLE_COPY_MOVE(Server)
 
-    /// @param port is open
+    /// Serves; the port is open.
     void run();
 
 private:
     enum class Wait { Ready, TimedOut, Ended };
     struct Visit;
 
-    Wait wait(int descriptor, short events, int milliseconds) const;
+    [[nodiscard]] Wait wait(int descriptor, short events, int milliseconds) const;
     std::optional<Connection> next();
     void serve(const Connection &connection);
     std::optional<Closing> receive(Visit &visit);
