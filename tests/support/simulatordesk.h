@@ -121,7 +121,7 @@ public:
     Q_DISABLE_COPY_MOVE(Sender)
 
     /// Hands bytes over, as far as they are taken within a moment; how many were.
-    qsizetype send(QByteArrayView bytes, int moment = simulatorPatience) const
+    qsizetype send(QByteArrayView bytes, int moment = simulatorPatience)
     {
         qsizetype taken = 0;
         pollfd polled{descriptor, POLLOUT, 0};
@@ -129,6 +129,7 @@ public:
             const ssize_t count =
                 ::send(descriptor, bytes.data() + taken,
                        static_cast<std::size_t>(bytes.size() - taken), MSG_NOSIGNAL | MSG_DONTWAIT);
+            wasReset = wasReset || (count < 0 && errno == ECONNRESET); // which is told only once
             if (count <= 0)
                 break;
             taken += count;
@@ -142,6 +143,8 @@ public:
     Met meets(int milliseconds = simulatorPatience) const
     {
         pollfd polled{descriptor, POLLIN, 0};
+        if (wasReset)
+            return Met::Reset;
         if (::poll(&polled, 1, milliseconds) != 1)
             return Met::Nothing;
         char byte = 0;
@@ -153,12 +156,15 @@ public:
 
     const int descriptor;
     int error = 0; // of connecting
+
+private:
+    bool wasReset = false;
 };
 
 /// Sends a stream as a till does, and waits for what the printer does then.
 inline Met deliver(quint16 port, QByteArrayView stream)
 {
-    const Sender sender(port);
+    Sender sender(port);
     sender.send(stream);
     sender.finish();
     return sender.meets();

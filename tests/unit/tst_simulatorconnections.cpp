@@ -14,7 +14,7 @@ private slots:
     void aDocumentAsItArrives()
     {
         Simulator simulator({anyPort});
-        const Sender sender(simulator.port());
+        Sender sender(simulator.port());
         for (const char byte : "=o\n=\"/(Ciao )\n=" + QByteArray("o"))
             QCOMPARE(sender.send(QByteArray(1, byte)), 1);
         sender.send("\n=o/*1\n");
@@ -121,7 +121,7 @@ private slots:
     {
         Simulator simulator({anyPort});
         {
-            const Sender sender(simulator.port());
+            Sender sender(simulator.port());
             sender.send(documentOf("a") + "=o\n=\"/(b");
             simulator.waitFor("document 1");
             const linger hard{1, 0};

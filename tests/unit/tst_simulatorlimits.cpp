@@ -16,7 +16,7 @@ void send(Simulator &simulator, const QByteArray &stream)
 {
     const quint16 port = simulator.port();
     const std::unique_ptr<QThread> till(QThread::create([&stream, port] {
-        const Sender sender(port);
+        Sender sender(port);
         sender.send(stream);
         sender.finish();
         sender.meets();

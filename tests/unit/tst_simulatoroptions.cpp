@@ -87,7 +87,7 @@ private slots:
     {
         Simulator first({anyPort});
         const QString place = first.place();
-        const Sender sender(first.port());
+        Sender sender(first.port());
         sender.send(documentOf("a"));
         first.waitFor("document 1");
         VERIFY_SIMULATED(first.end());
@@ -135,7 +135,7 @@ private slots:
     {
         QFETCH(int, signal);
         Simulator simulator({anyPort});
-        const Sender sender(simulator.port());
+        Sender sender(simulator.port());
         sender.send(fiscal("=R1/$120/*2/(COFFEE)\n") + "=o\n");
         simulator.waitFor("registered today");
         const Run run = simulator.end(signal);
@@ -173,7 +173,7 @@ private slots:
         Simulator simulator({anyPort, "--documents=2"});
         QCOMPARE(deliver(simulator.port(), "=o\ncut"), Met::End);
         QCOMPARE(deliver(simulator.port(), documentOf("a")), Met::End);
-        const Sender sender(simulator.port());
+        Sender sender(simulator.port());
         sender.send(documentOf("b") + documentOf("c"));
         if (closes)
             sender.finish();
