@@ -18,8 +18,6 @@
 #include <algorithm>
 #include <cstdio>
 
-#include <unistd.h>
-
 using korvel::recode::CodePage;
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
@@ -56,13 +54,6 @@ const QCommandLineOption schemaOption(u"schema"_s, u"Write the schema of the JSO
 const QCommandLineOption listOption(u"list"_s, u"Write a line for each command instead."_s);
 const QCommandLineOption quietOption({u"q"_s, u"quiet"_s},
                                      u"Do not say what is wrong; the exit status still does."_s);
-
-/// Whether standard output is a terminal that wants colours.
-bool wantsColours()
-{
-    return isatty(STDOUT_FILENO) == 1 && qEnvironmentVariableIsEmpty("NO_COLOR")
-           && qgetenv("TERM") != "dumb";
-}
 
 /// Writes each command, behind it what is wrong with it, and the sum of each fiscal section.
 void writeJson(Output &out, const preview::Input &input, const QList<preview::Finding> &found,
@@ -102,7 +93,7 @@ int write(const QCommandLineParser &parser, const preview::Input &input,
         while (const auto command = decoder.next())
             out << listed(*command) + u'\n';
     } else {
-        const preview::Box box(columns, wantsColours());
+        const preview::Box box(columns, preview::wantsColours());
         out << box.top();
         preview::Roll roll(columns, [&](const preview::PaperRow &row) { out << box.line(row); });
         while (const auto command = decoder.next())

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cwchar>
 
+#include <unistd.h>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::preview {
@@ -58,6 +60,12 @@ QLatin1StringView colourOf(Row kind)
 }
 
 } // namespace
+
+bool wantsColours()
+{
+    return isatty(STDOUT_FILENO) == 1 && qEnvironmentVariableIsEmpty("NO_COLOR")
+           && qgetenv("TERM") != "dumb";
+}
 
 Box::Box(int paperColumns, bool isColoured)
     : columns(paperColumns)

@@ -5,6 +5,10 @@
 
 namespace korvel::preview {
 
+/// Whether standard output is a terminal that wants colours: NO_COLOR is not set, or empty, and
+/// TERM is not "dumb".
+bool wantsColours();
+
 /**
  * The paper as a box of text, line by line; each ends in a line feed. What is wider than the paper
  * goes on behind its edge, which is then marked with "»"; what is not on the paper, but said by the
