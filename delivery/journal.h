@@ -15,11 +15,18 @@
 
 namespace korvel::delivery {
 
+namespace sqlite {
+class Database;
+}
+
 /// The journal cannot be opened, read or written; one line that says why and what to do.
 class JournalError : public std::runtime_error
 {
 public:
-    explicit JournalError(const QString &text) : std::runtime_error(text.toStdString()) { }
+    explicit JournalError(const QString &text)
+        : std::runtime_error(text.toStdString())
+    {
+    }
     [[nodiscard]] QString text() const { return QString::fromUtf8(what()); }
 };
 
@@ -117,8 +124,7 @@ public:
     QStringList documents(State state, const QString &device);
 
 private:
-    class Database;
-    std::unique_ptr<Database> database;
+    std::unique_ptr<sqlite::Database> database;
 };
 
 } // namespace korvel::delivery
