@@ -2,7 +2,7 @@
 #
 #   korvel_add_tests(room
 #       [LIBRARIES libraries...]         what the tests are of
-#       [PROGRAMS targets...]            programs that they run: KORVEL_PRINT is where korvel-print is
+#       [PROGRAMS targets...]            programs that they run, in KORVEL_PRINT and so on
 #       [TESTS names or files...]        unit/tst_<name>.cpp, or <folder>/tst_<name>.cpp
 #       [SLOW names or files...])        the same, of tests that take seconds
 #                                          builds one program, tst_<room>; each is a test of ctest

@@ -45,26 +45,6 @@ QByteArray hashOf(const QByteArray &bytes)
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
 }
 
-qint64 append(sqlite::Database &database, Record record)
-{
-    sqlite::Statement last(database,
-                           "SELECT number, hash FROM events ORDER BY number DESC LIMIT 1");
-    if (last.with().step()) {
-        record.number = last.number(0);
-        record.previous = last.bytes(1);
-    }
-    ++record.number;
-    record.time = textOf(QDateTime::currentDateTimeUtc());
-    record.hash = hashOf(record);
-    sqlite::Statement(database, "INSERT INTO events VALUES"
-                                " (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")
-        .with(record.number, record.time, record.document, record.name, record.device,
-              record.detail, record.job, record.settings, record.catalogue, record.rendered,
-              record.sent, record.charset, record.origin, record.previous, record.hash)
-        .run();
-    return record.number;
-}
-
 Event eventOf(const Record &record)
 {
     using korvel::path::fromBytes;
@@ -74,6 +54,14 @@ Event eventOf(const Record &record)
             fromBytes(record.name),
             fromBytes(record.device),
             fromBytes(record.detail),
+            record.job,
+            record.settings,
+            record.catalogue,
+            record.rendered,
+            record.sent,
+            fromBytes(record.charset),
+            fromBytes(record.origin),
+            record.previous,
             record.hash};
 }
 

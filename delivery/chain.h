@@ -8,6 +8,9 @@
 
 namespace korvel::delivery {
 
+/// The name of the event by which a document's contents are forgotten; all others are states.
+inline constexpr char forgottenName[] = "forgotten";
+
 /// An event as the file has it. Hashes are SHA-256 in lower-case hex, or empty where there is none.
 struct Record
 {
@@ -27,14 +30,6 @@ QByteArray hashOf(const Record &record);
 
 /// SHA-256 of bytes in lower-case hex.
 QByteArray hashOf(const QByteArray &bytes);
-
-/**
- * Appends an event to the chain: gives it the next number, the present time and its hashes. Needs a
- * transaction that writes.
- *
- * @return the number
- */
-qint64 append(sqlite::Database &database, Record record);
 
 /// The event as programs use it.
 Event eventOf(const Record &record);

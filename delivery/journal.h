@@ -50,8 +50,22 @@ struct Event
     QString name;      // of the state that it brought, or "forgotten"
     QString device;    // as the caller gave it; empty where the event has none
     QString detail;    // a line for people: why; never has control characters
-    QByteArray hash;   // of all above, the hashes of the contents, and the event before; in hex
+    QByteArray jobHash, settingsHash, catalogueHash, renderedHash, sentHash; // hex, or empty
+    QString charset;
+    QString origin;
+    QByteArray previous; // hash of the event before
+    QByteArray hash;     // of all above
 };
+
+/// An event of the chain.
+struct Head
+{
+    qint64 number = 0; // 0 of a journal without events
+    QByteArray hash;   // in hex
+};
+
+/// Tells how far a long work is: so many of so many.
+using Progress = std::function<void(qint64 done, qint64 all)>;
 
 /// A document, as its last event left it.
 struct Document
@@ -122,6 +136,50 @@ public:
 
     /// The ids of the documents in a state whose last event names a device.
     QStringList documents(State state, const QString &device);
+
+    /// All documents in the order of their first events, one after the other; others may write
+    /// meanwhile.
+    ///
+    /// @param state only those in it
+    /// @param since only those with an event at that time or later
+    void eachDocument(std::optional<State> state, const QDateTime &since,
+                      const std::function<void(const Document &)> &take,
+                      const Progress &progress = {});
+
+    /// All events at a time or later, in their order; others may write meanwhile.
+    void eachEvent(const QDateTime &since, const std::function<void(const Event &)> &take,
+                   const Progress &progress = {});
+
+    /// The events of a document.
+    QList<Event> events(const QString &id);
+
+    /// The last event of all.
+    Head head();
+
+    /**
+     * Looks for what was changed, taken out, moved or put in behind the journal's back: every event
+     * and its place in the chain, what is made of the events, and all contents. Others may write
+     * meanwhile.
+     *
+     * @param kept  an event that the chain must have
+     * @param found gets each flaw, in a line
+     * @return the last event of those that were looked at
+     */
+    Head verify(const std::optional<Head> &kept, const std::function<void(const QString &)> &found,
+                const Progress &progress = {});
+
+    /// What forget() did.
+    struct Forgotten
+    {
+        qint64 documents = 0; // whose contents went
+        qint64 kept = 0;      // that are old enough and not finished
+    };
+
+    /**
+     * Removes the contents of finished documents (sent, printed, refused) whose last event was
+     * before a time, but for contents that others have too; an event for each.
+     */
+    Forgotten forget(const QDateTime &before);
 
 private:
     std::unique_ptr<sqlite::Database> database;

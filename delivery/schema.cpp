@@ -20,9 +20,11 @@ constexpr qint64 applicationId = 0x4B72764A; // "KrvJ", by which a file is known
 
 // What brings a file from one schema to the next; the first makes it of an empty one.
 //
-// documents is made of events: which of these are a document's first, its last that brought a
-// state, the one with its contents, and the one by which these were forgotten (0: none). By it a
-// document is found, and those in a state are, in the logarithm of all.
+// documents and uses are made of events, so that a document is found, those in a state are, and
+// what nobody uses is, in the logarithm of all. documents has the number of a document's first
+// event, of that with its contents, of the last that brought a state, and of the last by which
+// contents were forgotten (0: none). uses has which event brought which contents, without those
+// that are forgotten.
 constexpr const char *steps[] = {
     R"(
     CREATE TABLE contents (
@@ -47,6 +49,7 @@ constexpr const char *steps[] = {
         hash TEXT NOT NULL
     ) STRICT;
     CREATE INDEX events_document ON events (document);
+    CREATE INDEX events_time ON events (time);
     CREATE TABLE documents (
         id TEXT NOT NULL PRIMARY KEY,
         state TEXT NOT NULL,
@@ -56,6 +59,11 @@ constexpr const char *steps[] = {
         forgotten INTEGER NOT NULL
     ) STRICT, WITHOUT ROWID;
     CREATE INDEX documents_state ON documents (state);
+    CREATE TABLE uses (
+        hash TEXT NOT NULL,
+        event INTEGER NOT NULL,
+        PRIMARY KEY (hash, event)
+    ) STRICT, WITHOUT ROWID;
     CREATE TRIGGER events_stay BEFORE DELETE ON events
         BEGIN SELECT raise(ABORT, 'events are never removed'); END;
     CREATE TRIGGER events_unchanged BEFORE UPDATE ON events

@@ -72,17 +72,19 @@ void Database::run(const QByteArray &sql)
         fail();
 }
 
+bool Database::inTransaction() const { return sqlite3_get_autocommit(handle()) == 0; }
+
 void Database::fail() const { fail(reasonOf(handle())); }
 
 void Database::fail(const QString &text) const { throw JournalError(file + u": "_s + text); }
 
 void Statement::Finalize::operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
 
-Statement::Statement(Database &of, const char *sql)
+Statement::Statement(Database &of, const QByteArray &sql)
     : database(of)
 {
     sqlite3_stmt *prepared = nullptr;
-    expect(sqlite3_prepare_v2(of.handle(), sql, -1, &prepared, nullptr));
+    expect(sqlite3_prepare_v2(of.handle(), sql.constData(), -1, &prepared, nullptr));
     statement.reset(prepared);
 }
 
@@ -142,7 +144,7 @@ Transaction::Transaction(Database &of, Kind kind)
 Transaction::~Transaction()
 {
     // An error may have undone it already, and what cannot be undone now the next one to open does.
-    if (sqlite3_get_autocommit(database.handle()) == 0)
+    if (database.inTransaction())
         sqlite3_exec(database.handle(), "ROLLBACK", nullptr, nullptr, nullptr);
 }
 

@@ -33,6 +33,7 @@ public:
     /// Throws a text, behind the file's name.
     [[noreturn]] void fail(const QString &text) const;
 
+    [[nodiscard]] bool inTransaction() const;
     [[nodiscard]] sqlite3 *handle() const { return database.get(); }
 
 private:
@@ -49,7 +50,7 @@ private:
 class Statement
 {
 public:
-    Statement(Database &database, const char *sql);
+    Statement(Database &database, const QByteArray &sql);
 
     /// Begins anew with these values in the place of the question marks.
     template<typename... Values>
@@ -65,6 +66,14 @@ public:
     bool step();
     /// Runs to the end.
     void run();
+    /// Whether there is a row with these values.
+    template<typename... Values>
+    bool has(const Values &...values)
+    {
+        const bool found = with(values...).step();
+        begin(); // gives the lock back
+        return found;
+    }
 
     /// What a column of the row holds, counted from 0.
     [[nodiscard]] qint64 number(int column) const;

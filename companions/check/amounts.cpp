@@ -1,5 +1,6 @@
 // Numbers of documents that print them as they are.
 #include "companions/check/context.h"
+#include "companions/check/synonyms.h"
 #include "companions/check/words.h"
 
 #include <QRegularExpression>
@@ -23,25 +24,43 @@ struct AmountText
     QString decimals;
 };
 
-/// Digits with one mark, behind the last three digits' groups; a currency sign or code beside them.
-/// No part of the pattern gives back what it took, or long values would be tried in every division.
+/// Digits with one mark, behind the last three digits' groups, whose mark is another one; a
+/// currency sign or code beside them. No part of the pattern gives back what it took, or long
+/// values would be tried in every division.
 AmountText amountIn(const QString &value)
 {
     static const QRegularExpression amount(
         uR"(^\s*+(?:\p{Sc}|[A-Z]{3})?+\s*+([+-]?+)\s*+(?:\p{Sc}\s*+)?+)"
-        uR"((\d++|(?=\.\d)|\d{1,3}(?:[.,'\x{2019}\x{a0}\x{202f} ]\d{3}(?!\d))++))"
-        uR"((?:([.,])(\d*+))?+\s*+(-?+)\s*+(?:\p{Sc}|[A-Z]{3})?+\s*+$)"_s);
+        uR"((\d++|(?=\.\d)|\d{1,3}([.,'\x{2019}\x{a0}\x{202f} ])\d{3}(?!\d)(?:\3\d{3}(?!\d))*+))"
+        uR"((?:(?!\3)([.,])(\d*+))?+\s*+(-?+)\s*+(?:\p{Sc}|[A-Z]{3})?+\s*+$)"_s);
     const auto match = amount.match(value);
     AmountText result;
     result.isNumber = match.hasMatch();
-    result.isNegative = match.captured(1) == "-"_L1 || match.captured(5) == "-"_L1;
-    result.digits = match.captured(2).remove(QRegularExpression(u"\\D"_s));
-    if (!match.captured(3).isEmpty())
-        result.mark = match.captured(3).front();
-    result.decimals = match.captured(4);
+    if (!result.isNumber)
+        return result;
+    result.isNegative = match.capturedView(1) == "-"_L1 || match.capturedView(6) == "-"_L1;
+    result.digits = match.captured(2);
+    result.digits.removeIf([](QChar c) { return !c.isDigit(); });
+    if (!match.capturedView(4).isEmpty())
+        result.mark = match.capturedView(4).front();
+    result.decimals = match.captured(5);
     const QString behind = result.decimals.mid(2);
     result.hasParts = std::any_of(behind.begin(), behind.end(), [](QChar c) { return c != u'0'; });
     return result;
+}
+
+/// Whether a text has anything of a number: "2 x", "½", "IV".
+bool hasDigit(const QString &text)
+{
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isNumber(); });
+}
+
+/// Whether an amount has decimals or a currency, which numbers of other things have not.
+bool hasMark(const QString &amount)
+{
+    return std::any_of(amount.begin(), amount.end(), [](QChar c) {
+        return c == u'.' || c == u',' || c.category() == QChar::Symbol_Currency;
+    });
 }
 
 } // namespace
@@ -74,6 +93,37 @@ void checkAmount(Context &context, const JobAttribute &attribute)
     if (context.mixesMarks)
         context.note(attribute.place, Code::DecimalComma, attribute.name, quoted(attribute.value),
                      context.decimalMark == u',' ? phrase::comma : phrase::point);
+}
+
+bool isFigure(const Tag &tag, const JobAttribute &attribute)
+{
+    if (!hasDigit(attribute.value))
+        return false;
+    const vocabulary::Element *inKitchen =
+        vocabulary::findElement(tag.name, vocabulary::KitchenOrder);
+    const bool shared = inKitchen && vocabulary::isShared(*inKitchen);
+    const bool named = std::any_of(vocabulary::attributes().begin(), vocabulary::attributes().end(),
+                                   [&](const vocabulary::Attribute &row) {
+                                       return vocabulary::isFigure(row)
+                                              && row.name == attribute.name
+                                              && (row.element == tag.name || !shared);
+                                   });
+    return named || (!shared && meansFigure(attribute.name))
+           || (hundredthsOf(attribute.value) && hasMark(attribute.value)
+               && !meansTime(attribute.name));
+}
+
+void checkQuantity(Context &context, const JobAttribute &attribute)
+{
+    if (!attribute.value.isEmpty() && !hasDigit(attribute.value))
+        context.note(attribute.place, Code::Amount, attribute.name, quoted(attribute.value));
+}
+
+void checkRate(Context &context, const Tag &tag, const JobAttribute &attribute)
+{
+    const JobAttribute *tax = tag.find(vocabulary::attribute::tax);
+    if (tax && hundredthsOf(tax->value).value_or(0) != 0)
+        checkQuantity(context, attribute);
 }
 
 void checkVariantQuantity(Context &context, const JobAttribute &attribute)

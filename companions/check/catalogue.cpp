@@ -1,7 +1,7 @@
 // The catalogue of labels that settings name: loaded as the renderer loads it.
 #include "companions/check/catalogue.h"
 
-#include "companions/check/vocabulary.h"
+#include "companions/check/settingwords.h"
 #include "companions/check/words.h"
 #include "companions/shared/oneline.h"
 #include "config/catalogue.h"
@@ -84,19 +84,20 @@ QString catalogueOf(const SettingsFile &settings)
 void checkCatalogue(const SettingsFile &settings, QList<Finding> &findings)
 {
     const QString file = settings.value(group::language, language::file);
-    const QStringList groups = {group::korvel, group::language};
-    const QList<SettingsFile::Entry> entries = settings.entries();
+    const QList<SettingsFile::Entry> &entries = settings.entries();
     const auto entry =
-        std::find_if(entries.begin(), entries.end(), [&](const SettingsFile::Entry &candidate) {
-            return candidate.searched && candidate.groups == groups
-                   && candidate.key == language::file && !candidate.value.isEmpty();
+        std::find_if(entries.begin(), entries.end(), [](const SettingsFile::Entry &candidate) {
+            return candidate.meant == language::file && !candidate.value.isEmpty();
         });
     if (entry == entries.end())
         return;
     const QString folder = settings.value(group::language, language::basedir);
     const QString why = whyUntranslated(catalogueOf(settings), folder, file);
+    const auto isAscii = [](QChar c) { return c.unicode() < 0x80; };
+    const bool isMisread = !std::all_of(why.begin(), why.end(), isAscii);
+    const QString words = asSeen(why) + (isMisread ? QString(phrase::beyondAscii) : QString());
     if (!why.isEmpty())
-        findings.append({entry->place, Code::Catalogue, worded(Code::Catalogue, why),
+        findings.append({entry->place, Code::Catalogue, worded(Code::Catalogue, words),
                          entry->groups + QStringList(entry->key), entry->occurrence});
 }
 

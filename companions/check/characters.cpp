@@ -1,9 +1,11 @@
 // The characters of texts: what no printer, or not this one, prints as it is meant.
 #include "companions/check/context.h"
+#include "companions/check/entitynames.h"
 #include "companions/check/mojibake.h"
 #include "companions/check/words.h"
 #include "companions/shared/oneline.h"
 
+#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
@@ -14,31 +16,21 @@ namespace korvel::check {
 
 namespace {
 
-/// A character in quotes and by its number, or by that alone where it has no shape.
-QString characterName(char32_t character)
-{
-    QString number = u"U+"_s + QString::number(character, 16).toUpper().rightJustified(4, u'0');
-    if (!shared::isPrintable(character))
-        return number;
-    return u'"' + QString::fromUcs4(&character, 1) + u"\" ("_s + number + u')';
-}
-
 /// What the printer's code page lacks, in the order of the text, each character once.
 void checkCharset(Context &context, const JobAttribute &attribute)
 {
     constexpr qsizetype mostNamed = 5;
-    QList<recode::Loss> losses;
-    context.charset->encode(attribute.value, &losses);
     QStringList replaced;
     QSet<char32_t> seen;
-    for (const recode::Loss &loss : std::as_const(losses)) {
+    const auto take = [&](const recode::Loss &loss) {
         if (seen.contains(loss.character))
-            continue;
+            return;
         seen.insert(loss.character);
         if (replaced.size() < mostNamed)
-            replaced.append(filled(phrase::replacedCharacter, characterName(loss.character),
+            replaced.append(filled(phrase::replacedCharacter, shared::characterName(loss.character),
                                    u'"' + loss.substitute + u'"'));
-    }
+    };
+    context.charset->encode(attribute.value, take);
     if (replaced.isEmpty())
         return;
     const QString more = seen.size() > mostNamed ? filled(phrase::moreCharacters,
@@ -46,6 +38,58 @@ void checkCharset(Context &context, const JobAttribute &attribute)
                                                  : QString();
     context.note(attribute.place, Code::NotInCharset, attribute.name, context.charset->name(),
                  replaced.join(", "_L1) + more);
+}
+
+/// A character that has neither shape nor width and belongs to no other one; 0 for none.
+char32_t shapeless(const QString &text)
+{
+    constexpr char32_t joiner = 0x200D; // which emojis are made with
+    for (const char32_t c : text.toUcs4()) {
+        if (c != joiner && QChar::category(c) == QChar::Other_Format)
+            return c;
+    }
+    return 0;
+}
+
+/// A reference to a character in a text that should have none left; empty for none.
+QString reference(const QString &text)
+{
+    static const QRegularExpression written(u"&(?:([A-Za-z]+[0-9]*)|#[0-9]+|#x[0-9A-Fa-f]+);"_s);
+    static const QStringList ofXml = {u"amp"_s, u"apos"_s, u"gt"_s, u"lt"_s, u"quot"_s};
+    if (!text.contains(u'&'))
+        return {};
+    for (const auto &match : written.globalMatch(text)) {
+        const QString name = match.captured(1);
+        if (name.isEmpty() || ofXml.contains(name) || namedCharacter(name) != 0)
+            return match.captured();
+    }
+    return {};
+}
+
+/// What is odd about a text's characters, whatever the printer.
+bool noteOdd(Context &context, const JobAttribute &attribute, const QString &bearer)
+{
+    const auto isFault = [](const Fault &fault) { return fault.code == Code::Encoding; };
+    const QList<Fault> &faults = context.job.faults; // which put replacement characters themselves
+    if (attribute.value.contains(QChar::ReplacementCharacter)
+        && std::none_of(faults.begin(), faults.end(), isFault)) {
+        context.note(attribute.place, Code::OddCharacter, bearer, phrase::replacement);
+        return true;
+    }
+    if (const QString written = reference(attribute.value); !written.isEmpty()) {
+        context.note(attribute.place, Code::EscapedTwice, bearer, quoted(written));
+        return true;
+    }
+    const char32_t odd = shapeless(attribute.value);
+    if (odd != 0)
+        context.note(attribute.place, Code::OddCharacter, bearer,
+                     filled(phrase::shapeless, shared::characterName(odd)));
+    return odd != 0;
+}
+
+bool isAscii(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
 }
 
 } // namespace
@@ -61,11 +105,14 @@ bool hasControl(const JobAttribute &attribute)
 
 void checkCharacters(Context &context, const JobAttribute &attribute, const QString &bearer)
 {
-    if (const QString meant = beforeMojibake(attribute.value); !meant.isEmpty()) {
+    if (const Mojibake found = beforeMojibake(attribute.value); !found.meant.isEmpty()) {
         context.note(attribute.place, Code::Mojibake, attribute.name, quoted(attribute.value),
-                     quoted(meant));
+                     quoted(found.meant), found.readAs);
         return; // what else is odd about its characters comes of that
     }
+    const bool plain = isAscii(attribute.value) && !attribute.value.contains(u'&');
+    if (!plain && noteOdd(context, attribute, bearer))
+        return;
     if (hasControl(attribute))
         context.note(attribute.place, Code::ControlCharacter, bearer);
     if (context.charset)

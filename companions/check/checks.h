@@ -21,6 +21,9 @@ class SettingsFile;
 QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings,
                         const recode::CodePage *charset = nullptr);
 
+/// Whether a file that should be a job has the settings of documents instead.
+bool isSettings(const QByteArray &bytes);
+
 /// What is wrong with a settings file, in its order.
 QList<Finding> checkSettings(const SettingsFile &settings);
 

@@ -24,6 +24,7 @@ enum class Code {
     Limit,
     NoMethod,
     UnknownMethod,
+    WrongMethod,
     SecondMethod,
     BeforeMethod,
 
@@ -33,6 +34,7 @@ enum class Code {
     LostElement,
     TextContent,
     UnknownAttribute,
+    LostFigure,
     MisspeltAttribute,
     MissingAttribute,
     MissingText,
@@ -54,6 +56,7 @@ enum class Code {
     TotalSum,
     TaxSum,
     NoTotal,
+    SecondTotal,
     BehindTotal,
 
     // Texts.
@@ -64,6 +67,8 @@ enum class Code {
     Totale,
     Address,
     Mojibake,
+    OddCharacter,
+    EscapedTwice,
     NotInCharset,
 
     // The job beside its settings.
@@ -76,11 +81,13 @@ enum class Code {
     ByteOrderMark,
     Comment,
     Unterminated,
+    LostGroup,
     Catalogue,
 
     // The settings.
     Columns,
     UnreadKey,
+    Duplicate,
     NotTrue,
     NotANumber,
 

@@ -5,48 +5,104 @@
 #include "vocabulary/columns.h"
 #include "vocabulary/paper.h"
 
+#include <QHash>
+
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::check {
 
 namespace {
 
-/// Whether the columns of a document leave room for its description, and no more than there is.
-void checkRow(const SettingsFile &settings, const vocabulary::Method &method,
-              const vocabulary::RowStyle &style, Place place, QList<Finding> &findings)
+/// Where the settings of a group stand, by their keys.
+using SettingPlaces = QHash<QString, Place>;
+
+/// A row that has no room for its description.
+struct NarrowRow
 {
-    const auto number = [&](QLatin1StringView key) { return settings.number(method.group, key); };
+    vocabulary::Documents documents = 0; // that have such rows
+    vocabulary::RowStyle style = {};     // of the one that lacks most
+    qint64 width = 0;                    // of the line
+    qint64 room = 1;
+};
+
+/// The setting that leaves a row no room: a narrow paper, else the widest column.
+QLatin1StringView narrowest(const NarrowRow &row, const SettingsFile &settings,
+                            QLatin1StringView group)
+{
+    if (row.room + vocabulary::lineWidth - row.width > 0)
+        return vocabulary::key::paperWidth;
+    QLatin1StringView widest = vocabulary::key::paperWidth;
+    int most = 0;
+    for (const auto &[column, setting] : vocabulary::columnWidths) {
+        const int width = settings.number(group, setting);
+        if ((row.style.columns & column) != 0 && width > most) {
+            most = width;
+            widest = setting;
+        }
+    }
+    return widest;
+}
+
+/// Whether the columns of a group's documents leave room for the description, and no more than
+/// there is.
+void checkGroup(const SettingsFile &settings, QLatin1StringView group, const SettingPlaces &places,
+                QList<Finding> &findings)
+{
+    const auto number = [&](QLatin1StringView key) { return settings.number(group, key); };
+    const auto note = [&](QLatin1StringView key, const QString &words) {
+        findings.append({places.value(key),
+                         Code::Columns,
+                         worded(Code::Columns, words),
+                         {vocabulary::group::korvel, group},
+                         0});
+    };
     const int paper = number(vocabulary::key::paperWidth);
     const qint64 width = paper == 0 ? vocabulary::lineWidth : paper;
-    const qint64 room = style.descriptionWidth(width, number(vocabulary::key::quantityFieldWidth),
-                                               number(vocabulary::key::priceFieldWidth),
-                                               number(vocabulary::key::totalPriceFieldWidth));
-    QString words;
-    for (const auto &[column, setting] : vocabulary::columnWidths) {
-        if ((style.columns & column) != 0 && number(setting) < 0)
-            words = filled(phrase::negativeWidth, setting, QString::number(number(setting)),
-                           method.title);
+    NarrowRow narrow;
+    QHash<QString, vocabulary::Documents> negative; // columns, and the documents that have them
+    for (const vocabulary::ItemRows &rows : vocabulary::itemRows) {
+        const vocabulary::Documents documents = rows.documents & vocabulary::documentsOf(group);
+        const qint64 room =
+            rows.style.descriptionWidth(width, number(vocabulary::key::quantityFieldWidth),
+                                        number(vocabulary::key::priceFieldWidth),
+                                        number(vocabulary::key::totalPriceFieldWidth));
+        if (documents == 0)
+            continue;
+        if (room <= 0)
+            narrow = {narrow.documents | documents, room < narrow.room ? rows.style : narrow.style,
+                      width, std::min(room, narrow.room)};
+        for (const auto &[column, setting] : vocabulary::columnWidths) {
+            if ((rows.style.columns & column) != 0 && number(setting) < 0)
+                negative[setting] |= documents;
+        }
     }
-    if (room <= 0)
-        words = filled(phrase::noRoom, method.title, QString::number(width - room),
-                       QString::number(width));
-    if (words.isEmpty())
-        return;
-    const QString text = worded(Code::Columns, words);
-    const QStringList group = {vocabulary::group::korvel, method.group};
-    findings.append({place, Code::Columns, text, group, 0});
+    for (const auto &[column, setting] : vocabulary::columnWidths) {
+        if (negative.contains(setting))
+            note(setting, filled(phrase::negativeWidth, setting, QString::number(number(setting)),
+                                 vocabulary::titlesOf(negative.value(setting))));
+    }
+    if (narrow.documents != 0)
+        note(narrowest(narrow, settings, group),
+             filled(phrase::noRoom, vocabulary::titlesOf(narrow.documents),
+                    QString::number(width - narrow.room), QString::number(width)));
 }
 
 } // namespace
 
-void checkColumns(const SettingsFile &settings, const QHash<QString, Place> &groups,
+void checkColumns(const SettingsFile &settings, const QSet<QString> &groups,
                   QList<Finding> &findings)
 {
-    for (const vocabulary::Method &method : vocabulary::methods()) {
-        for (const vocabulary::ItemRows &rows : vocabulary::itemRows) {
-            if ((rows.documents & method.document) != 0 && groups.contains(method.group))
-                checkRow(settings, method, rows.style, groups.value(method.group), findings);
-        }
+    QHash<QString, SettingPlaces> places;
+    for (const SettingsFile::Entry &entry : settings.entries()) {
+        if (!entry.meant.isEmpty())
+            places[settings.groups()[entry.group].meant.constFirst()].insert(entry.meant,
+                                                                             entry.place);
+    }
+    for (const vocabulary::DocumentType &type : vocabulary::documentTypes) {
+        if (groups.contains(type.group))
+            checkGroup(settings, type.group, places.value(type.group), findings);
     }
 }
 

@@ -4,17 +4,17 @@
 #include "companions/check/findings.h"
 #include "companions/check/settingsfile.h"
 
-#include <QHash>
+#include <QSet>
 
 namespace korvel::check {
 
 /**
  * Whether the columns of the documents leave room for their descriptions.
  *
- * @param groups   the documents' groups in the settings, and where their first setting stands
- * @param findings gets what is wrong, at those places
+ * @param groups   those of documents whose settings are read
+ * @param findings gets what is wrong, at the setting that is
  */
-void checkColumns(const SettingsFile &settings, const QHash<QString, Place> &groups,
+void checkColumns(const SettingsFile &settings, const QSet<QString> &groups,
                   QList<Finding> &findings);
 
 } // namespace korvel::check

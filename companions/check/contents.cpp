@@ -8,15 +8,6 @@ namespace korvel::check {
 
 namespace {
 
-/// Whether an element has an attribute of that name in any document.
-bool isAttributeOf(const QString &element, const QString &name)
-{
-    return std::any_of(vocabulary::attributes().begin(), vocabulary::attributes().end(),
-                       [&](const vocabulary::Attribute &row) {
-                           return row.element == element && row.name == name;
-                       });
-}
-
 /// Whether a tag has what an attribute has: a text, or nothing.
 bool isPlain(const Tag &tag)
 {
@@ -24,6 +15,14 @@ bool isPlain(const Tag &tag)
 }
 
 } // namespace
+
+bool isAttributeOf(const QString &element, const QString &name)
+{
+    return std::any_of(vocabulary::attributes().begin(), vocabulary::attributes().end(),
+                       [&](const vocabulary::Attribute &row) {
+                           return row.element == element && row.name == name;
+                       });
+}
 
 bool standsForAttribute(const Context &context, const Tag &tag)
 {

@@ -20,6 +20,14 @@ struct SpelledOut
     QStringList names; // the first of them, each once
 };
 
+/// What an element selects, the method or what is meant for it.
+struct Selection
+{
+    const vocabulary::Method *said = nullptr; // null when no document is called so
+    const vocabulary::Method *read = nullptr; // whose elements stand behind it
+    bool selects = false;                     // false for any other element
+};
+
 struct Context
 {
     const Job &job;
@@ -30,9 +38,11 @@ struct Context
 
     QHash<const Tag *, SpelledOut> spelledOut = {}; // by what they stand in
     QSet<const Tag *> forAttributes = {};           // all of them
+    QHash<const Tag *, Selection> selections = {};  // by the elements that select
     QSet<const Tag *> lost = {}; // elements of which nothing is printed, though something should be
-    QChar decimalMark = {};      // of the first amount that has one
-    bool mixesMarks = false;     // once that is said
+    QSet<const Tag *> doubtful = {}; // elements of whose figures something is said
+    QChar decimalMark = {};          // of the first amount that has one
+    bool mixesMarks = false;         // once that is said
 
     /// Notes a finding that says the wording of its code with these words.
     template<typename... Words>
@@ -48,14 +58,27 @@ struct Context
     }
 
     /// Whether settings are given and switch this off in the document. What has no switch is never
-    /// off.
+    /// off, nor is what a setting without a name may switch on.
     [[nodiscard]] bool isOff(QLatin1StringView key) const
     {
-        return settings && !key.isEmpty() && !settings->isOn(method->group, key);
+        return settings && !key.isEmpty() && !settings->isOn(method->group, key)
+               && !settings->hasNameless(method->group);
     }
 };
 
+// methods.cpp
+
+/// Finds what selects the job's documents, and which documents its elements are read as, before any
+/// rule but after gatherContents().
+void gatherMethods(Context &context);
+
+/// The method, or what is meant for it; false when the job ends there.
+bool checkMethod(Context &context, const Tag &tag);
+
 // contents.cpp
+
+/// Whether an element has an attribute of that name in any document.
+bool isAttributeOf(const QString &element, const QString &name);
 
 /// Whether a tag is an attribute spelt as an element: <price>7.00</price>. What it stands in says
 /// so.
@@ -100,6 +123,16 @@ void checkAddress(Context &context, const JobAttribute &attribute);
 
 /// An amount in hundredths; nothing for what is none, or has parts of a hundredth.
 std::optional<qint64> hundredthsOf(const QString &value);
+
+/// Whether an attribute says a figure, whatever reads it: by its name, or as an amount with
+/// decimals. Elements that most documents share have names of their own choice beside theirs.
+bool isFigure(const Tag &tag, const JobAttribute &attribute);
+
+/// A quantity or a count that is printed as it is.
+void checkQuantity(Context &context, const JobAttribute &attribute);
+
+/// A tax rate that is printed as it is. Without tax it may be a word.
+void checkRate(Context &context, const Tag &tag, const JobAttribute &attribute);
 
 /// An amount that is printed as it is.
 void checkAmount(Context &context, const JobAttribute &attribute);

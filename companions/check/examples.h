@@ -44,6 +44,12 @@ inline constexpr QLatin1StringView report{"<job>\n"
                                           "  <method name=\"printReport\"/>\n"
                                           "  %1\n"
                                           "</job>"};
+inline constexpr QLatin1StringView kitchen{
+    "<job>\n"
+    "  %1\n"
+    "  <receipe number=\"2\" name=\"Coffee\"/>\n"
+    "  <variant number=\"1\" quantity=\"1\" name=\"Milk\"/>\n"
+    "</job>"};
 inline constexpr QLatin1StringView customer{"<job>\n"
                                             "  %1\n"
                                             "  <customer name=\"Mario Rossi\"/>\n"
@@ -112,6 +118,14 @@ inline constexpr QLatin1StringView group{"%1\n"
                                          "    quantityFieldWidth = \"3\";\n"
                                          "  };\n"
                                          "};"};
+inline constexpr QLatin1StringView document{"korvel:\n"
+                                            "{\n"
+                                            "  %1\n"
+                                            "  {\n"
+                                            "    paperWidth = \"32\";\n"
+                                            "    quantityFieldWidth = \"3\";\n"
+                                            "  };\n"
+                                            "};"};
 inline constexpr QLatin1StringView language{"korvel:\n"
                                             "{\n"
                                             "  language:\n"
@@ -164,6 +178,9 @@ inline constexpr Example exampleTable[] = {
     {Code::UnknownMethod, example::none, example::any,
      "<method name=\"printReceipt\"/>"_L1,
      "<method name=\"printFullOrderReceipt\"/>"_L1},
+    {Code::WrongMethod, example::none, example::kitchen,
+     "<method name=\"printFullOrder\"/>"_L1,
+     "<method name=\"printPartialOrder\"/>"_L1},
     {Code::SecondMethod, example::none, example::whole,
      "<job>\n"
      "  <method name=\"printFullOrderReceipt\"/>\n"
@@ -201,6 +218,9 @@ inline constexpr Example exampleTable[] = {
     {Code::UnknownAttribute, example::none, example::receipt,
      "<receipt serialnumber=\"118\" cashier=\"Lucia\"/>"_L1,
      "<receipt serialnumber=\"118\"/>"_L1},
+    {Code::LostFigure, example::none, example::order,
+     "<receipe number=\"2\" name=\"Coffee\" price=\"1.20\"/>"_L1,
+     "<receipe number=\"2\" name=\"Coffee\"/>"_L1},
     {Code::MisspeltAttribute, example::none, example::order,
      "<receipe quantity=\"2\" name=\"Coffee\"/>"_L1,
      "<receipe number=\"2\" name=\"Coffee\"/>"_L1},
@@ -246,6 +266,10 @@ inline constexpr Example exampleTable[] = {
     {Code::NoTotal, example::none, example::item,
      "<receipt serialnumber=\"118\"/>"_L1,
      "<total price=\"2.40\"/>"_L1},
+    {Code::SecondTotal, example::none, example::prices,
+     "2.40\"/>\n"
+     "  <total price=\"2.40"_L1,
+     "2.40"_L1},
     {Code::BehindTotal, example::none, example::receipt,
      "<total price=\"0.00\"/>\n"
      "  <receipe number=\"1\" name=\"Water\" price=\"0.00\" totalPrice=\"0.00\"/>"_L1,
@@ -274,6 +298,12 @@ inline constexpr Example exampleTable[] = {
     {Code::Mojibake, example::none, example::order,
      "<receipe number=\"2\" name=\"Caff&#195;&#168;\"/>"_L1,
      "<receipe number=\"2\" name=\"Caff&#232;\"/>"_L1},
+    {Code::OddCharacter, example::none, example::order,
+     "<receipe number=\"2\" name=\"Caff&#xFFFD;\"/>"_L1,
+     "<receipe number=\"2\" name=\"Caff&#232;\"/>"_L1},
+    {Code::EscapedTwice, example::none, example::order,
+     "<receipe number=\"2\" name=\"Fish &amp;amp; Chips\"/>"_L1,
+     "<receipe number=\"2\" name=\"Fish &amp; Chips\"/>"_L1},
     {Code::NotInCharset, example::none, example::order,
      "<receipe number=\"2\" name=\"Menu 10 &#8364;\"/>"_L1,
      "<receipe number=\"2\" name=\"Menu 10 EUR\"/>"_L1},
@@ -298,6 +328,7 @@ inline constexpr Example exampleTable[] = {
     {Code::Unterminated, example::settings, example::none,
      "topMargin = \"2\""_L1,
      "topMargin = \"2\";"_L1},
+    {Code::LostGroup, example::document, example::none, "reciptdoc:"_L1, "receiptdoc:"_L1},
     {Code::Catalogue, example::language, example::none,
      "file = \"korvel_it.qm\";"_L1,
      "file = \"\";"_L1},
@@ -309,6 +340,10 @@ inline constexpr Example exampleTable[] = {
     {Code::UnreadKey, example::settings, example::none,
      "printDates = \"true\";"_L1,
      "printDate = \"true\";"_L1},
+    {Code::Duplicate, example::settings, example::none,
+     "topMargin = \"2\";\n"
+     "    topMargin = \"3\";"_L1,
+     "topMargin = \"3\";"_L1},
     {Code::NotTrue, example::settings, example::none,
      "printDate = \"yes\";"_L1,
      "printDate = \"true\";"_L1},

@@ -135,11 +135,18 @@ public:
         const auto size = static_cast<int>(document.size());
         const auto status = XML_Parse(parser.get(), document.constData(), size, XML_TRUE);
         if (status != XML_STATUS_OK && !stopped) {
-            const Tag *innermost = open.isEmpty() ? nullptr : &job.tags[open.constLast().tag];
             const auto error = XML_GetErrorCode(parser.get());
             const qsizetype at = error == XML_ERROR_UNDEFINED_ENTITY ? undeclared() : offset();
-            const XmlFault fault = faultIn(document, error, at, innermost);
-            stopAtMalformed(places.of(fault.offset), fault.words);
+            const Tag *left = error == XML_ERROR_TAG_MISMATCH ? leftOpen(at) : nullptr;
+            const Tag *innermost = open.isEmpty() ? nullptr : &job.tags[open.constLast().tag];
+            const XmlFault fault =
+                faultIn(document, error, at, left ? left : innermost, left != nullptr);
+            const Place stop = places.of(fault.offset);
+            if (fault.isInOpen)
+                stopAtMalformed((left ? left : innermost)->place, fault.words,
+                                filled(phrase::behindLine, QString::number(stop.line)));
+            else
+                stopAtMalformed(stop, fault.words);
         }
         return job;
     }
@@ -188,6 +195,21 @@ private:
                 return offset() + i;
         }
         return offset();
+    }
+
+    /// The outermost element that an end tag leaves open, which closes one around it; null when it
+    /// closes none that is open.
+    [[nodiscard]] const Tag *leftOpen(qsizetype endTag) const
+    {
+        const QByteArrayView name = QByteArrayView(document).sliced(endTag);
+        for (qsizetype i = open.size() - 2; i >= 0; --i) {
+            const QByteArray outer = job.tags[open[i].tag].name.toUtf8();
+            const char behind = name.startsWith(outer) ? name.data()[outer.size()] : 'x';
+            if (behind == '>' || behind == ' ' || behind == '\t' || behind == '\n'
+                || behind == '\r')
+                return &job.tags[open[i + 1].tag];
+        }
+        return nullptr;
     }
 
     void readTag(const char *name, const char **attributes)
@@ -302,9 +324,10 @@ private:
                                                     QString::number(mostDeclaredAttributes)));
     }
 
-    void stopAtMalformed(Place place, const QString &words)
+    void stopAtMalformed(Place place, const QString &words,
+                         const QString &unread = phrase::behindThis)
     {
-        stop(Code::MalformedXml, place, worded(Code::MalformedXml, words));
+        stop(Code::MalformedXml, place, worded(Code::MalformedXml, words, unread));
     }
 
     void stopAtLimit(Place place, const QString &words)

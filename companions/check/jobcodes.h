@@ -9,7 +9,7 @@ namespace korvel::check {
 inline constexpr CodeInfo jobCodes[] = {
     // The job as a whole.
     {Code::MalformedXml, Level::Error, "malformed-xml"_L1,
-     "%1: nothing behind this was checked"_L1,
+     "%1: nothing behind %2 was checked"_L1,
      "The job is not well-formed XML. The paper usually ends at the error, and its section is "
      "not closed; the checker stops there."_L1,
      "Correct the XML where the finding points. An XML library writes jobs without such "
@@ -26,7 +26,7 @@ inline constexpr CodeInfo jobCodes[] = {
      "Put the elements one after the other; they need no nesting, no namespaces and no document "
      "type. Keep to the settings that documents read."_L1},
     {Code::NoMethod, Level::Error, "no-method"_L1,
-     "no method: nothing is printed; begin with <method name=\"...\"/>"_L1,
+     "no method: nothing is printed; %1"_L1,
      "The job selects no document, so nothing is printed but the command that closes a section."_L1,
      "Send a `method` element before all others, with the name of the document."_L1},
     {Code::UnknownMethod, Level::Error, "unknown-method"_L1,
@@ -34,8 +34,13 @@ inline constexpr CodeInfo jobCodes[] = {
      "There is no document of that name. The renderer says \"File Format Not Supported\" and "
      "the job ends there."_L1,
      "Use one of the thirteen names; upper and lower case are different."_L1},
+    {Code::WrongMethod, Level::Error, "wrong-method"_L1,
+     "most elements are those of the %1, not of the %2; did you mean \"%3\"?"_L1,
+     "Most elements of the job, or their attributes, are not printed by the document that the "
+     "method selects, and all by another one. The job is checked as that one."_L1,
+     "Select the document that the elements are of; each name is fixed."_L1},
     {Code::SecondMethod, Level::Error, "second-method"_L1,
-     "a second method: the section of the %1 is not closed"_L1,
+     "a second method: the section of the %1 is not closed; send one document per job"_L1,
      "The job selects a second document. Both open a section on the printer, and only one is "
      "closed."_L1,
      "Send one document per job: two jobs, two runs."_L1},
@@ -55,7 +60,7 @@ inline constexpr CodeInfo jobCodes[] = {
      "Other documents know the element, but this one ignores it. It prints nothing."_L1,
      "Leave it out, or select the document that prints it."_L1},
     {Code::LostElement, Level::Error, "lost-element"_L1,
-     "<%1> prints nothing in the document \"%2\"%3: its figures are lost%4"_L1,
+     "<%1> prints nothing in the document \"%2\": its figures are lost%3%4"_L1,
      "The document ignores an element that carries a figure: a quantity, a price, an amount. The "
      "figure is not on the paper."_L1,
      "Select the document that prints it, or send what this document prints in its place."_L1},
@@ -67,6 +72,13 @@ inline constexpr CodeInfo jobCodes[] = {
      "nothing reads \"%1\" of <%2> in this document%3"_L1,
      "This document does not read an attribute of that name. It is not printed."_L1,
      "Correct the name, or leave the attribute out."_L1},
+    {Code::LostFigure, Level::Error, "lost-figure"_L1,
+     "nothing reads %1 of <%2> in the document \"%3\": %4%5"_L1,
+     "This document does not read an attribute that carries a figure: a price in a kitchen order, "
+     "a discount in a row. The figure is not on the paper."_L1,
+     "Leave the attribute out, select the document that prints it, or send the figure where it is "
+     "printed: a discount as a row of its own. A shop that sends it on purpose ignores the "
+     "code."_L1},
     {Code::MisspeltAttribute, Level::Error, "misspelt-attribute"_L1,
      "nothing reads \"%1\" of <%2>%3"_L1,
      "A figure, a name or a serial number stands under a name that the document does not read. "
@@ -93,7 +105,8 @@ inline constexpr CodeInfo jobCodes[] = {
     // Amounts and quantities.
     {Code::Amount, Level::Warning, "amount"_L1,
      "\"%1\" is %2, no number; it prints as it is"_L1,
-     "The text stands for an amount and is no number. It is printed as it is."_L1,
+     "The text stands for an amount, a quantity or a tax rate and is no number. It is printed as "
+     "it is."_L1,
      "Send digits with a decimal point, and a currency sign if it is to be printed."_L1},
     {Code::Hundredths, Level::Warning, "hundredths"_L1,
      "\"%1\" is %2, with parts of a hundredth; it prints as it is"_L1,
@@ -154,6 +167,10 @@ inline constexpr CodeInfo jobCodes[] = {
      "the %1 has rows and no <%2>: no total is printed"_L1,
      "A document that ends with a total has none."_L1,
      "Send the total behind the rows."_L1},
+    {Code::SecondTotal, Level::Warning, "second-total"_L1,
+     "the total stands here a second time, with no row in front of it, and prints again"_L1,
+     "Two totals stand one behind the other, without a row between them. Both are printed."_L1,
+     "Send the total once; one behind some of the rows is that of a part."_L1},
     {Code::BehindTotal, Level::Warning, "behind-total"_L1,
      "<%1> stands behind the total and prints below it"_L1,
      "A row stands behind the total. It prints below it, in the order of the job."_L1,
@@ -189,10 +206,21 @@ inline constexpr CodeInfo jobCodes[] = {
      "An address has an empty part between two commas. What follows it is not printed."_L1,
      "Leave the empty part out; one with a blank prints an empty line."_L1},
     {Code::Mojibake, Level::Warning, "mojibake"_L1,
-     "\"%1\" is %2, probably %3: UTF-8 was read as Latin-1 and saved again"_L1,
+     "\"%1\" is %2, probably %3: UTF-8 was read as %4 and saved again"_L1,
      "The text has two or three odd characters in place of an accented letter or a sign. Its "
      "UTF-8 was read in another encoding and saved again. It prints as it is."_L1,
      "Correct the text where it is kept, and read it as UTF-8 on its way into the job."_L1},
+    {Code::OddCharacter, Level::Warning, "odd-character"_L1,
+     "%1 %2"_L1,
+     "The text has a replacement character, in place of one that was lost before, or one that has "
+     "no shape and no width, such as a mark for the direction of writing. Printers have no "
+     "character for these."_L1,
+     "Correct the text where it is kept, and read it in the encoding that it is in."_L1},
+    {Code::EscapedTwice, Level::Warning, "escaped-twice"_L1,
+     "%1 %2, which prints as it is: it was escaped twice"_L1,
+     "The text has a reference to a character where the character is meant: \"&\" was written "
+     "as a reference twice on its way into the job. It prints as it is."_L1,
+     "Write the text as it is to be printed and let the XML library escape it, once."_L1},
     {Code::NotInCharset, Level::Warning, "not-in-charset"_L1,
      "\"%1\" has what %2 lacks: %3"_L1,
      "A text that is printed or registered has a character that the printer's code page lacks. "

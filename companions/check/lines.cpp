@@ -26,6 +26,7 @@ struct WideLine
     qsizetype row, rows; // which of how many of its element, counted from 0
     qsizetype width;
     qsizetype paperWidth; // of the document's settings
+    bool isFigure;        // that makes it so
     Finding finding;
 };
 
@@ -111,6 +112,7 @@ private:
                      rows.size(),
                      rows[row].size(),
                      number(element, vocabulary::key::paperWidth),
+                     !culprit.figure.isEmpty(),
                      {place, Code::WideLine, text, {}, 0}});
     }
 
@@ -230,6 +232,20 @@ QList<qsizetype> widthsIn(Trial trial, const QList<WideLine> &lines, const Conte
     return widths;
 }
 
+/// Whether a line is wide for a mistake that is said already: a figure of its element, or the
+/// characters of its text.
+bool isSaid(const Context &context, const WideLine &line)
+{
+    if (line.isFigure && context.doubtful.contains(line.tag))
+        return true;
+    return std::any_of(context.findings.begin(), context.findings.end(), [&](const Finding &other) {
+        return (other.code == Code::Mojibake || other.code == Code::EscapedTwice
+                || other.code == Code::Amount)
+               && other.place.line == line.finding.place.line
+               && other.place.column == line.finding.place.column;
+    });
+}
+
 } // namespace
 
 void checkLines(Context &context, const QList<Tag> &tags)
@@ -248,7 +264,7 @@ void checkLines(Context &context, const QList<Tag> &tags)
         const bool filledUp = hollow[i] <= line.paperWidth && line.width > line.paperWidth;
         const bool own = hollow[i] > paper && !filledUp;
         const bool bySettings = narrow[i] >= 0 && narrow[i] <= paper;
-        if (!own && !bySettings)
+        if (!own && !bySettings && !isSaid(context, line))
             context.findings.append(line.finding);
     }
 }

@@ -129,13 +129,6 @@ std::optional<int> tellAbout(const QCommandLineParser &parser)
     return row ? writeOut(check::explained(*row), Clean) : trouble(check::noSuchCode(name));
 }
 
-int noCodePage(const QString &name)
-{
-    return trouble(u"there is no code page \""_s + name
-                   + u"\"; take UTF-8, or one that iconv knows of one byte a character, with ASCII "
-                     "below 128, such as cp858"_s);
-}
-
 /// Checks the settings, then the jobs, as far as they can be read.
 int checkFiles(const QCommandLineParser &parser, Report &report)
 {
@@ -143,7 +136,7 @@ int checkFiles(const QCommandLineParser &parser, Report &report)
     const QString charsetName = parser.value(charsetOption);
     const auto charset = CodePage::named(charsetName.toUtf8());
     if (parser.isSet(charsetOption) && !charset)
-        return noCodePage(charsetName);
+        return trouble(korvel::recode::noCodePage(charsetName));
     std::unique_ptr<check::SettingsFile> settings;
     if (parser.isSet(settingsOption)) {
         const QString path = parser.value(settingsOption);
@@ -158,10 +151,14 @@ int checkFiles(const QCommandLineParser &parser, Report &report)
     }
     for (const QString &path : parser.positionalArguments()) {
         const auto job = readWhole(path, largestFile, error);
-        if (job)
-            report.add(path, checkJob(*job, settings.get(), charset ? &*charset : nullptr));
-        else
+        if (!job)
             report.status = trouble(path + u": "_s + error);
+        else if (check::isSettings(*job))
+            report.status = trouble(path
+                                    + u": settings, not a job; check them with "
+                                      "korvel-check --settings FILE"_s);
+        else
+            report.add(path, checkJob(*job, settings.get(), charset ? &*charset : nullptr));
     }
     return writeOut(report.lines, report.status);
 }

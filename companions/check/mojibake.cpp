@@ -1,7 +1,11 @@
 // Words taken back to the bytes that they were read from, and those read as UTF-8.
 #include "companions/check/mojibake.h"
 
+#include "companions/check/phrases.h"
+#include "companions/recode/codepage.h"
+
 #include <QByteArray>
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -114,9 +118,34 @@ QString meantOnce(const QString &text)
     return meant;
 }
 
+/// A text as it was meant, if it was read as a code page of DOS: these have lines of tables where
+/// UTF-8 has the first byte of most letters, and "Ô" or "Γ" where it has that of most signs.
+Mojibake meantInDos(const QString &text)
+{
+    static const QRegularExpression first(u"[├┬]|[ÔΓ][^\\x00-\\x7F]{2}"_s);
+    if (!text.contains(first))
+        return {};
+    for (const char *name : {"cp850", "cp437"}) {
+        static QHash<QByteArray, std::optional<recode::CodePage>> pages;
+        if (!pages.contains(name))
+            pages.insert(name, recode::CodePage::named(name));
+        const auto &page = pages[name];
+        bool lost = false;
+        const auto take = [&](const recode::Loss & /*loss*/) { lost = true; };
+        const QByteArray bytes = page ? page->encode(text, take) : QByteArray();
+        if (bytes.isEmpty() || lost || !bytes.isValidUtf8())
+            continue;
+        const QString meant = QString::fromUtf8(bytes);
+        const QList<uint> characters = meant.toUcs4();
+        if (std::all_of(characters.begin(), characters.end(), isLikely))
+            return {meant, QString::fromLatin1(name)};
+    }
+    return {};
+}
+
 } // namespace
 
-QString beforeMojibake(const QString &text)
+Mojibake beforeMojibake(const QString &text)
 {
     const bool ascii =
         std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
@@ -124,13 +153,13 @@ QString beforeMojibake(const QString &text)
         return {};
     QString meant = meantOnce(text);
     if (meant == text)
-        return {};
+        return meantInDos(text);
     for (QString before = meantOnce(meant); before != meant; before = meantOnce(meant))
         meant = before;
     const bool spoilt = std::any_of(meant.begin(), meant.end(), [](QChar c) {
         return c.unicode() >= 0x7F && c.unicode() < 0xA0; // control characters
     });
-    return spoilt ? QString() : meant;
+    return spoilt ? Mojibake() : Mojibake{meant, phrase::latin1};
 }
 
 } // namespace korvel::check

@@ -24,7 +24,14 @@ using Phrase = QLatin1StringView;
 // What a misspelt name may be.
 inline constexpr Phrase didYouMean{"; did you mean \"%1\"?"};
 
-// MalformedXml: what the reader does not say
+// NoMethod: what to do
+inline constexpr Phrase beginWithMethod{"begin with <method name=\"...\"/>"};
+inline constexpr Phrase misspeltMethod{"did you mean <method> by <%1>?"};
+inline constexpr Phrase writeMethodFirst{"begin with <method name=\"%1\"/>"};
+
+// MalformedXml: where it is no more checked; and what the reader does not say
+inline constexpr Phrase behindThis{"this"};
+inline constexpr Phrase behindLine{"line %1"};
 inline constexpr Phrase namelessInstruction{"an instruction has no name"};
 inline constexpr Phrase noName{"\"%1\" is no name"};
 inline constexpr Phrase otherVersion{"XML %1 is not read; write 1.0"};
@@ -54,6 +61,11 @@ inline constexpr Phrase settingsReadOver{
 // UnknownMethod
 inline constexpr Phrase noDocument{"no document is called %1"};
 inline constexpr Phrase noMethodName{"the method has no name"};
+inline constexpr Phrase writeMethod{"; write <method name=\"%1\"/>"};
+
+// LostFigure: what is lost
+inline constexpr Phrase figureLost{"its figure is lost"};
+inline constexpr Phrase figuresLost{"their figures are lost"};
 
 // MisspeltAttribute: what is missing
 inline constexpr Phrase meantMissing{"; did you mean \"%1\", which is missing?"};
@@ -65,7 +77,7 @@ inline constexpr Phrase childElements{
 inline constexpr Phrase strayText{"the text %1 in <%2> is not printed: write it as an attribute"};
 
 // IgnoredElement, LostElement: the documents that print it
-inline constexpr Phrase onlyIn{", only in %1"};
+inline constexpr Phrase printedIn{"; it is printed in %1"};
 
 // MissingAttribute: what the lack of it prints
 inline constexpr Phrase emptyPlace{"its place prints empty"};
@@ -74,11 +86,13 @@ inline constexpr Phrase leftOut{"it prints as \"-\", something left out"};
 
 // CancelledList
 inline constexpr Phrase listBeginsWrong{
-    "\"number\" and \"totals\" are not the first two attributes: "
-    "the list of documents begins at the wrong place"};
+    "\"number\" and \"totals\" must be the first two attributes, and are not: all others are "
+    "taken for serial number, total and tax rate of one document after the other"};
 inline constexpr Phrase listNotInThrees{
-    "each cancelled document takes three attributes, and there are %1"};
-inline constexpr Phrase listMiscounted{"\"number\" says %1 cancelled documents, and %2 are listed"};
+    "each cancelled document takes three attributes behind \"number\" and \"totals\", its serial "
+    "number, total and tax rate; there are %1"};
+inline constexpr Phrase listMiscounted{
+    "\"number\" is %1, but the cancelled documents that are listed are %2"};
 
 // DecimalComma: the mark of the others
 inline constexpr Phrase comma{"comma"};
@@ -110,6 +124,13 @@ inline constexpr Phrase slash{"\"/\""};
 inline constexpr Phrase attributeHas{"\"%1\" of <%2> has"};
 inline constexpr Phrase saleRowHas{"\"%1\" of a sale row is %2, with"};
 
+// Mojibake: what UTF-8 was read as
+inline constexpr Phrase latin1{"Latin-1"};
+
+// OddCharacter, EscapedTwice: what there is
+inline constexpr Phrase replacement{"U+FFFD in place of a character that was lost before"};
+inline constexpr Phrase shapeless{"%1, a character without a shape; leave it out"};
+
 // NotInCharset: a character, how it is shown, and what stands in its place; and how many more
 inline constexpr Phrase replacedCharacter{"%1 prints as %2"};
 inline constexpr Phrase moreCharacters{", and %1 more"};
@@ -129,12 +150,13 @@ inline constexpr Phrase noSetting{"no setting stands in it"};
 inline constexpr Phrase otherNotation{
     "it is written as %1; settings are written korvel: { doc: { paperWidth = \"32\"; }; };"};
 inline constexpr Phrase otherFirstGroup{"its first group is %1, not korvel%2"};
+inline constexpr Phrase namelessFirstGroup{"its first group has no name%1"};
 
 // ByteOrderMark
 inline constexpr Phrase markInFront{"a byte order mark stands in front of it"};
 inline constexpr Phrase wideCharacters{"it is written as UTF-16"};
 
-// Comment: what is lost by it
+// Comment, Unterminated: what is lost by it, or lacks a mark
 inline constexpr Phrase theGroup{"the group %1"};
 inline constexpr Phrase whatFollows{"what follows"};
 
@@ -147,14 +169,19 @@ inline constexpr Phrase fileEnds{"the file ends inside the group %1: a }; is mis
 inline constexpr Phrase braceTooMany{"a } closes %1 too early: what follows is not read"};
 inline constexpr Phrase closesFile{"a } closes nothing: what follows is not read"};
 inline constexpr Phrase noBrace{"the group %1 has no { behind its name"};
-inline constexpr Phrase noColon{"the group %1 has no : behind its name"};
-inline constexpr Phrase equalsBefore{"a group is written %1: {, not %1 = {"};
-inline constexpr Phrase colonBefore{"a setting is written %1 = ..., not %1: ..."};
+inline constexpr Phrase noColon{"the group %1 has no : behind its name%2"};
+inline constexpr Phrase otherMark{"\"%1\" stands where the \"%2\" of %3 belongs"};
+inline constexpr Phrase otherQuote{
+    "%1 stands where a \" of %2 belongs, and becomes part of the value"};
+inline constexpr Phrase readAs{"%1: it is read as %2"};
+inline constexpr Phrase braceTwice{"a { too many: %1 has one already"};
 inline constexpr Phrase noEquals{"%1 has no = behind its name and is not read"};
+inline constexpr Phrase noSettingName{"no name stands before the =: %1 is not read"};
 
 // Catalogue
 inline constexpr Phrase notFound{"no catalogue is found as %1"};
 inline constexpr Phrase notLoaded{"%1 is no catalogue"};
+inline constexpr Phrase beyondAscii{"; letters beyond ASCII are misread: leave them out of paths"};
 inline constexpr Phrase beginsWithSlash{"; file must begin with a /"};
 
 // Columns
@@ -165,6 +192,22 @@ inline constexpr Phrase negativeWidth{
 inline constexpr Phrase widePaper{
     "paperWidth is %1: lines are wider than the printer's %2 characters"};
 
+// LostGroup: what it is
+inline constexpr Phrase noSuchGroup{"no document reads the group %1"};
+inline constexpr Phrase noGroupName{"a group has no name before its {"};
+inline constexpr Phrase secondTopGroup{
+    "only the first group of the file is read, and %1 is another"};
+inline constexpr Phrase groupBetween{"documents' groups stand in korvel itself, not in %1"};
+
+// Duplicate: what it is, and which of both counts
+inline constexpr Phrase groupTwice{"the group %1"};
+inline constexpr Phrase firstCounts{
+    "what the one in line %1 sets counts, this one adds what it does not set"};
+inline constexpr Phrase lastCounts{"this one counts, not that in line %1"};
+
+// NotTrue: where it cannot be told what is meant
+inline constexpr Phrase onlyTrue{"; only true switches it on"};
+
 // UnreadKey: why nothing reads it
 inline constexpr Phrase outsideKorvel{"it stands outside the group korvel"};
 inline constexpr Phrase otherTopGroup{
@@ -172,8 +215,10 @@ inline constexpr Phrase otherTopGroup{
 inline constexpr Phrase misplaced{
     "settings stand in a document's group or in language, in korvel%1"};
 inline constexpr Phrase unclosedGroup{"; does a } lack its ;?"};
-inline constexpr Phrase unknownGroup{"no document reads the group %1%2"};
+inline constexpr Phrase unknownGroup{"no document has such a group%1"};
 inline constexpr Phrase unknownSetting{"there is no such setting%1"};
+inline constexpr Phrase commentedOut{
+    "it is commented out; nothing else is lost by it, but deleting it is safer"};
 
 } // namespace phrase
 

@@ -1,22 +1,38 @@
 // The groups of a settings file: what begins and ends them, or does not.
 #include "companions/check/proofreader.h"
 
+#include "companions/check/settingsgroups.h"
+#include "companions/check/settingwords.h"
 #include "companions/check/words.h"
 #include "companions/shared/oneline.h"
 
 #include <algorithm>
-#include <cstring>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::check {
+
+namespace {
+
+/// What closes what this opens; nothing for no bracket.
+char closingOf(char bracket)
+{
+    return bracket == '[' ? ']' : bracket == '(' ? ')' : bracket == '<' ? '>' : '\0';
+}
+
+} // namespace
 
 /// A group, or a setting with the wrong mark, or a text that has a colon in it.
 void Proofreader::readColon(const Name &name)
 {
     const qint64 behind = behindColons(name.mark);
-    qint64 mark = behind; // that comes next
-    while (mark < bytes.size() && !std::strchr(":={};", bytes[mark]))
-        ++mark;
+    const qint64 mark = scan.nextOf(":={};", behind); // that comes next
     const bool hasText = !scan.endsLine(behind);
+    if (isAt(behind, '=')) {
+        takeStrayOut(name, name.begin);
+        readColonEquals(name, behind);
+        return;
+    }
     if (!isAt(mark, '{') && hasText && !isTop(name.text) && !isGroup(name.text)
         && !isSetting(name.text)) {
         position = scan.lineEnd(behind);
@@ -24,13 +40,28 @@ void Proofreader::readColon(const Name &name)
     }
     takeStrayOut(name, name.begin);
     if (!isAt(mark, '{') && hasText && isSetting(name.text)) {
-        note(Code::Unterminated, name.begin,
-             filled(phrase::colonBefore, shared::inOneLine(name.text, u' ')), pathOf(name.text));
+        noteOtherMark(name.mark, u":"_s, '=', name.text);
         change(name.mark, 1, "=");
-        readSetting(name);
+        readSetting(name, true);
         return;
     }
     readGroup(name);
+}
+
+/// A setting, or a group, with := behind its name.
+void Proofreader::readColonEquals(Name name, qint64 equals)
+{
+    const qint64 brace = scan.behindSpace(equals + 1);
+    if (isAt(brace, '{')) {
+        noteOtherMark(name.mark, u":="_s, ':', name.text);
+        change(equals, 1, {});
+        open(name, brace + 1);
+        return;
+    }
+    noteOtherMark(name.mark, u":="_s, '=', name.text);
+    change(name.mark, equals - name.mark, {});
+    name.mark = equals;
+    readSetting(name, true);
 }
 
 qint64 Proofreader::behindColons(qint64 colon) const
@@ -51,24 +82,68 @@ void Proofreader::readGroup(const Name &name)
              worded(Code::Comment, excerpt(comment, scan.lineEnd(comment)), phrase::whatFollows));
         change(behind, meant - behind, {});
     }
-    if (isAt(meant, '{')) {
-        open(name, meant + 1);
-        return;
-    }
-    qint64 mark = meant;
-    while (mark < bytes.size() && !std::strchr(":={};", bytes[mark]))
-        ++mark;
+    // The renderer passes over other text before it.
+    const qint64 mark = isAt(meant, '{') ? meant : scan.nextOf(":={};", meant);
     if (isAt(mark, '{')) {
-        open(name, mark + 1); // the renderer passes over the text before it
+        if (name.text.isEmpty())
+            change(name.mark, 0, namelessGroup);
+        open(name, mark + 1);
         return;
     }
+    if (readOtherBrace(name, meant))
+        return;
     // It belongs into an empty line, if there is one.
     const qint64 line = std::min(scan.lineEnd(behind) + 1, bytes.size());
     const bool isEmpty = scan.behindSpace(line) > scan.lineEnd(line);
     note(Code::Unterminated, isEmpty ? line : behind,
          filled(phrase::noBrace, shownPathOf(name.text)), pathOf(name.text));
-    change(behind, 0, "{");
-    open(name, behind);
+    // Another word may stand in its place.
+    const qint64 end = mark < scan.lineEnd(behind) ? behind : scan.lineEnd(behind);
+    change(behind, end - behind, "{");
+    open(name, end);
+}
+
+/// A group that begins with another bracket; false when it does not.
+bool Proofreader::readOtherBrace(const Name &name, qint64 brace)
+{
+    const char closing = brace < bytes.size() ? closingOf(bytes[brace]) : '\0';
+    if (closing == '\0' || !scan.isNameBefore("=:", scan.behindSpaceAndComments(brace + 1)))
+        return false;
+    noteOtherMark(brace, QChar::fromLatin1(bytes[brace]), '{', name.text);
+    change(brace, 1, "{");
+    open(name, brace + 1);
+    groups.back().closing = closing;
+    return true;
+}
+
+/// A name with a { behind it.
+void Proofreader::readHeadWithoutColon(const Name &name)
+{
+    const QString meant = meantGroup(name.text);
+    const bool isOther = meant != name.text && !isTop(name.text);
+    note(Code::Unterminated, name.end,
+         filled(phrase::noColon, shownPathOf(name.text), isOther ? orName(meant) : QString()),
+         pathOf(name.text));
+    change(name.end, 0, ":");
+    open(name, name.mark + 1);
+}
+
+/// A { without a name before it.
+void Proofreader::readBraceAlone(const Name &name)
+{
+    takeStrayOut(name, name.mark);
+    // Settings in the outermost group rather lack the name of theirs.
+    const qint64 inner = scan.behindSpaceAndComments(name.mark + 1);
+    const bool hasSettings = groups.size() == 1 && scan.isNameBefore("=", inner);
+    const bool isSecond = lastEnd > 0 && bytes[lastEnd - 1] == '{';
+    if (isSecond && !hasSettings && scan.behindSpace(lastEnd) == name.mark) {
+        note(Code::Unterminated, name.mark, filled(phrase::braceTwice, innermost()));
+        change(name.mark, 1, {});
+        position = lastEnd = name.mark + 1;
+        return;
+    }
+    change(name.mark, 0, QByteArray(namelessGroup) + ':');
+    open(name, name.mark + 1);
 }
 
 void Proofreader::open(const Name &name, qint64 behind)
@@ -76,7 +151,9 @@ void Proofreader::open(const Name &name, qint64 behind)
     if (isGroup(name.text) && !isTop(name.text)) {
         if (groups.isEmpty() && lastTop && isTop(lastTop->name))
             reopen();
-        else if (groups.size() > 1 && isTop(groups.front().name))
+        else if (groups.size() > 1 && isTop(groups.front().name)
+                 && (groups.back().hasSettings
+                     || vocabulary::groupNames().contains(groups.back().name)))
             closeForgotten();
     }
     notation.hasTop = notation.hasTop || (groups.isEmpty() && isTop(name.text));
@@ -98,7 +175,7 @@ void Proofreader::reopen()
 {
     const Group early = lastInner.value_or(*lastTop);
     note(Code::Unterminated, early.brace,
-         filled(phrase::braceTooMany, shared::inOneLine(early.name, u' ')));
+         filled(phrase::braceTooMany, shared::inOneLine(asSeen(early.name), u' ')));
     change(early.brace, early.behind - early.brace, {});
     groups.append({lastTop->name, lastTop->indent});
     lastTop.reset();
@@ -122,9 +199,10 @@ void Proofreader::close(qint64 brace)
     } else if (next < bytes.size() && !groups.isEmpty()) {
         const QString skipped = excerpt(next, std::min(nextSemicolon(next) + 1, bytes.size()));
         note(Code::Unterminated, brace + 1, filled(phrase::braceAlone, skipped));
-        const bool isComma = bytes[next] == ',';
-        change(isComma ? next : brace + 1, isComma ? 1 : 0, ";");
-        behind = isComma ? next + 1 : behind;
+        const bool isComma = scan.isOneOf(",:.", next); // or a mark like it
+        const qint64 comment = next < scan.lineEnd(brace) ? scan.behindComment(next) : next;
+        behind = isComma ? next + 1 : std::max(behind, comment > next ? comment : behind);
+        change(brace + 1, behind - brace - 1, ";");
     }
     if (groups.isEmpty()) {
         note(Code::Unterminated, brace, phrase::closesFile);

@@ -1,60 +1,44 @@
-// The statements of a settings file: names, what is stray before them, and values.
+// The statements of a settings file: names, and what is stray before them.
 #include "companions/check/proofreader.h"
 
-#include "companions/check/vocabulary.h"
+#include "companions/check/settingwords.h"
 #include "companions/check/words.h"
 #include "companions/shared/oneline.h"
 
 #include <algorithm>
-#include <cstring>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::check {
 
-namespace {
-
-/// Whether a name is one of these, or misspelt so that it can be told which.
-bool isNear(const QString &name, const QStringList &names)
-{
-    return names.contains(name) || !vocabulary::nearest(name, names).isEmpty();
-}
-
-const QStringList &settingNames()
-{
-    static const QStringList names = [] {
-        QStringList all;
-        for (const vocabulary::Setting &row : vocabulary::settings())
-            all.append(row.key);
-        for (const vocabulary::LanguageSetting &row : vocabulary::languageSettings())
-            all.append(row.key);
-        return all;
-    }();
-    return names;
-}
-
-} // namespace
-
 bool isTop(const QString &name) { return isNear(name, {vocabulary::group::korvel}); }
 bool isGroup(const QString &name) { return isNear(name, vocabulary::groupNames()); }
-bool isSetting(const QString &name) { return isNear(name, settingNames()); }
 
-namespace {
+bool isSetting(const QString &name)
+{
+    static const QStringList names =
+        keysOf(vocabulary::group::doc) + keysOf(vocabulary::group::language);
+    return isNear(name, names);
+}
 
 bool isKnown(const QString &name) { return isSetting(name) || isGroup(name) || isTop(name); }
-
-} // namespace
 
 QString Proofreader::latin1(qint64 from, qint64 to) const
 {
     return QString::fromLatin1(QByteArrayView(bytes).sliced(from, to - from));
 }
 
-/// A text in quotes, as the store reads it, or the beginning of it.
+/// A text in quotes, as its author sees it, or the beginning of it.
 QString Proofreader::excerpt(qint64 from, qint64 to) const
 {
-    constexpr qint64 enough = 100;
-    return quoted(latin1(from, std::min(to, from + enough)).remove(u'"').simplified());
+    constexpr qint64 enough = 200;
+    to = std::min(to, from + enough);
+    // All bytes of a character of UTF-8.
+    const auto byteAt = [&](qint64 at) { return static_cast<unsigned char>(bytes[at]); };
+    while (to > from && to < bytes.size() && byteAt(to - 1) >= 0x80U
+           && (byteAt(to) & 0xC0U) == 0x80U)
+        ++to;
+    return quoted(asSeen(latin1(from, to)).remove(u'"').simplified());
 }
 
 QStringList Proofreader::pathOf(const QString &name) const
@@ -68,7 +52,7 @@ QStringList Proofreader::pathOf(const QString &name) const
 
 QString Proofreader::shownPathOf(const QString &name) const
 {
-    return shared::inOneLine(pathOf(name).join(u'.'), u' ');
+    return shared::inOneLine(asSeen(pathOf(name).join(u'.')), u' ');
 }
 
 QString Proofreader::innermost() const { return shownPathOf({}).chopped(1); }
@@ -83,6 +67,15 @@ qint64 Proofreader::nextSemicolon(qint64 from)
 void Proofreader::note(Code code, qint64 offset, const QString &text, const QStringList &setting)
 {
     notation.slips.append({code, offset, text, setting});
+}
+
+/// @param name of a setting for an = or a ;, else of a group
+void Proofreader::noteOtherMark(qint64 offset, const QString &mark, char meant, const QString &name)
+{
+    const QString path = shownPathOf(name);
+    const QString owner = meant == '=' ? path : filled(phrase::theGroup, path);
+    note(Code::Unterminated, offset,
+         filled(phrase::otherMark, mark, QChar::fromLatin1(meant), owner), pathOf(name));
 }
 
 void Proofreader::change(qint64 offset, qint64 length, const QByteArray &text)
@@ -106,14 +99,14 @@ Notation Proofreader::read(qint64 from)
 }
 
 /// The name is what stands behind the last line end, ';' or comment before the mark; of several
-/// words there the last one alone if it is known.
+/// words before an equals sign the last one alone if it is known.
 Proofreader::Name Proofreader::nextName() const
 {
     Name name{scan.behindSpace(lastEnd), -1, -1, 0, {}};
     qint64 word = 0;
     bool isNew = true; // what comes next begins a name
     qint64 at = position;
-    while (at < bytes.size() && !std::strchr(":={}", bytes[at])) {
+    while (at < bytes.size() && !scan.isOneOf(":={", at) && !closesGroup(at)) {
         const bool beginsWord = at == position || scan.isSpace(at - 1) || bytes[at - 1] == ';';
         const bool endsName = bytes[at] == ';' || bytes[at] == '\n' || bytes[at] == '\r';
         if (const qint64 behind = beginsWord ? scan.behindComment(at) : at; behind > at) {
@@ -136,15 +129,24 @@ Proofreader::Name Proofreader::nextName() const
     name.mark = at;
     if (name.begin < 0 || name.begin < name.stray)
         name.begin = name.end = at;
-    else if (word > name.begin && isKnown(latin1(word, name.end)))
+    else if (isAt(at, '=') && word > name.begin && isKnown(latin1(word, name.end)))
         name.begin = word;
     name.text = latin1(name.begin, name.end);
     return name;
 }
 
+/// Whether a } stands there, or another bracket in its place.
+bool Proofreader::closesGroup(qint64 at) const
+{
+    if (!scan.isOneOf("}])>", at) || bytes[at] == '}')
+        return isAt(at, '}');
+    return !groups.isEmpty() && (groups.back().closing == bytes[at] || scan.beginsLine(at))
+           && (scan.endsLine(at + 1) || isAt(scan.behindSpace(at + 1), ';'));
+}
+
 void Proofreader::readStatement(const Name &name)
 {
-    switch (bytes[name.mark]) {
+    switch (const char mark = bytes[name.mark]; mark) {
     case ':':
         readColon(name);
         break;
@@ -152,22 +154,15 @@ void Proofreader::readStatement(const Name &name)
         takeStrayOut(name, name.begin);
         readSetting(name);
         break;
-    case '}':
-        takeStrayOut(name, name.mark);
-        close(name.mark);
-        break;
     case '{':
         if (name.text.isEmpty()) {
-            position = name.mark + 1; // it becomes part of the next name
+            readBraceAlone(name);
             break;
         }
         takeStrayOut(name, name.begin);
-        note(Code::Unterminated, name.end, filled(phrase::noColon, shownPathOf(name.text)),
-             pathOf(name.text));
-        change(name.end, 0, ":");
-        open(name, name.mark + 1);
+        readHeadWithoutColon(name);
         break;
-    default: // a ';' alone
+    case ';': // alone
         if (!groups.isEmpty()) {
             note(Code::Unterminated, name.mark, filled(phrase::groupOpen, innermost()));
             change(name.mark, 0, "}");
@@ -175,6 +170,17 @@ void Proofreader::readStatement(const Name &name)
             lastEnd = name.mark + 1;
         }
         position = name.mark + 1;
+        break;
+    default: // of brackets
+        takeStrayOut(name, name.mark);
+        if (mark != '}') {
+            if (groups.back().closing != mark)
+                note(Code::Unterminated, name.mark,
+                     filled(phrase::otherMark, QChar::fromLatin1(mark), u"}",
+                            filled(phrase::theGroup, innermost())));
+            change(name.mark, 1, "}");
+        }
+        close(name.mark);
     }
 }
 
@@ -182,83 +188,22 @@ void Proofreader::readStatement(const Name &name)
 void Proofreader::takeStrayOut(const Name &name, qint64 end)
 {
     end = scan.trimmedEnd(name.stray, end);
-    if (end <= name.stray)
+    const qint64 stray = addEquals(name.stray, end);
+    if (end <= stray)
         return;
-    const qint64 line = scan.lineEnd(name.stray, end);
-    const bool noEquals = isSetting(latin1(name.stray, scan.wordEnd(name.stray)));
-    if (noEquals) {
-        note(Code::Unterminated, name.stray, filled(phrase::noEquals, excerpt(name.stray, line)),
-             pathOf(latin1(name.stray, end)));
-    } else if (!scan.isSwallowing(name.stray, end, bytes[name.mark] != '}')
-               || (bytes[name.mark] == '}' && lastEquals < end)) { // nothing that could be lost
+    const bool closes = closesGroup(name.mark);
+    // What is swallowed before the end, or is not, is nothing that could be lost.
+    if (!scan.isSwallowing(stray, end, !closes) || (closes && lastEquals < end))
         return;
-    } else {
-        const QString path = shownPathOf(name.text);
-        const QString lost = bytes[name.mark] == '}'   ? QString(phrase::whatFollows)
-                             : bytes[name.mark] == '=' ? path
-                                                       : filled(phrase::theGroup, path);
-        note(Code::Comment, name.stray, worded(Code::Comment, excerpt(name.stray, line), lost),
-             pathOf(latin1(name.stray, name.end)));
-    }
-    change(name.stray, end - name.stray, {});
-}
-
-void Proofreader::readSetting(const Name &name)
-{
-    const qint64 value = name.mark + 1;
-    const qint64 begin = scan.behindSpace(value);
-    const qint64 last = nextSemicolon(value);
-    if (isAt(begin, '{') && (isTop(name.text) || isGroup(name.text))) {
-        note(Code::Unterminated, name.begin,
-             filled(phrase::equalsBefore, shared::inOneLine(name.text, u' ')), pathOf(name.text));
-        change(name.mark, 1, ":");
-        open(name, begin + 1);
-        return;
-    }
-    if (groups.size() == 1 && lastClosed && !lastInner && isSetting(name.text))
-        lastInner = lastClosed;
-    const qint64 missing = missingSemicolon(value, last);
-    if (missing < 0) {
-        position = lastEnd = std::min(last + 1, bytes.size());
-        return;
-    }
-    note(Code::Unterminated, missing,
-         filled(phrase::noSemicolon, shownPathOf(name.text), excerpt(value, last)),
-         pathOf(name.text));
-    const bool isComma = missing > value && bytes[missing - 1] == ',';
-    change(isComma ? missing - 1 : missing, isComma ? 1 : 0, ";");
-    position = lastEnd = missing;
-}
-
-/// Where a value lacks its ';' when another statement begins before the next one; -1 when none
-/// does.
-qint64 Proofreader::missingSemicolon(qint64 from, qint64 to) const
-{
-    const qint64 firstEnd = scan.lineEnd(from, to);
-    bool isQuoted = false;
-    for (qint64 at = from; at < firstEnd; ++at) {
-        if (bytes[at] == '"') {
-            isQuoted = !isQuoted;
-            continue;
-        }
-        if (isQuoted || scan.isSpace(at))
-            continue;
-        const bool closes = bytes[at] == '}' && scan.behindSpace(at + 1) >= firstEnd;
-        if (closes
-            || ((scan.isSpace(at - 1) || bytes[at - 1] == '"') && scan.isNameBefore("=:", at)
-                && isKnown(latin1(at, scan.wordEnd(at)))))
-            return scan.trimmedEnd(from, at);
-    }
-    qint64 lastEndOfText = scan.trimmedEnd(from, firstEnd);
-    for (qint64 line = firstEnd; line < to; line = scan.lineEnd(line, to)) {
-        line = scan.behindSpace(line);
-        if (line >= to)
-            break;
-        if (bytes[line] == '}' || scan.behindComment(line) > line || scan.isNameBefore("=:", line))
-            return lastEndOfText;
-        lastEndOfText = scan.trimmedEnd(line, scan.lineEnd(line, to));
-    }
-    return -1;
+    const QString path = shownPathOf(name.text);
+    const QString lost = closes                 ? QString(phrase::whatFollows)
+                         : isAt(name.mark, '=') ? path
+                         : name.text.isEmpty()  ? QString(phrase::whatFollows)
+                                                : filled(phrase::theGroup, path);
+    note(Code::Comment, stray,
+         worded(Code::Comment, excerpt(stray, scan.lineEnd(stray, end)), lost),
+         pathOf(latin1(stray, name.end)));
+    change(stray, end - stray, {});
 }
 
 } // namespace korvel::check

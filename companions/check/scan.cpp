@@ -62,6 +62,13 @@ qint64 Scan::indentOf(qint64 at) const
     return at - before;
 }
 
+qint64 Scan::nextOf(QByteArrayView marks, qint64 from) const
+{
+    while (from < size() && !isOneOf(marks, from))
+        ++from;
+    return from;
+}
+
 qint64 Scan::next(char c, qint64 from) const
 {
     const qint64 found = bytes.indexOf(c, from);
@@ -78,6 +85,39 @@ qint64 Scan::behind(const char *mark, qint64 from) const
     return found < 0 ? lineEnd(from) : from + found + qint64(std::strlen(mark));
 }
 
+bool Scan::beginsComment(qint64 at) const
+{
+    const QByteArrayView rest = QByteArrayView(bytes).sliced(at);
+    return rest.startsWith('#') || rest.startsWith("//") || rest.startsWith("--")
+           || rest.startsWith("/*") || rest.startsWith("<!--") || rest.startsWith(';');
+}
+
+/// Behind a comment up to the end of its line. When it has the head of a group, and what is in the
+/// group is not commented out, only the mark is one.
+qint64 Scan::behindLineComment(qint64 at, qint64 text) const
+{
+    const qint64 end = lineEnd(at);
+    const qint64 name = behindSpace(text);
+    if (name < end && isNameBefore(":", name)) {
+        const qint64 brace = behindSpace(behindSpace(wordEnd(name)) + 1);
+        const qint64 inner = brace < size() ? behindSpace(brace + 1) : brace;
+        if (inner < size() && bytes[brace] == '{' && endsLine(brace + 1) && !beginsComment(inner))
+            return name;
+    }
+    return end;
+}
+
+/// Whether the line before that of a place begins with a semicolon.
+bool Scan::isBehindSemicolon(qint64 at) const
+{
+    const qint64 end = std::max<qint64>(at - indentOf(at) - 1, 0);
+    qint64 begin = end;
+    while (begin > 0 && !isLineEnd(bytes[begin - 1]))
+        --begin;
+    const qint64 text = behindSpace(begin);
+    return text < end && bytes[text] == ';';
+}
+
 qint64 Scan::behindComment(qint64 at) const
 {
     const QByteArrayView rest = QByteArrayView(bytes).sliced(at);
@@ -85,14 +125,15 @@ qint64 Scan::behindComment(qint64 at) const
         return behind("*/", at + 2);
     if (rest.startsWith("<!--"))
         return behind("-->", at + 4);
-    if (rest.startsWith('#') || rest.startsWith("//") || rest.startsWith("--"))
-        return lineEnd(at);
-    // A semicolon alone in its line rather ends something.
+    if (rest.startsWith('#'))
+        return behindLineComment(at, at + 1);
+    if (rest.startsWith("//") || rest.startsWith("--"))
+        return behindLineComment(at, at + 2);
+    // A semicolon alone in its line, or before a } if no comment precedes, rather ends something.
     if (rest.startsWith(';') && beginsLine(at)) {
-        const qint64 text = at + 1;
-        const qint64 end = lineEnd(text);
-        if (behindSpace(text) < end && bytes[behindSpace(text)] != '}')
-            return end;
+        const qint64 text = behindSpace(at + 1);
+        if (text < lineEnd(at + 1) && (bytes[text] != '}' || isBehindSemicolon(at)))
+            return behindLineComment(at, at + 1);
     }
     return at;
 }
@@ -113,11 +154,11 @@ qint64 Scan::wordEnd(qint64 at) const
     return at;
 }
 
-bool Scan::isNameBefore(const char *marks, qint64 at) const
+bool Scan::isNameBefore(QByteArrayView marks, qint64 at) const
 {
     const qint64 end = wordEnd(at);
     const qint64 mark = behindSpace(end);
-    return end > at && mark < size() && std::strchr(marks, bytes[mark]) && bytes[mark] != '\0';
+    return end > at && isOneOf(marks, mark);
 }
 
 bool Scan::isSwallowing(qint64 from, qint64 to, bool nameFollows) const

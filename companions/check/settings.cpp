@@ -3,13 +3,14 @@
 #include "companions/check/checks.h"
 #include "companions/check/columns.h"
 #include "companions/check/settingsfile.h"
-#include "companions/check/vocabulary.h"
+#include "companions/check/settingwords.h"
 #include "companions/check/words.h"
 #include "companions/shared/oneline.h"
 #include "vocabulary/paper.h"
 
-#include <QHash>
 #include <QSet>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,7 +19,6 @@ namespace korvel::check {
 namespace {
 
 using vocabulary::Kind;
-using vocabulary::Method;
 using vocabulary::Setting;
 
 QStringList pathOf(const SettingsFile::Entry &entry)
@@ -33,111 +33,125 @@ Finding about(const SettingsFile::Entry &entry, Code code, const Words &...words
     return {entry.place, code, worded(code, words...), pathOf(entry), entry.occurrence};
 }
 
-/// The keys that a group may have.
-QStringList keysOf(QStringView group)
-{
-    QStringList keys;
-    if (group == vocabulary::group::language) {
-        for (const vocabulary::LanguageSetting &row : vocabulary::languageSettings())
-            keys.append(row.key);
-    } else {
-        for (const Setting &row : vocabulary::settings())
-            keys.append(row.key);
-    }
-    return keys;
-}
-
-/// Whether settings may stand in such groups.
-bool isRead(const QStringList &groups)
-{
-    return groups.size() == 2 && groups.constFirst() == vocabulary::group::korvel
-           && vocabulary::groupNames().contains(groups.constLast());
-}
-
 /// Why no document reads a setting; empty when one does, or when it is a known one that nothing
 /// depends on.
-QString whyUnread(const SettingsFile::Entry &entry)
+QString whyUnread(const SettingsFile &settings, const SettingsFile::Entry &entry)
 {
-    if (entry.groups.isEmpty())
+    if (entry.group < 0)
         return phrase::outsideKorvel;
-    if (!entry.searched || entry.groups.constFirst() != vocabulary::group::korvel)
-        return phrase::otherTopGroup;
-    if (entry.groups.size() > 2)
-        return filled(phrase::misplaced, phrase::unclosedGroup);
-    if (entry.groups.size() < 2)
+    const SettingsGroup &group = settings.groups()[entry.group];
+    if (group.role == SettingsGroup::Role::Groups)
         return filled(phrase::misplaced, QString());
-
-    const QString &group = entry.groups.constLast();
-    if (!vocabulary::groupNames().contains(group))
-        return filled(phrase::unknownGroup, shared::inOneLine(group, u' '),
-                      orNearest(group, vocabulary::groupNames()));
-    const QStringList keys = keysOf(group);
-    if (!keys.contains(entry.key))
-        return filled(phrase::unknownSetting, orNearest(entry.key, keys));
-    return {};
+    if (entry.meant == entry.key)
+        return {};
+    if (isCommentedOut(entry.key))
+        return phrase::commentedOut;
+    const QString meant =
+        group.meant.isEmpty() ? QString() : meantKey(group.meant.constFirst(), entry.key);
+    return filled(phrase::unknownSetting, orName(meant));
 }
 
-/// A question for what ends a value of several lines.
-QString orLineEnd(const QString &value)
+/// A question for what a value may be meant to be.
+QString orMeant(Kind kind, const QString &value)
 {
-    return value.contains(u'\n') ? QString(phrase::lineEnd) : QString();
+    if (value.contains(u'\n'))
+        return phrase::lineEnd;
+    const QString meant = meantValue(kind, value);
+    return meant.isEmpty() && kind == Kind::Switch ? QString(phrase::onlyTrue) : orName(meant);
 }
 
 /// How the value of a setting is read, where that is hardly meant.
-void checkValue(const SettingsFile::Entry &entry, QList<Finding> &findings)
+void checkValue(const SettingsFile::Entry &entry, vocabulary::Documents documents,
+                QList<Finding> &findings)
 {
-    const Setting *setting = vocabulary::findSetting(entry.key);
+    const Setting *setting = vocabulary::findSetting(entry.meant);
     if (!setting || entry.value.isEmpty())
         return;
     bool isNumber = false;
     const int number = entry.value.toInt(&isNumber);
+    const QString seen = asSeen(entry.value);
     if (setting->kind == Kind::Switch && entry.value != vocabulary::on && entry.value != "false"_L1)
-        findings.append(
-            about(entry, Code::NotTrue, entry.key, quoted(entry.value), orLineEnd(entry.value)));
+        findings.append(about(entry, Code::NotTrue, entry.key, quoted(seen),
+                              orMeant(Kind::Switch, entry.value)));
     if (setting->kind == Kind::Number && !isNumber)
-        findings.append(
-            about(entry, Code::NotANumber, entry.key, quoted(entry.value), orLineEnd(entry.value)));
-    const auto documents = vocabulary::documentsOf(entry.groups.constLast());
-    if (entry.key == vocabulary::key::paperWidth && (setting->documents & documents) != 0
+        findings.append(about(entry, Code::NotANumber, entry.key, quoted(seen),
+                              orMeant(Kind::Number, entry.value)));
+    if (entry.meant == vocabulary::key::paperWidth && (setting->documents & documents) != 0
         && number > vocabulary::lineWidth)
         findings.append(about(entry, Code::Columns,
                               filled(phrase::widePaper, shared::inOneLine(entry.value, u' '),
                                      QString::number(vocabulary::lineWidth))));
 }
 
+/// What a setting says, if its group is read.
+void checkEntry(const SettingsFile &settings, const SettingsFile::Entry &entry,
+                QList<Finding> &findings)
+{
+    if (const QString why = whyUnread(settings, entry); !why.isEmpty()) {
+        const QString name = asSeen(pathOf(entry).join(u'.')).simplified();
+        findings.append(about(entry, Code::UnreadKey, name, why));
+        return;
+    }
+    if (entry.before)
+        findings.append(about(entry, Code::Duplicate, entry.key,
+                              filled(phrase::lastCounts, QString::number(entry.before->line))));
+    const QStringList &meant = settings.groups()[entry.group].meant;
+    checkValue(entry, vocabulary::documentsOf(meant.constFirst()), findings);
+}
+
 /// What the settings say, but for lines that are written wrong.
 QList<Finding> checkEntries(const SettingsFile &settings)
 {
     QList<Finding> findings;
-    QHash<QString, Place> groups; // of documents, where their first setting stands
+    QSet<QString> groups; // of documents, that have settings
     QSet<qsizetype> wrongLines;
+    bool knowsLanguage = true; // no setting of it is one that nobody knows
     for (const Finding &slip : settings.slips())
         wrongLines.insert(slip.place.line);
-    QSet<QStringList> unread; // groups that are reported
+    for (const Finding &finding : settings.groupFindings()) {
+        if (!wrongLines.contains(finding.place.line))
+            findings.append(finding);
+    }
+    QSet<qsizetype> misplaced; // groups of documents' groups that have settings, which is said
     for (const SettingsFile::Entry &entry : settings.entries()) {
-        if (wrongLines.contains(entry.place.line))
+        const auto role =
+            entry.group < 0 ? SettingsGroup::Role::Groups : settings.groups()[entry.group].role;
+        const bool isSaid =
+            role == SettingsGroup::Role::Nothing
+            || (role == SettingsGroup::Role::Groups && misplaced.contains(entry.group));
+        if (wrongLines.contains(entry.place.line) || isSaid)
             continue;
-        if (const QString why = whyUnread(entry); !why.isEmpty()) {
-            // Settings of a group that nothing reads are one mistake.
-            if (!isRead(entry.groups) && unread.contains(entry.groups))
-                continue;
-            unread.insert(entry.groups);
-            const QString name = shared::inOneLine(pathOf(entry).join(u'.'), u' ').simplified();
-            findings.append(about(entry, Code::UnreadKey, name, why));
+        if (role == SettingsGroup::Role::Groups)
+            misplaced.insert(entry.group);
+        checkEntry(settings, entry, findings);
+        if (role != SettingsGroup::Role::Settings)
             continue;
-        }
-        checkValue(entry, findings);
-        if (const QString &group = entry.groups.constLast(); !groups.contains(group))
-            groups.insert(group, entry.place);
+        const QStringList &meant = settings.groups()[entry.group].meant;
+        if (meant.size() == 1)
+            groups.insert(meant.constFirst());
+        if (meant.constFirst() == vocabulary::group::language && entry.meant.isEmpty())
+            knowsLanguage = false;
     }
     checkColumns(settings, groups, findings);
-    // Without one of the two settings that are misspelt there, another catalogue is named.
-    if (!unread.contains({vocabulary::group::korvel, vocabulary::group::language}))
+    // Without one of the two settings, another catalogue is named.
+    if (knowsLanguage)
         checkCatalogue(settings, findings);
     return findings;
 }
 
 } // namespace
+
+bool isSettings(const QByteArray &bytes)
+{
+    const Notation notation = readNotation(bytes);
+    if (notation.isLost || notation.hasTop)
+        return notation.hasTop;
+    const SettingsFile settings(bytes);
+    return std::any_of(settings.entries().begin(), settings.entries().end(),
+                       [](const SettingsFile::Entry &entry) {
+                           return vocabulary::findSetting(entry.key) != nullptr;
+                       });
+}
 
 QList<Finding> checkSettings(const SettingsFile &settings)
 {

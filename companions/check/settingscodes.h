@@ -32,6 +32,13 @@ inline constexpr CodeInfo settingsCodes[] = {
      "is misread up to the next such mark, or further."_L1,
      "Put the mark where the finding points: settings are written `name = \"value\";`, groups "
      "`name: { ... };`."_L1},
+    {Code::LostGroup, Level::Error, "lost-group"_L1,
+     "%1: its settings are lost%2"_L1,
+     "A group of a document, or the language, is lost with all its settings, which are at their "
+     "defaults: its name is misspelt, has another text in it or is missing, or the group stands in "
+     "another one, or in a second `korvel`."_L1,
+     "Write the name as in `examples/korvel.conf`, in small letters and with nothing beside it, "
+     "and the group directly in `korvel`."_L1},
     {Code::Catalogue, Level::Error, "catalogue"_L1,
      "labels stay English: %1"_L1,
      "The settings name a catalogue of labels that cannot be loaded."_L1,
@@ -47,12 +54,18 @@ inline constexpr CodeInfo settingsCodes[] = {
      "paperWidth to 32 or less."_L1},
     {Code::UnreadKey, Level::Warning, "unread-key"_L1,
      "nothing reads %1: %2"_L1,
-     "No document reads the setting: its name or its group is misspelt, or it stands outside "
-     "the group of a document."_L1,
-     "Correct the name or the place; upper and lower case are different. There are no "
-     "comments: their text becomes part of the next name."_L1},
+     "No document reads the setting, or a group that is like none of a document: its name is "
+     "misspelt, it stands outside the group of a document, or it is commented out and takes "
+     "nothing else along."_L1,
+     "Correct the name or the place; upper and lower case are different. What is left out on "
+     "purpose can be deleted."_L1},
+    {Code::Duplicate, Level::Warning, "duplicate"_L1,
+     "%1 stands here a second time: %2"_L1,
+     "A setting stands twice in a group: the last one counts. Or a group stands twice: of a "
+     "setting that is in both, the first one that is not empty counts."_L1,
+     "Delete the one that is not meant."_L1},
     {Code::NotTrue, Level::Warning, "not-true"_L1,
-     "%1 is %2 and counts as off; only true switches it on%3"_L1,
+     "%1 is %2 and counts as off%3"_L1,
      "A switch is neither true nor false, and counts as off."_L1,
      "Write exactly true, in small letters and without blanks, to switch it on."_L1},
     {Code::NotANumber, Level::Warning, "not-a-number"_L1,

@@ -1,12 +1,13 @@
-// The settings of a file, gone through group by group.
+// The settings of a file, gone through group by group, and read again as they are meant.
 #include "companions/check/settingsfile.h"
 
-#include "companions/check/vocabulary.h"
+#include "companions/check/settingwords.h"
 #include "companions/check/words.h"
 #include "config/tree.h"
 #include "vocabulary/settings.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
 #include <vector>
@@ -19,38 +20,44 @@ namespace {
 
 using libconfig::Tree;
 
-/// The settings of each group of a tree, those that count, in the order of the file.
-std::vector<std::vector<Tree::Setting>> settingsByGroup(const Tree &tree)
+/// A setting of a tree that counts, and where the one before it stands that does not.
+struct Counting
 {
-    std::vector<std::vector<Tree::Setting>> groups(tree.groups().size());
+    Tree::Setting setting;
+    std::optional<qint64> before;
+};
+
+/// The settings of each group of a tree, those that count, in the order of the file.
+std::vector<std::vector<Counting>> settingsByGroup(const Tree &tree)
+{
+    std::vector<std::vector<Counting>> groups(tree.groups().size());
     std::vector<QHash<QLatin1StringView, std::size_t>> known(groups.size());
     for (const Tree::Setting &setting : tree.settings()) {
         auto &group = groups[setting.group];
         auto &names = known[setting.group];
         const QLatin1StringView name = tree.text(setting.name);
         if (const auto found = names.constFind(name); found != names.cend()) {
-            group[*found] = setting;
+            group[*found] = {setting, group[*found].setting.place};
         } else {
             names.insert(name, group.size());
-            group.push_back(setting);
+            group.push_back({setting, {}});
         }
     }
     return groups;
 }
 
-/// The groups of a tree, each before those in it and these before the next one beside it.
-std::vector<Tree::Index> groupsInOrder(const Tree &tree)
+/// The value that a setting stands for.
+QString meantBy(const SettingsFile::Entry &entry)
 {
-    std::vector<Tree::Index> order;
-    Tree::Index group = Tree::file;
-    while (group != Tree::none) {
-        order.push_back(group);
-        Tree::Index next = tree.groups()[group].firstChild;
-        for (; next == Tree::none && group != Tree::none; group = tree.groups()[group].parent)
-            next = tree.groups()[group].next;
-        group = next;
-    }
-    return order;
+    const korvel::vocabulary::Setting *setting = korvel::vocabulary::findSetting(entry.meant);
+    if (!setting)
+        return entry.value;
+    bool isNumber = false;
+    (void)entry.value.toInt(&isNumber);
+    if (isNumber && setting->kind == korvel::vocabulary::Kind::Number)
+        return entry.value;
+    const QString meant = meantValue(setting->kind, entry.value);
+    return meant.isEmpty() ? entry.value : meant;
 }
 
 } // namespace
@@ -61,37 +68,40 @@ SettingsFile::SettingsFile(const QByteArray &bytes)
 {
     for (qsizetype feed = -1; (feed = bytes.indexOf('\n', feed + 1)) >= 0;)
         lineStarts.append(feed + 1);
-    Notation notation = readNotation(bytes);
+    const Notation notation = readNotation(bytes);
     nothingRead = notation.isLost;
     for (const Slip &slip : notation.slips)
         slipsFound.append({placeOf(slip.offset), slip.code, slip.text, slip.setting, 0});
-    read(bytes, notation.edits);
+    readCorrected(bytes, notation.edits);
+    leftOutCount = static_cast<qsizetype>(document.tree()->leftOut());
     if (!nothingRead)
-        checkFirstGroup(bytes, notation);
+        checkFirstGroup(notation.hasTop);
+    gather();
+    addMeanings();
+    readMeant();
 }
 
-/// Reads a file as it is meant.
-void SettingsFile::read(const QByteArray &bytes, const QList<Edit> &edits)
+/// Reads a file with its slips corrected.
+void SettingsFile::readCorrected(const QByteArray &bytes, const QList<Edit> &edits)
 {
-    QByteArray meant;
+    QByteArray corrected;
     qint64 from = 0; // what is still to be taken over
-    edited.clear();
     for (const Edit &edit : edits) {
         if (edit.offset > from)
-            meant += QByteArrayView(bytes).sliced(from, edit.offset - from);
-        meant += edit.text;
+            corrected += QByteArrayView(bytes).sliced(from, edit.offset - from);
+        corrected += edit.text;
         from = std::max(from, edit.offset + edit.length);
-        edited.append({meant.size(), from});
+        edited.append({corrected.size(), from});
     }
-    meant += QByteArrayView(bytes).sliced(from);
-    readBytes(meant, QString(), u"cfg"_s);
+    corrected += QByteArrayView(bytes).sliced(from);
+    readBytes(corrected, QString(), u"cfg"_s);
 }
 
 /// The first group that holds anything is the only one that is searched, and must be called korvel.
-void SettingsFile::checkFirstGroup(const QByteArray &bytes, Notation &notation)
+void SettingsFile::checkFirstGroup(bool hasTop)
 {
     const Tree &tree = *document.tree();
-    if (tree.isEmpty() && notation.hasTop)
+    if (tree.isEmpty() && hasTop)
         return; // all is meant to be at its default
     if (tree.isEmpty())
         return lose({}, phrase::noSetting, {});
@@ -103,20 +113,16 @@ void SettingsFile::checkFirstGroup(const QByteArray &bytes, Notation &notation)
     const QString top = korvel::vocabulary::group::korvel;
     if (name == top)
         return;
-    const QString nearest = korvel::vocabulary::nearest(name, {top});
-    const QString question = nearest.isEmpty() ? QString() : filled(phrase::didYouMean, top);
-    const QString text = filled(phrase::otherFirstGroup, quoted(name), question);
-    if (nearest.isEmpty())
-        return lose(placeOfMeant(group.place), text, {name});
-    const qint64 offset = offsetOfMeant(group.place);
-    slipsFound.append(
-        {placeOf(offset), Code::NoSettings, worded(Code::NoSettings, text), {name}, 0});
-    QList<Edit> &edits = notation.edits;
-    const auto behind =
-        std::upper_bound(edits.begin(), edits.end(), offset,
-                         [](qint64 at, const Edit &edit) { return at < edit.offset; });
-    edits.insert(behind, {offset, group.name.length, top.toLatin1()});
-    read(bytes, edits);
+    const bool isNameless = name == QLatin1StringView(namelessGroup);
+    const bool isMeant = isNameless || isNear(name, {top});
+    const QString question = isMeant ? orName(top) : QString();
+    const QString text = isNameless
+                             ? filled(phrase::namelessFirstGroup, question)
+                             : filled(phrase::otherFirstGroup, quoted(asSeen(name)), question);
+    const Place place = placeOfCorrected(group.place);
+    if (!isMeant)
+        return lose(place, text, {name});
+    slipsFound.append({place, Code::NoSettings, worded(Code::NoSettings, text), {name}, 0});
 }
 
 /// Notes that nothing is read, which is all there is to say.
@@ -126,35 +132,64 @@ void SettingsFile::lose(Place place, const QString &text, const QStringList &gro
     slipsFound = {{place, Code::NoSettings, worded(Code::NoSettings, text), group, 0}};
 }
 
-QList<SettingsFile::Entry> SettingsFile::entries() const
+void SettingsFile::gather()
 {
     const Tree &tree = *document.tree();
+    const auto place = [this](qint64 corrected) { return placeOfCorrected(corrected); };
+    const SettingsGroups found(tree, place);
+    allGroups = found.all();
+    groupsFound = found.findings();
+    std::vector<Tree::Index> order(allGroups.size() + 1, Tree::file);
+    for (Tree::Index index = 0; index < tree.groups().size(); ++index)
+        order[static_cast<std::size_t>(found.indexOf(index) + 1)] = index;
     const auto settings = settingsByGroup(tree);
-    const Tree::Index searched = tree.groups().front().firstChild;
-    std::vector<QStringList> names(tree.groups().size()); // of a group, from the top-level one on
-    std::vector<Tree::Index> tops(names.size(), Tree::none);
-    QList<Entry> found;
     QHash<QStringList, int> counts;
-    for (const Tree::Index index : groupsInOrder(tree)) {
-        const Tree::Group &group = tree.groups()[index];
-        if (index != Tree::file) {
-            names[index] = names[group.parent] + QStringList(tree.text(group.name));
-            tops[index] = group.parent == Tree::file ? index : tops[group.parent];
-        }
-        for (const Tree::Setting &setting : settings[index]) {
+    for (const Tree::Index index : order) {
+        const qsizetype group = found.indexOf(index);
+        const QStringList path = group < 0 ? QStringList() : allGroups[group].path;
+        for (const auto &[setting, before] : settings[index]) {
             const QString key = tree.text(setting.name);
-            found.append({names[index], key, tree.text(setting.value),
-                          counts[names[index] + QStringList(key)]++,
-                          index != Tree::file && tops[index] == searched,
-                          placeOfMeant(setting.place)});
+            allEntries.append({path, key, tree.text(setting.value),
+                               counts[path + QStringList(key)]++, group, place(setting.place),
+                               before ? std::optional(place(*before)) : std::nullopt, QString()});
         }
     }
-    return found;
 }
 
-qsizetype SettingsFile::leftOut() const
+/// Finds what each setting stands for. A misspelt one beside the right one stands for nothing.
+void SettingsFile::addMeanings()
 {
-    return static_cast<qsizetype>(document.tree()->leftOut());
+    QSet<std::pair<qsizetype, QString>> known;
+    for (const Entry &entry : std::as_const(allEntries))
+        known.insert({entry.group, entry.key});
+    for (Entry &entry : allEntries) {
+        if (entry.group < 0 || allGroups[entry.group].meant.isEmpty())
+            continue;
+        const QString meant = meantKey(allGroups[entry.group].meant.constFirst(), entry.key);
+        if (entry.key.isEmpty())
+            withNameless += allGroups[entry.group].meant;
+        if (meant == entry.key || !known.contains({entry.group, meant}))
+            entry.meant = meant;
+    }
+}
+
+/// Reads the file as it is meant.
+void SettingsFile::readMeant()
+{
+    QString text = korvel::vocabulary::group::korvel + ":{"_L1;
+    QString inGroup;
+    for (qsizetype i = 0; i < allEntries.size() && !nothingRead; ++i) {
+        const Entry &entry = allEntries[i];
+        if (!entry.meant.isEmpty())
+            inGroup += entry.meant + "=\""_L1 + meantBy(entry) + "\";"_L1;
+        const bool isLast = i + 1 == allEntries.size() || allEntries[i + 1].group != entry.group;
+        if (!isLast || inGroup.isEmpty())
+            continue;
+        for (const QString &group : allGroups[entry.group].meant)
+            text += group + ":{"_L1 + inGroup + "};"_L1;
+        inGroup.clear();
+    }
+    readBytes((text + "};"_L1).toLatin1(), QString(), u"cfg"_s);
 }
 
 QString SettingsFile::value(QLatin1StringView group, QLatin1StringView key) const
@@ -185,18 +220,16 @@ Place SettingsFile::placeOf(qint64 offset) const
     return {next - lineStarts.begin(), offset - *std::prev(next) + 1};
 }
 
-/// Likewise, of a byte of the file as it is meant.
-Place SettingsFile::placeOfMeant(qint64 meant) const { return placeOf(offsetOfMeant(meant)); }
-
-qint64 SettingsFile::offsetOfMeant(qint64 meant) const
+/// Likewise, of a byte of the file with its slips corrected.
+Place SettingsFile::placeOfCorrected(qint64 corrected) const
 {
     const auto next =
-        std::upper_bound(edited.begin(), edited.end(), meant,
-                         [](qint64 at, const Behind &behind) { return at < behind.meant; });
+        std::upper_bound(edited.begin(), edited.end(), corrected,
+                         [](qint64 at, const Behind &behind) { return at < behind.corrected; });
     if (next == edited.begin())
-        return meant;
+        return placeOf(corrected);
     const Behind &last = *std::prev(next);
-    return last.offset + meant - last.meant;
+    return placeOf(last.offset + corrected - last.corrected);
 }
 
 } // namespace korvel::check

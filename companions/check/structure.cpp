@@ -14,7 +14,6 @@ namespace {
 
 using vocabulary::Documents;
 using vocabulary::Element;
-using vocabulary::Method;
 namespace attribute = vocabulary::attribute;
 namespace element = vocabulary::element;
 
@@ -27,35 +26,6 @@ Documents printedIn(const QString &element)
             documents |= row.documents;
     }
     return documents;
-}
-
-/// False when the job ends at this method.
-bool checkMethod(Context &context, const Tag &tag)
-{
-    const JobAttribute *name = tag.find(attribute::name);
-    if (!name) {
-        context.note(tag.place, Code::UnknownMethod, phrase::noMethodName, QString());
-        return false;
-    }
-    const Method *found = vocabulary::findMethod(name->value);
-    if (!found) {
-        QStringList names;
-        for (const Method &row : vocabulary::methods())
-            names.append(row.name);
-        context.note(name->place, Code::UnknownMethod,
-                     filled(phrase::noDocument, quoted(name->value)),
-                     orNearest(name->value, names));
-        return false;
-    }
-    if (context.method)
-        context.note(tag.place, Code::SecondMethod, context.method->title);
-    context.method = found;
-    for (const JobAttribute &other : tag.attributes) {
-        if (other.name != attribute::name)
-            noteUnread(context, tag, other, {attribute::name});
-    }
-    noteContents(context, tag);
-    return true;
 }
 
 void checkBeforeMethod(Context &context, const Tag &tag, bool isRoot)
@@ -71,21 +41,12 @@ void checkBeforeMethod(Context &context, const Tag &tag, bool isRoot)
     }
 }
 
-/// Whether a tag carries a figure: by one of its own attributes, or by what is a figure elsewhere.
-/// Shared elements have names of their own choice beside those.
+/// Whether a tag carries a figure.
 bool carriesFigure(const Tag &tag)
 {
-    const Element *inKitchen = vocabulary::findElement(tag.name, vocabulary::KitchenOrder);
-    const bool shared = inKitchen && vocabulary::isShared(*inKitchen);
     return hundredthsOf(tag.text).has_value()
-           || std::any_of(vocabulary::attributes().begin(), vocabulary::attributes().end(),
-                          [&](const vocabulary::Attribute &row) {
-                              const JobAttribute *attribute =
-                                  vocabulary::isFigure(row) && (row.element == tag.name || !shared)
-                                      ? tag.find(row.name)
-                                      : nullptr;
-                              return attribute && !attribute->value.isEmpty();
-                          });
+           || std::any_of(tag.attributes.begin(), tag.attributes.end(),
+                          [&](const JobAttribute &own) { return isFigure(tag, own); });
 }
 
 /// An element that the document does not know.
@@ -104,7 +65,7 @@ void checkIgnored(Context &context, const Tag &tag, bool isRoot)
             context.lost.insert(&tag);
         context.note(tag.place, code, tag.name, context.method->title,
                      elsewhere == 0 ? QString()
-                                    : filled(phrase::onlyIn, vocabulary::titlesOf(elsewhere)),
+                                    : filled(phrase::printedIn, vocabulary::titlesOf(elsewhere)),
                      orLonger(tag.name, own));
         return;
     }
@@ -113,8 +74,14 @@ void checkIgnored(Context &context, const Tag &tag, bool isRoot)
         noteContents(context, tag);
         return;
     }
-    context.note(tag.place, Code::UnknownElement, tag.name, orSimilar(tag.name, own, shared));
+    const bool isFault =
+        std::any_of(context.job.faults.begin(), context.job.faults.end(), [&](const Fault &fault) {
+            return fault.place.line == tag.place.line && fault.place.column == tag.place.column;
+        });
     context.lost.insert(&tag);
+    if (isFault)
+        return; // a tag that is never closed may be meant to close another one
+    context.note(tag.place, Code::UnknownElement, tag.name, orSimilar(tag.name, own, shared));
 }
 
 /// An element that the document knows.
@@ -139,7 +106,7 @@ void checkElement(Context &context, const Tag &tag, const Element &element)
 /// False when the job ends at this tag.
 bool checkTag(Context &context, const Tag &tag, bool isRoot)
 {
-    if (tag.name == element::method)
+    if (tag.name == element::method || context.selections.contains(&tag))
         return checkMethod(context, tag);
     if (context.method && standsForAttribute(context, tag))
         return true;
@@ -162,18 +129,22 @@ QList<Finding> checkJob(const QByteArray &job, const SettingsFile *settings,
     const SettingsFile *usable = settings && settings->isLost() ? nullptr : settings;
     Context context{read, usable, charset};
     gatherContents(context);
+    gatherMethods(context);
     for (const Fault &fault : read.faults)
         context.findings.append({fault.place, fault.code, fault.text, {}, 0});
     const bool goesOn = std::all_of(read.tags.begin(), read.tags.end(), [&](const Tag &tag) {
         return checkTag(context, tag, &tag == &read.tags.constFirst());
     });
-    if (usable)
-        checkLines(context, read.tags);
     if (!context.method && goesOn && read.faults.isEmpty()) {
         context.findings.clear(); // all of them are before the method that is missing
-        context.note({}, Code::NoMethod);
+        context.note({}, Code::NoMethod, phrase::beginWithMethod);
     }
     checkSums(context);
+    const bool asSaid =
+        std::all_of(context.selections.begin(), context.selections.end(),
+                    [](const Selection &selection) { return selection.said == selection.read; });
+    if (usable && asSaid)
+        checkLines(context, read.tags);
     sortByPlace(context.findings);
     return context.findings;
 }

@@ -84,12 +84,15 @@ public:
 
     void add(const Tag &tag)
     {
-        if (context.lost.contains(&tag))
+        if (context.lost.contains(&tag)) {
             addLost(tag);
-        else if (isRow(tag))
+            return;
+        }
+        known &= !context.doubtful.contains(&tag);
+        if (isRow(tag))
             addRow(tag);
         else if (tag.name == element::total)
-            setTotal(tag);
+            setTotal(tag, total && !behind && rows > 0);
         else if (tag.name == element::totals && (document & vocabulary::invoices) != 0)
             addTaxLine(tag);
     }
@@ -127,8 +130,10 @@ private:
     }
 
     /// The last one is the document's; those above it are of parts.
-    void setTotal(const Tag &tag)
+    void setTotal(const Tag &tag, bool again)
     {
+        if (again && (document & withTotal) != 0)
+            context.note(tag.place, Code::SecondTotal);
         total = &tag;
         behind = nullptr;
     }
@@ -189,10 +194,12 @@ private:
         const JobAttribute *number = tag.find(name::number);
         const auto quantity = number ? scaled(number->value) : std::nullopt;
         const auto price = amountOf(tag, name::price);
-        if (!quantity || !price || isProduct(amount, *quantity, *price)
+        if (!quantity || !price || context.doubtful.contains(&tag)
+            || isProduct(amount, *quantity, *price)
             || (tag.name == element::variant && isProduct(-amount, *quantity, *price)))
             return;
         known = false;
+        context.doubtful.insert(&tag);
         context.note(tag.find(name::totalPrice)->place, Code::RowSum, quoted(number->value),
                      quoted(tag.find(name::price)->value), shown(product(*quantity, *price)),
                      name::totalPrice, quoted(tag.find(name::totalPrice)->value));
@@ -200,7 +207,7 @@ private:
 
     void addTaxLine(const Tag &tag)
     {
-        setTotal(tag);
+        setTotal(tag, false);
         ++taxLines;
         const auto whole = amountOf(tag, name::total);
         const auto net = amountOf(tag, name::taxable);
@@ -222,6 +229,7 @@ private:
             rate->one *= 100; // per cent
         const auto note = [&](const QString &factors, qint64 result, QLatin1StringView attribute) {
             known = false;
+            context.doubtful.insert(&tag);
             context.note(tag.find(attribute)->place, Code::TaxSum, factors, shown(result),
                          attribute, quoted(value(attribute)));
         };
@@ -242,6 +250,7 @@ private:
         if (!amount || std::abs(sum - *amount) <= rounded || (invoice && sum == taxable))
             return;
         const JobAttribute &said = *total->find(attribute);
+        context.doubtful.insert(total);
         context.note(said.place, Code::TotalSum, shown(sum),
                      taxLines > 1
                          ? filled(phrase::taxLinesCome, shown(*amount))
@@ -266,34 +275,29 @@ private:
 
 void checkSums(Context &context)
 {
+    // Where a job selects several documents, nobody knows which row is of which.
+    const bool several = context.selections.size() > 1;
     std::optional<Rows> document;
     const Tag *method = nullptr;
-    QList<const Tag *> lost; // in front of the first method
-    const auto close = [&] {
-        if (document)
-            document->close(*method);
-        document.reset();
-    };
+    QList<const Tag *> lost; // in front of the method
     for (const Tag &tag : context.job.tags) {
-        if (tag.name != element::method) {
-            if (document)
-                document->add(tag);
-            else if (context.lost.contains(&tag))
-                lost.append(&tag);
+        const vocabulary::Method *read = context.selections.value(&tag).read;
+        if (!read && context.selections.contains(&tag))
+            return; // the job ends here
+        if (document)
+            document->add(tag);
+        else if (context.lost.contains(&tag))
+            lost.append(&tag);
+        if (!read || document)
             continue;
-        }
-        close();
-        const JobAttribute *called = tag.find(name::name);
-        context.method = called ? vocabulary::findMethod(called->value) : nullptr;
-        if (!context.method)
-            return;
+        context.method = read;
         method = &tag;
         document.emplace(context);
         for (const Tag *other : std::exchange(lost, {}))
             document->add(*other);
     }
-    if (context.job.faults.isEmpty()) // else the rest is not known
-        close();
+    if (document && !several && context.job.faults.isEmpty()) // else the rest is not known
+        document->close(*method);
 }
 
 } // namespace korvel::check

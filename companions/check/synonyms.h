@@ -9,4 +9,10 @@ namespace korvel::check {
 /// joints; empty when none does.
 QString synonymOf(const QString &word, const QStringList &names);
 
+/// Whether a word is that of a figure: a quantity, a price, a discount, a tax.
+bool meansFigure(const QString &word);
+
+/// Whether a word is that of a day or a time of day.
+bool meansTime(const QString &word);
+
 } // namespace korvel::check

@@ -45,6 +45,24 @@ qsizetype steps(QStringView from, QStringView to)
     return last.back();
 }
 
+/// The attributes of an element in one document.
+struct ElementAttributes
+{
+    QLatin1StringView element;
+    Document document;
+    QList<Attribute> rows;
+};
+
+QList<Attribute> rowsOf(QLatin1StringView element, Document document)
+{
+    QList<Attribute> rows;
+    std::copy_if(attributes().begin(), attributes().end(), std::back_inserter(rows),
+                 [&](const Attribute &row) {
+                     return row.element == element && (row.documents & document) != 0;
+                 });
+    return rows;
+}
+
 } // namespace
 
 const Method *findMethod(QAnyStringView name)
@@ -79,14 +97,24 @@ bool isFigure(const Attribute &row)
            || row.column != NoColumn;
 }
 
-QList<Attribute> attributesOf(QAnyStringView element, Document document)
+const QList<Attribute> &attributesOf(QAnyStringView element, Document document)
 {
-    QList<Attribute> rows;
-    for (const Attribute &row : attributes()) {
-        if (row.element == element && (row.documents & document) != 0)
-            rows.append(row);
-    }
-    return rows;
+    static const auto tables = [] {
+        QList<ElementAttributes> all;
+        for (const Element &row : elements()) {
+            for (const Method &method : methods()) {
+                if ((row.documents & method.document) != 0)
+                    all.append({row.name, method.document, rowsOf(row.name, method.document)});
+            }
+        }
+        return all;
+    }();
+    static const QList<Attribute> none;
+    const auto found =
+        std::find_if(tables.begin(), tables.end(), [&](const ElementAttributes &candidate) {
+            return candidate.document == document && candidate.element == element;
+        });
+    return found == tables.end() ? none : found->rows;
 }
 
 const Setting *findSetting(QAnyStringView key)
@@ -119,14 +147,13 @@ Documents documentsOf(QAnyStringView group)
 
 QString titlesOf(Documents documents)
 {
+    constexpr qsizetype fewOthers = 3;
     QStringList titles;
-    for (const Method &method : methods()) {
-        if ((documents & method.document) != 0)
-            titles.append(method.title);
-    }
-    if (2 * titles.size() > methods().size())
-        return u"other documents"_s;
-    return titles.join(", "_L1);
+    QStringList others;
+    for (const Method &method : methods())
+        ((documents & method.document) != 0 ? titles : others).append(method.title);
+    return others.size() <= fewOthers ? u"all documents but "_s + others.join(", "_L1)
+                                      : titles.join(", "_L1);
 }
 
 QString nearest(QStringView misspelt, const QStringList &names)

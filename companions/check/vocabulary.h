@@ -60,7 +60,7 @@ bool isOptional(const Attribute &row);
 bool isFigure(const Attribute &row);
 
 /// The attributes of an element in one document, those of anyAttribute not among them.
-QList<Attribute> attributesOf(QAnyStringView element, Document document);
+const QList<Attribute> &attributesOf(QAnyStringView element, Document document);
 
 /// The setting of that key; null when there is none.
 const Setting *findSetting(QAnyStringView key);
@@ -71,8 +71,8 @@ const QStringList &groupNames();
 /// The documents that read a group of the settings; none for a group that no document reads.
 Documents documentsOf(QAnyStringView group);
 
-/// The titles of documents, parted by commas: "receipt, summary receipt"; "other documents" for
-/// more than half of them.
+/// The titles of documents, parted by commas: "receipt, summary receipt"; where only a few are not
+/// among them, "all documents but" those.
 QString titlesOf(Documents documents);
 
 /**

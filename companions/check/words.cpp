@@ -49,8 +49,10 @@ QString orSimilar(const QString &name, const QStringList &own, const QStringList
     QStringList all = own;
     for (const vocabulary::Element &row : vocabulary::elements())
         all.append(row.name);
-    const QString nearest = nearestName(name, all);
-    if (nearest.isEmpty() || own.contains(nearest) || shared.contains(nearest))
+    const QString nearest = vocabulary::nearest(name, all);
+    if (nearest.isEmpty())
+        return orName(synonymOf(name, own + shared));
+    if (own.contains(nearest) || shared.contains(nearest))
         return orName(nearest);
     return orLonger(nearest, own);
 }

@@ -46,6 +46,19 @@ QString characterIn(QByteArrayView text)
     return u"U+"_s + QString::number(code, 16).toUpper().rightJustified(4, u'0');
 }
 
+/// The value that a text begins with, which has no quotes: up to a blank or the end of its tag.
+QString unquotedIn(QByteArrayView text)
+{
+    constexpr qsizetype longest = 40;
+    const auto end = std::find_if(text.begin(), text.end(),
+                                  [](char c) { return isBlank(c) || c == '>' || c == '<'; });
+    QByteArrayView value = text.first(end - text.begin());
+    if (end != text.end() && *end == '>' && value.endsWith('/'))
+        value.chop(1);
+    const QString shown = QString::fromUtf8(value);
+    return shown.size() > longest ? shown.first(longest - 1) + u'…' : shown;
+}
+
 bool isForbidden(QByteArrayView text)
 {
     const auto code = static_cast<unsigned char>(text.isEmpty() ? ' ' : text.front());
@@ -76,6 +89,7 @@ QString writtenFor(QStringView name)
 constexpr qsizetype toReference = -1;
 constexpr qsizetype toTag = -2;
 constexpr qsizetype toQuote = -3;
+constexpr qsizetype toOpen = -4; // at the element that is open
 
 /// What stands around an error.
 struct Surroundings
@@ -83,15 +97,17 @@ struct Surroundings
     QByteArrayView before;
     QByteArrayView behind;
     bool inRoot;
+    bool isLeft;          // see faultIn()
     bool inTag = false;   // behind the "<" of one and before its ">", in no value
     bool inValue = false; // of an attribute
     qsizetype tag = 0;    // where the last tag begins
     qsizetype quote = 0;  // and the last value of it, with its quote
 
-    Surroundings(QByteArrayView document, qsizetype offset, bool isInRoot)
+    Surroundings(QByteArrayView document, qsizetype offset, bool isInRoot, bool isLeftOpen)
         : before(document.first(offset))
         , behind(document.sliced(offset))
         , inRoot(isInRoot)
+        , isLeft(isLeftOpen)
     {
         const qsizetype start = before.lastIndexOf('<');
         if (start < 0 || before.sliced(start).startsWith("<!"))
@@ -120,6 +136,8 @@ struct Surroundings
             return before.lastIndexOf('&');
         if (lead == toTag)
             return tag;
+        if (lead == toOpen)
+            return before.size();
         return lead == toQuote ? quote : before.size() - lead;
     }
 
@@ -146,6 +164,14 @@ struct Surroundings
     {
         const auto end = std::find_if_not(behind.begin(), behind.end(), isOfName);
         return end != behind.begin() && end != behind.end() && (*end == '=' || isBlank(*end));
+    }
+
+    /// "< receipe", where a tag may stand: behind another one.
+    [[nodiscard]] bool beginsTagWithBlank() const
+    {
+        const QByteArrayView next = behind.trimmed();
+        return before.endsWith('<') && before.chopped(1).trimmed().endsWith('>')
+               && !behind.startsWith(next) && QChar::isLetter(firstOf(next));
     }
 
     [[nodiscard]] bool isUnquoted() const { return inTag && before.trimmed().endsWith('='); }
@@ -206,13 +232,15 @@ constexpr Wording wordings[] = {
      "\"<?\" without a name"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inRoot && at.before.endsWith("<!"); }, 2,
      "\"<!\" begins no comment and no CDATA section"_L1},
+    {XML_ERROR_INVALID_TOKEN, [](At at) { return at.beginsTagWithBlank(); }, 1,
+     "a blank behind \"<\"; the name of a tag stands right behind it"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.before.endsWith('<'); }, 1,
      "\"<\" begins no tag; write &lt;"_L1},
     {XML_ERROR_INVALID_TOKEN,
      [](At at) { return at.isUnquoted() && beginsWithOtherQuote(at.behind); }, 0,
      "{character} is no quote to XML; write \" or '"_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.isUnquoted(); }, 0,
-     "a value without quotes"_L1},
+     "a value without quotes; write \"{value}\""_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inTag && at.behind.startsWith('<'); }, toTag,
      "the tag that begins here has no \">\""_L1},
     {XML_ERROR_INVALID_TOKEN, [](At at) { return at.inTag && at.before.endsWith('/'); }, 1,
@@ -252,9 +280,11 @@ constexpr Wording wordings[] = {
     {XML_ERROR_UNCLOSED_TOKEN, always, 0, "what begins here does not end"_L1},
     {XML_ERROR_UNCLOSED_CDATA_SECTION, always, 0, "a CDATA section without its \"]]>\""_L1},
 
-    {XML_ERROR_NO_ELEMENTS, [](At at) { return at.inRoot; }, 0,
-     "<{open}> of line {line} is not closed"_L1},
+    {XML_ERROR_NO_ELEMENTS, [](At at) { return at.inRoot; }, toOpen,
+     "<{open}> is never closed; write </{open}> where it ends, or /> in place of its >"_L1},
     {XML_ERROR_NO_ELEMENTS, always, 0, "there is no element"_L1},
+    {XML_ERROR_TAG_MISMATCH, [](At at) { return at.isLeft; }, toOpen,
+     "<{open}> is never closed; write </{open}> where it ends, or /> in place of its >"_L1},
     {XML_ERROR_TAG_MISMATCH, [](At at) { return at.inRoot && at.before.endsWith("</"); }, 2,
      "</{name}> where <{open}> of line {line} must be closed"_L1},
     {XML_ERROR_TAG_MISMATCH, always, 0, "an end tag of an entity closes another element"_L1},
@@ -305,25 +335,26 @@ constexpr Wording wordings[] = {
 
 } // namespace
 
-XmlFault faultIn(const QByteArray &document, XML_Error error, qsizetype offset,
-                 const Tag *innermost)
+XmlFault faultIn(const QByteArray &document, XML_Error error, qsizetype offset, const Tag *open,
+                 bool isLeft)
 {
-    const Surroundings at(document, std::min(offset, document.size()), innermost);
+    const Surroundings at(document, std::min(offset, document.size()), open, isLeft);
     const auto row =
         std::find_if(std::begin(wordings), std::end(wordings), [&](const Wording &candidate) {
             return candidate.error == error && candidate.fits(at);
         });
     if (row == std::end(wordings))
-        return {offset, u"this is not well-formed"_s};
+        return {offset, u"this is not well-formed"_s, false};
     QString words = row->words;
     words.replace("{written}"_L1, writtenFor(nameIn(at.behind)));
     words.replace("{name}"_L1, nameIn(at.behind));
     words.replace("{character}"_L1, characterIn(at.behind));
-    if (innermost) {
-        words.replace("{open}"_L1, innermost->name);
-        words.replace("{line}"_L1, QString::number(innermost->place.line));
+    words.replace("{value}"_L1, unquotedIn(at.behind));
+    if (open) {
+        words.replace("{open}"_L1, open->name);
+        words.replace("{line}"_L1, QString::number(open->place.line));
     }
-    return {at.startOf(row->lead), words};
+    return {at.startOf(row->lead), words, row->lead == toOpen};
 }
 
 } // namespace korvel::check

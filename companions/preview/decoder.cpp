@@ -233,7 +233,7 @@ void splitCentring(Command &command)
     const auto blanks = text - command.content.cbegin();
     if (blanks == 0)
         return;
-    const qsizetype width = decoded(command.content).size();
+    const qsizetype width = decoded(command.content, *command.codePage).size();
 
     // With s blanks before n characters: s = (W - n) / 2 rounded down, and s + n is the width.
     for (const qsizetype spaces : {commands::lineWidth - width, commands::lineWidth - 1 - width}) {
@@ -247,8 +247,9 @@ void splitCentring(Command &command)
 
 } // namespace
 
-Decoder::Decoder(QByteArray bytes)
+Decoder::Decoder(QByteArray bytes, const recode::CodePage &page)
     : stream(std::move(bytes))
+    , codePage(page)
 {
 }
 
@@ -267,10 +268,10 @@ std::optional<Command> Decoder::read()
         return {};
 
     const Match found = bestMatch(stream, offset);
-    Command command;
+    Command command = found.whole ? commandOf(found) : Command();
+    command.codePage = &codePage;
     qsizetype end = found.end;
     if (found.whole) {
-        command = commandOf(found);
         if (command.kind == Kind::Line)
             splitCentring(command);
     } else {

@@ -1,6 +1,8 @@
 // The printer's command stream taken apart: bytes to commands, and back.
 #pragma once
 
+#include "companions/recode/codepage.h"
+
 #include <QByteArray>
 
 #include <optional>
@@ -11,8 +13,8 @@ namespace korvel::preview {
 enum class Section { Fiscal, Receipt, Document };
 
 /**
- * One command of the stream. Texts are bytes as they stand in it: UTF-8, unless something went
- * wrong on the way.
+ * One command of the stream. Texts are bytes as they stand in it: of the code page, unless
+ * something went wrong on the way.
  */
 struct Command
 {
@@ -29,6 +31,7 @@ struct Command
     QByteArray amount;                   // SaleRow, Deduction: hundredths, in decimal
     QByteArray quantity;                 // SaleRow
     QByteArray description;              // SaleRow
+    const recode::CodePage *codePage = &recode::CodePage::utf8(); // of the texts
 
     /// Unknown: offset of the first byte that does not fit; the stream's size when it ends too
     /// early.
@@ -56,7 +59,8 @@ struct Command
 class Decoder
 {
 public:
-    explicit Decoder(QByteArray bytes);
+    /// @param page of the texts; outlives the commands
+    explicit Decoder(QByteArray bytes, const recode::CodePage &page = recode::CodePage::utf8());
 
     /// The next command; nothing at the end of the stream.
     std::optional<Command> next();
@@ -67,6 +71,7 @@ private:
     bool endsHere();
 
     const QByteArray stream;
+    const recode::CodePage &codePage;
     qsizetype offset = 0;         // of what was not read yet
     qsizetype line = 1;           // there
     std::optional<Command> ahead; // read already, because the one before asked what follows

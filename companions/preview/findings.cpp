@@ -17,17 +17,14 @@ namespace {
 
 using Kind = Command::Kind;
 
-/// How bytes and sections are called in a finding.
-QString nameOf(Section section) { return u"the "_s + sectionName(section); }
-QString nameOf(QByteArrayView bytes) { return u'"' + escaped(bytes) + u'"'; }
-
 /// Goes through the commands and notes what is wrong.
 class Inspector
 {
 public:
-    Inspector(const QByteArray &bytes, int paperColumns)
+    Inspector(const QByteArray &bytes, int paperColumns, const CodePage &codePage)
         : stream(bytes)
         , columns(paperColumns)
+        , page(codePage)
     {
     }
 
@@ -35,7 +32,7 @@ public:
     {
         if (stream.isEmpty())
             note(0, u"the stream is empty: nothing is printed"_s);
-        Decoder decoder(stream);
+        Decoder decoder(stream, page);
         while (const auto command = tooMany ? std::nullopt : decoder.next())
             inspect(*command);
         if (open)
@@ -53,6 +50,12 @@ public:
     }
 
 private:
+    [[nodiscard]] QString nameOf(Section section) const { return u"the "_s + sectionName(section); }
+    [[nodiscard]] QString nameOf(QByteArrayView bytes) const
+    {
+        return u'"' + escaped(bytes, page) + u'"';
+    }
+
     void note(qsizetype offset, const QString &text)
     {
         if (found.size() == mostFindings) {
@@ -158,15 +161,15 @@ private:
     void inspectText(qsizetype offset, QByteArrayView text)
     {
         bool readable =
-            true; // bytes that are not UTF-8 are one finding as long as they follow each other
+            true; // bytes that are no characters are one finding as long as they follow each other
         while (!text.isEmpty() && !tooMany) {
-            const qsizetype length = characterLength(text);
+            const qsizetype length = characterLength(text, page);
             const QByteArrayView character = text.first(std::max<qsizetype>(length, 1));
             if (length == 0 && readable)
-                note(offset, nameOf(character) + u" is not UTF-8"_s);
+                note(offset, nameOf(character) + u" is not "_s + page.name());
             else if (character == ")")
                 note(offset, u"a \")\" inside a text ends it early"_s);
-            else if (length > 0 && isControl(character))
+            else if (length > 0 && isControl(character, page))
                 note(offset, u"the control character "_s + nameOf(character) + u" inside a text"_s);
             readable = length > 0;
             offset += character.size();
@@ -196,7 +199,8 @@ private:
             return;
         }
         const QByteArrayView rest = QByteArrayView(stream).sliced(bad);
-        note(bad, what + u": "_s + nameOf(rest.first(std::max<qsizetype>(characterLength(rest), 1)))
+        note(bad, what + u": "_s
+                      + nameOf(rest.first(std::max<qsizetype>(characterLength(rest, page), 1)))
                       + u" does not belong here"_s);
     }
 
@@ -213,6 +217,7 @@ private:
 
     const QByteArray &stream;
     const int columns;
+    const CodePage &page;
     std::optional<Section> open;
     qsizetype openedAt = 0;
     Amount registered; // since then
@@ -222,16 +227,16 @@ private:
 
 } // namespace
 
-QList<Finding> findings(const QByteArray &stream, int columns)
+QList<Finding> findings(const QByteArray &stream, int columns, const CodePage &page)
 {
-    return Inspector(stream, columns).inspect();
+    return Inspector(stream, columns, page).inspect();
 }
 
 QString widestRow(const Command &command, int columns)
 {
     QString widest;
     if (command.kind == Kind::Line) {
-        widest = QString(command.spaces, u' ') + decoded(command.content);
+        widest = QString(command.spaces, u' ') + decoded(command.content, *command.codePage);
     } else if (command.kind == Kind::SaleRow || command.kind == Kind::Deduction) {
         // A row may hold more than the description: a quantity, a department.
         Roll roll(columns, [&](const PaperRow &row) {

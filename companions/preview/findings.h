@@ -26,11 +26,13 @@ inline constexpr qsizetype mostFindings = 1000;
  * open or closed twice, sale rows and deductions outside a fiscal section, amounts that are no
  * whole hundredths, quantities that are no number, and bytes in a text that a printer would
  * misread: a closing parenthesis, which ends the text, a slash in a field of a sale row, control
- * characters, and what is not UTF-8. Rows too large to be added up are said too.
+ * characters, and what is no character of the code page. Rows too large to be added up are said
+ * too.
  *
  * @param columns characters in a line of the paper
  */
-QList<Finding> findings(const QByteArray &stream, int columns);
+QList<Finding> findings(const QByteArray &stream, int columns,
+                        const recode::CodePage &page = recode::CodePage::utf8());
 
 /**
  * The widest row of the paper that a command takes, a line as it was sent: what is held against the

@@ -56,10 +56,11 @@ const SectionNames &namesOf(Section section)
     return *row;
 }
 
-QString quoted(const QByteArray &text) { return u'"' + escaped(text) + u'"'; }
-
 QString meaning(const Command &command)
 {
+    const auto quoted = [&](const QByteArray &text) {
+        return QString(u'"' + escaped(text, *command.codePage) + u'"');
+    };
     switch (command.kind) {
     case Kind::Line:
         return u"text line, "_s
@@ -102,7 +103,7 @@ QJsonObject toJson(const Command &command)
         {u"line"_s, command.line},
     };
     const auto text = [&](const QString &key, const QByteArray &bytes) {
-        object.insert(key, decoded(bytes));
+        object.insert(key, decoded(bytes, *command.codePage));
     };
     switch (command.kind) {
     case Kind::Line:
@@ -127,8 +128,8 @@ QJsonObject toJson(const Command &command)
         break;
     }
     const QByteArray bytes = encode(command);
-    if (command.kind == Kind::Unknown || !bytes.isValidUtf8())
-        text(u"bytes"_s, bytes.toHex());
+    if (command.kind == Kind::Unknown || !isReadable(bytes, *command.codePage))
+        object.insert(u"bytes"_s, QString::fromLatin1(bytes.toHex()));
     return object;
 }
 

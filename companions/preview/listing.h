@@ -19,7 +19,7 @@ QString listed(const Command &command);
 
 /**
  * A command as a JSON object, in keys that stay as they are; docs/preview.schema.json has them all.
- * An unknown command, and one with texts that are not UTF-8, which have replacement characters,
+ * An unknown command, and one with bytes that are no characters, which are replaced in its texts,
  * also has its exact "bytes", in hexadecimal.
  */
 QJsonObject toJson(const Command &command);

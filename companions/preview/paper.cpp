@@ -15,13 +15,16 @@ namespace {
 using Kind = Command::Kind;
 using Row = PaperRow::Kind;
 
-QString textOf(const QByteArray &bytes) { return shared::inOneLine(decoded(bytes)); }
-
-/// An amount for the reader: "1.20", or as it was sent where it is no plain number.
-QString moneyOf(const QByteArray &hundredths)
+QString textOf(const Command &command, const QByteArray &bytes)
 {
-    const auto amount = Amount::of(hundredths);
-    return amount ? amount->toString() : u'"' + textOf(hundredths) + u"\"/100"_s;
+    return shared::inOneLine(decoded(bytes, *command.codePage));
+}
+
+/// The amount for the reader: "1.20", or as it was sent where it is no plain number.
+QString moneyOf(const Command &command)
+{
+    const auto amount = Amount::of(command.amount);
+    return amount ? amount->toString() : u'"' + textOf(command, command.amount) + u"\"/100"_s;
 }
 
 } // namespace
@@ -40,7 +43,7 @@ void Roll::print(const Command &command)
     }
     switch (command.kind) {
     case Kind::Line:
-        append(Row::Printed, QString(command.spaces, u' ') + textOf(command.content));
+        append(Row::Printed, QString(command.spaces, u' ') + textOf(command, command.content));
         break;
     case Kind::SectionOpened:
         printSum(u"Sum so far (preview)"_s);
@@ -59,11 +62,11 @@ void Roll::print(const Command &command)
     case Kind::Deduction: {
         const auto amount = Amount::of(command.amount);
         count(amount ? std::optional(-*amount) : std::nullopt);
-        appendSpread(Row::Deducted, u"DEDUCTION"_s, u'-' + moneyOf(command.amount));
+        appendSpread(Row::Deducted, u"DEDUCTION"_s, u'-' + moneyOf(command));
         break;
     }
     case Kind::Unknown:
-        append(Row::Unknown, escaped(command.content));
+        append(Row::Unknown, escaped(command.content, *command.codePage));
         break;
     }
 }
@@ -75,9 +78,9 @@ void Roll::printSaleRow(const Command &row)
     const auto amount = Amount::of(row.amount, row.quantity);
     count(amount);
     if (row.quantity != "1" || !amount)
-        append(Row::Registered, u"  "_s + textOf(row.quantity) + u" x "_s + moneyOf(row.amount));
-    const QString department = u" R"_s + textOf(row.department);
-    appendSpread(Row::Registered, textOf(row.description),
+        append(Row::Registered, u"  "_s + textOf(row, row.quantity) + u" x "_s + moneyOf(row));
+    const QString department = u" R"_s + textOf(row, row.department);
+    appendSpread(Row::Registered, textOf(row, row.description),
                  (amount ? amount->toString() : u"?"_s) + department);
 }
 
@@ -113,11 +116,11 @@ void Roll::appendSpread(Row kind, const QString &left, const QString &right)
     append(kind, right.rightJustified(columns));
 }
 
-QList<PaperRow> paperOf(const QByteArray &stream, int columns)
+QList<PaperRow> paperOf(const QByteArray &stream, int columns, const recode::CodePage &page)
 {
     QList<PaperRow> rows;
     Roll roll(columns, [&](const PaperRow &row) { rows.append(row); });
-    Decoder decoder(stream);
+    Decoder decoder(stream, page);
     while (const auto command = decoder.next())
         roll.print(*command);
     roll.end();

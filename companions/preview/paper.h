@@ -68,6 +68,7 @@ private:
 };
 
 /// All rows of a stream's paper; see Roll.
-QList<PaperRow> paperOf(const QByteArray &stream, int columns);
+QList<PaperRow> paperOf(const QByteArray &stream, int columns,
+                        const recode::CodePage &page = recode::CodePage::utf8());
 
 } // namespace korvel::preview

@@ -1,17 +1,20 @@
-// Cells, ink and torn edges, on an image or on the pages of a PDF.
+// Paper, rows and torn edges, on an image or on the pages of a PDF.
 #include "companions/preview/picture.h"
 
+#include "companions/preview/dotpdf.h"
+#include "companions/preview/ink.h"
+#include "companions/preview/svg.h"
+
+#include <QBitmap>
 #include <QBuffer>
 #include <QFontInfo>
-#include <QFontMetricsF>
-#include <QGlyphRun>
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPolygon>
-#include <QRawFont>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,25 +25,17 @@ namespace {
 using Row = PaperRow::Kind;
 
 constexpr int dotsPerInch = 203;
-constexpr int dotsPerMetre = 7992;
-constexpr QSize cell(12, 24);
-constexpr qsizetype margin = 40;        // 5 mm, on either side of the text
-constexpr int tooth = 8;                // of a torn edge
-constexpr qsizetype space = 24;         // above the first row and below the last
 constexpr qsizetype mostColumns = 2600; // of a row; what is further out is a single "…"
-constexpr qsizetype rowsOfPage = 1300;  // a PDF page has at most 200 inches
+constexpr int dotsOfPage = 31'200;      // of rows; a PDF page has at most 200 inches
 
-const QColor paper(Qt::white);
-const QColor ink(Qt::black);
-const QColor grey(0x80, 0x80, 0x80); // what the preview says, and the edges
-const QColor red(0xc0, 0x20, 0x20);  // what is beyond the paper or unknown
+const QColor red(0xc0, 0x20, 0x20); // what is beyond the paper or unknown
 
-QColor colourOf(Row kind)
+QColor colourOf(Row kind, const Look &look)
 {
     switch (kind) {
     case Row::Computed:
     case Row::Cut:
-        return grey;
+        return QColor(0x80, 0x80, 0x80);
     case Row::Unknown:
         return red;
     case Row::Printed:
@@ -48,114 +43,30 @@ QColor colourOf(Row kind)
     case Row::Deducted:
         break;
     }
-    return ink;
+    return look.ink;
 }
 
-/// The machine's font of fixed width, as large as a cell takes.
-QFont cellFont()
+/// How far a torn edge reaches into the paper, tooth by tooth: evenly, or as a tear does.
+int depthOfTear(int tooth, const Look &look)
 {
-    QFont font;
-    font.setFamilies({u"DejaVu Sans Mono"_s, u"Liberation Mono"_s, u"monospace"_s});
-    font.setStyleHint(QFont::Monospace);
-    font.setFixedPitch(true);
-    for (int size = cell.height(); size > 1; --size) {
-        font.setPixelSize(size);
-        const QFontMetricsF metrics(font);
-        if (metrics.horizontalAdvance(u'0') <= cell.width() + 0.1
-            && metrics.height() <= cell.height())
-            break;
-    }
-    return font;
+    constexpr std::array tear = {7, 2, 8, 3, 6, 1, 9, 2, 7, 4, 8, 1, 6, 3}; // tenths
+    const auto count = static_cast<int>(tear.size());
+    if (look.dots)
+        return look.tooth * tear.at(static_cast<std::size_t>(tooth % count)) / 10;
+    return tooth % 2 == 0 ? look.tooth : 0;
 }
-
-/// Characters that are drawn together in the cells of their units: a letter with its accents, an
-/// emoji.
-qsizetype clusterLength(const QString &text, qsizetype at)
-{
-    qsizetype end = at + (text.at(at).isHighSurrogate() && at + 1 < text.size() ? 2 : 1);
-    while (end < text.size() && text.at(end).isMark())
-        ++end;
-    return end - at;
-}
-
-/// Whether a character looks alone as it does in a text: its script joins and moves no letters.
-bool isPlain(QChar character)
-{
-    switch (character.script()) {
-    case QChar::Script_Common:
-    case QChar::Script_Latin:
-    case QChar::Script_Greek:
-    case QChar::Script_Cyrillic:
-        return true;
-    default:
-        return false;
-    }
-}
-
-/// Letters painted all at once: a painter takes long for each text, however short.
-class Letters
-{
-public:
-    explicit Letters(QPainter &rowPainter)
-        : painter(rowPainter)
-        , font(QRawFont::fromFont(rowPainter.font()))
-        , baseline((cell.height() - font.ascent() - font.descent()) / 2 + font.ascent())
-    {
-    }
-
-    /**
-     * Takes a letter, for the middle of its cell; false, and nothing done, for what is not plain
-     * and what the font does not have.
-     */
-    bool add(QChar letter, QPoint cellAt, const QColor &colour)
-    {
-        quint32 glyph = 0;
-        int count = 1;
-        if (!isPlain(letter) || !font.glyphIndexesForChars(&letter, 1, &glyph, &count)
-            || glyph == 0)
-            return false;
-        QPointF advance;
-        if (!font.advancesForGlyphIndexes(&glyph, &advance, 1))
-            return false;
-        if (colour != pen)
-            paint();
-        pen = colour;
-        glyphs.append(glyph);
-        positions.append(cellAt + QPointF((cell.width() - advance.x()) / 2, baseline));
-        return true;
-    }
-
-    void paint()
-    {
-        if (glyphs.isEmpty())
-            return;
-        QGlyphRun run;
-        run.setRawFont(font);
-        run.setGlyphIndexes(glyphs);
-        run.setPositions(positions);
-        painter.setPen(pen);
-        painter.drawGlyphRun({}, run);
-        glyphs.clear();
-        positions.clear();
-    }
-
-private:
-    QPainter &painter;
-    const QRawFont font;
-    const qreal baseline;
-    QColor pen;
-    QList<quint32> glyphs;
-    QList<QPointF> positions;
-};
 
 } // namespace
 
-Picture::Picture(const QList<PaperRow> &paperRows, int paperColumns)
-    : rows(paperRows)
+Picture::Picture(const QList<PaperRow> &paperRows, int paperColumns, const Look &paperLook)
+    : look(paperLook)
+    , rows(paperRows)
     , columns(paperColumns)
     , widest(paperColumns)
 {
-    for (const PaperRow &row : rows)
+    if (look.dots)
+        rows.removeIf([](const PaperRow &row) { return row.kind == Row::Computed; });
+    for (const PaperRow &row : std::as_const(rows))
         widest =
             std::max(widest, std::min(row.text.size(), std::max<qsizetype>(mostColumns, columns)));
 }
@@ -166,95 +77,153 @@ bool Picture::fitsImage() const
     return rows.size() <= mostRows && qint64(size().width()) * size().height() <= mostDots;
 }
 
-bool Picture::hasFont() { return !QFontInfo(cellFont()).family().isEmpty(); }
+bool Picture::hasFont() { return !QFontInfo(cellFont(Look::plain().cell)).family().isEmpty(); }
 
 QSize Picture::size() const
 {
-    const qsizetype beyond = widest > columns ? margin : 0;
-    const auto width = static_cast<int>(2 * margin + widest * cell.width() + beyond);
-    return {width, static_cast<int>(2 * space + rows.size() * cell.height())};
+    const auto beyond = static_cast<int>(widest - columns);
+    return {paperWidth() + (beyond > 0 ? beyond * look.cell.width() + look.margin : 0),
+            static_cast<int>(2 * look.space + rows.size() * look.cell.height())};
 }
 
-int Picture::paperWidth() const { return static_cast<int>(2 * margin) + columns * cell.width(); }
+int Picture::paperWidth() const
+{
+    return 2 * look.margin + std::max(look.printing, columns * look.cell.width());
+}
 
 void Picture::paint(QPainter &painter) const
 {
     painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setFont(cellFont());
     paintPaper(painter);
-    int top = static_cast<int>(space);
-    for (const PaperRow &row : rows) {
-        paintRow(painter, row, top);
-        top += cell.height();
-    }
+    const auto takeDots = [&](const QImage &dots, int top, const QColor &colour) {
+        painter.setPen(colour);
+        painter.drawPixmap(0, top, QBitmap::fromImage(dots));
+    };
+    const auto ink =
+        look.dots ? dotInk(takeDots, look.cell, size().width()) : smoothInk(painter, look.cell);
+    printRows(*ink, [&](int middle) {
+        painter.setPen(QPen(colourOf(Row::Cut, look), 2, Qt::DashLine));
+        painter.drawLine(0, middle, paperWidth(), middle);
+    });
     painter.restore();
+}
+
+QPolygon Picture::outline() const
+{
+    const int width = paperWidth();
+    const int height = size().height();
+    const int tooth = look.tooth;
+    QPolygon points;
+    for (int x = 0; x <= width; x += tooth)
+        points << QPoint(x, depthOfTear(x / tooth, look));
+    points << QPoint(width, tooth) << QPoint(width, height - tooth);
+    for (int x = width - width % tooth; x >= 0; x -= tooth)
+        points << QPoint(x, height - depthOfTear(x / tooth, look));
+    return points;
 }
 
 void Picture::paintPaper(QPainter &painter) const
 {
-    const int width = paperWidth();
-    const int height = size().height();
-    QPolygon outline;
-    for (int x = 0; x <= width; x += tooth)
-        outline << QPoint(x, x / tooth % 2 == 0 ? tooth : 0);
-    outline << QPoint(width, tooth) << QPoint(width, height - tooth);
-    for (int x = width - width % tooth; x >= 0; x -= tooth)
-        outline << QPoint(x, height - (x / tooth % 2 == 0 ? tooth : 0));
-    painter.setPen(QPen(grey, 1));
-    painter.setBrush(paper);
-    painter.drawPolygon(outline);
+    painter.setRenderHint(QPainter::Antialiasing, !look.dots);
+    painter.setPen(QPen(look.edge, 1));
+    painter.setBrush(look.paper);
+    painter.drawPolygon(outline());
 }
 
-void Picture::paintRow(QPainter &painter, const PaperRow &row, int top) const
+void Picture::printRows(Ink &ink, const std::function<void(int middle)> &cut) const
 {
-    if (row.kind == Row::Cut) {
-        painter.setPen(QPen(grey, 2, Qt::DashLine));
-        const int middle = top + cell.height() / 2;
-        painter.drawLine(0, middle, paperWidth(), middle);
-        return;
+    int top = look.space;
+    for (const PaperRow &row : rows) {
+        if (row.kind == Row::Cut)
+            cut(top + look.cell.height() / 2);
+        else
+            printRow(ink, row, top);
+        ink.endRow();
+        top += look.cell.height();
     }
+    ink.end();
+}
+
+void Picture::printRow(Ink &ink, const PaperRow &row, int top) const
+{
     QString text = row.text;
     if (text.size() > widest)
         text = text.first(widest - 1) + u'…';
-    Letters letters(painter);
+    const int cell = look.cell.width();
     for (qsizetype at = 0, length = 0; at < text.size(); at += length) {
         length = clusterLength(text, at);
-        const bool beyond = at + length > columns;
-        const QColor colour = beyond ? red : colourOf(row.kind);
-        // Behind the paper's edge rather than on its margin, so that nobody takes it for printed.
-        const auto left =
-            static_cast<int>(margin + (beyond ? margin + cell.width() : 0) + at * cell.width());
-        if (length == 1 && (text.at(at) == u' ' || letters.add(text.at(at), {left, top}, colour)))
+        if (length == 1 && text.at(at) == u' ')
             continue;
-        letters.paint(); // what overlaps does so from left to right
-        painter.setPen(colour);
-        painter.drawText(QRect(left, top, static_cast<int>(length) * cell.width(), cell.height()),
-                         Qt::AlignCenter | Qt::TextDontClip | Qt::TextSingleLine,
-                         text.sliced(at, length));
+        // Behind the paper's edge rather than on its margin, so that nobody takes it for printed.
+        const bool beyond = at + length > columns;
+        const auto left = static_cast<int>(beyond ? paperWidth() + (at + 1 - columns) * cell
+                                                  : look.margin + at * cell);
+        ink.print(text.sliced(at, length), {left, top}, beyond ? red : colourOf(row.kind, look));
     }
-    letters.paint();
 }
 
-QImage Picture::toImage() const
+QImage Picture::toImage(const QColor &around) const
 {
-    QImage image(size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    image.setDotsPerMeterX(dotsPerMetre);
-    image.setDotsPerMeterY(dotsPerMetre);
+    QImage image(size(), around.alpha() == 255 ? QImage::Format_RGB32
+                                               : QImage::Format_ARGB32_Premultiplied);
+    image.fill(around);
+    image.setDotsPerMeterX(look.dotsPerMetre);
+    image.setDotsPerMeterY(look.dotsPerMetre);
     QPainter painter(&image);
     paint(painter);
     return image;
 }
 
-Picture Picture::part(qsizetype first, qsizetype count) const
+QByteArray Picture::toSvg(const QString &title, const QColor &around) const
 {
-    Picture page(rows.sliced(first, std::min(count, rows.size() - first)), columns);
-    page.widest = widest;
-    return page;
+    Svg svg(size(), look.cell, look.dotsPerMetre, title, around);
+    if (look.dots) {
+        svg.addDots(toImage(around));
+        return svg.end();
+    }
+    svg.addPaper(outline(), look.paper, look.edge);
+    printRows(*svg.ink(),
+              [&](int middle) { svg.addCut(middle, paperWidth(), colourOf(Row::Cut, look)); });
+    return svg.end();
 }
 
-QByteArray Picture::toPdf() const
+/// Goes through the pages of a PDF, one of which there is at least.
+void Picture::forEachPage(const std::function<void(const Picture &)> &take) const
+{
+    const qsizetype rowsOfPage = dotsOfPage / look.cell.height();
+    qsizetype first = 0;
+    do {
+        const qsizetype count = std::min(rowsOfPage, rows.size() - first);
+        Picture page(rows.sliced(first, count), columns, look);
+        page.widest = widest;
+        take(page);
+        first += rowsOfPage;
+    } while (first < rows.size());
+}
+
+QByteArray Picture::toPdf(const QString &title) const
+{
+    return look.dots ? toDotPdf(title) : toTextPdf(title);
+}
+
+QByteArray Picture::toDotPdf(const QString &title) const
+{
+    DotPdf pdf(title, look.dotsPerMetre);
+    const auto takeDots = [&](const QImage &dots, int top, const QColor &colour) {
+        pdf.addDots(dots, top, colour);
+    };
+    forEachPage([&](const Picture &page) {
+        pdf.beginPage(page.size());
+        pdf.addPaper(page.outline(), look.paper, look.edge);
+        const auto ink = dotInk(takeDots, look.cell, size().width());
+        page.printRows(
+            *ink, [&](int middle) { pdf.addCut(middle, paperWidth(), colourOf(Row::Cut, look)); });
+        pdf.endPage();
+    });
+    return pdf.end();
+}
+
+QByteArray Picture::toTextPdf(const QString &title) const
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -262,19 +231,17 @@ QByteArray Picture::toPdf() const
     writer.setResolution(dotsPerInch);
     writer.setPageMargins(QMarginsF());
     writer.setCreator(u"korvel-preview"_s);
+    writer.setTitle(title);
     QPainter painter;
-    qsizetype first = 0;
-    do {
-        const Picture page = part(first, rowsOfPage);
+    forEachPage([&](const Picture &page) {
         const QSizeF inches = QSizeF(page.size()) / dotsPerInch;
         writer.setPageSize(QPageSize(inches, QPageSize::Inch, {}, QPageSize::ExactMatch));
-        if (first == 0)
-            painter.begin(&writer);
-        else
+        if (painter.isActive())
             writer.newPage();
+        else
+            painter.begin(&writer);
         page.paint(painter);
-        first += rowsOfPage;
-    } while (first < rows.size());
+    });
     painter.end();
     return buffer.data();
 }

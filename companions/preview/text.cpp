@@ -1,48 +1,41 @@
-// UTF-8 taken apart, and bytes spelt out.
+// Texts in their code page, and bytes spelt out.
 #include "companions/preview/text.h"
 
 #include "companions/shared/oneline.h"
 
 #include <QList>
-#include <QStringDecoder>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::preview {
 
-QString decoded(QByteArrayView text)
+QString decoded(QByteArrayView text, const CodePage &page) { return page.decode(text); }
+
+qsizetype characterLength(QByteArrayView text, const CodePage &page)
 {
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless
-                                                     | QStringDecoder::Flag::ConvertInitialBom);
-    return decoder(text);
+    return page.characterLength(text);
 }
 
-qsizetype characterLength(QByteArrayView text)
+bool isReadable(QByteArrayView text, const CodePage &page)
 {
-    if (text.isEmpty())
-        return 0;
-    const auto lead = static_cast<unsigned char>(text.front());
-    if (lead < 0x80)
-        return 1;
-    qsizetype length = 1;
-    if (lead >= 0xF0)
-        length = 4;
-    else if (lead >= 0xE0)
-        length = 3;
-    else if (lead >= 0xC0)
-        length = 2;
-    return length <= text.size() && text.first(length).isValidUtf8() ? length : 0;
+    if (page.isUnicode())
+        return text.isValidUtf8();
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (page.characterLength(text.sliced(i, 1)) == 0)
+            return false;
+    }
+    return true;
 }
 
-bool isControl(QByteArrayView character)
+bool isControl(QByteArrayView character, const CodePage &page)
 {
-    if (character.size() == 1)
+    if (character.size() == 1 && static_cast<unsigned char>(character.front()) < 0x80)
         return static_cast<unsigned char>(character.front()) < 0x20 || character.front() == 0x7f;
-    const QList<uint> points = decoded(character).toUcs4();
+    const QList<uint> points = decoded(character, page).toUcs4();
     return points.size() == 1 && QChar::category(points.front()) == QChar::Other_Control;
 }
 
-QString escaped(QByteArrayView bytes)
+QString escaped(QByteArrayView bytes, const CodePage &page)
 {
     QString text;
     while (!bytes.isEmpty()) {
@@ -51,9 +44,9 @@ QString escaped(QByteArrayView bytes)
             bytes = bytes.sliced(1);
             continue;
         }
-        const qsizetype length = characterLength(bytes);
+        const qsizetype length = characterLength(bytes, page);
         const QByteArrayView character = bytes.first(length > 0 ? length : 1);
-        const QString shown = decoded(character);
+        const QString shown = decoded(character, page);
         const char first = character.front();
         if (first == '\n')
             text += "\\n"_L1;

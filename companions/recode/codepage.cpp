@@ -21,6 +21,11 @@ namespace {
 
 constexpr std::size_t asciiEnd = 0x80;
 
+// Bytes that are no character are halves of pairs while a stream is text: no text has these alone.
+constexpr char32_t firstUnread = 0xDC80;
+constexpr char32_t lastUnread = 0xDCFF;
+constexpr char32_t unreadBase = 0xDC00; // the byte is what is added to it
+
 struct Close
 {
     void operator()(iconv_t open) const { iconv_close(open); }
@@ -102,6 +107,12 @@ std::optional<CodePage> CodePage::named(QByteArrayView name)
     return page;
 }
 
+const CodePage &CodePage::utf8()
+{
+    static const CodePage page("UTF-8", true);
+    return page;
+}
+
 /// Fills the tables; false when this is not one byte a character with ASCII below 128.
 bool CodePage::fill(void *converter)
 {
@@ -141,7 +152,7 @@ bool CodePage::has(char32_t character) const
                && bytesOf.contains(static_cast<char16_t>(character)));
 }
 
-QByteArray CodePage::encode(QStringView text, QList<Loss> *losses) const
+QByteArray CodePage::encode(QStringView text, const TakeLoss &take) const
 {
     QByteArray bytes;
     bytes.reserve(text.size());
@@ -159,8 +170,8 @@ QByteArray CodePage::encode(QStringView text, QList<Loss> *losses) const
             const QChar like = substituteFor(character, [&](char16_t other) { return has(other); });
             substitute = QString(units, like);
             written = substitute;
-            if (losses)
-                losses->append({line, i - lineStart + 1, character, substitute});
+            if (take)
+                take({line, i - lineStart + 1, character, substitute});
         }
         if (isUtf8)
             bytes += written.toUtf8();
@@ -192,10 +203,57 @@ QString CodePage::decode(QByteArrayView bytes) const
     return text;
 }
 
-QByteArray recoded(QByteArrayView stream, const CodePage &from, const CodePage &to,
-                   QList<Loss> *losses)
+qsizetype CodePage::characterLength(QByteArrayView text) const
 {
-    return to.encode(from.decode(stream), losses);
+    if (text.isEmpty())
+        return 0;
+    const auto lead = static_cast<unsigned char>(text.front());
+    if (lead < asciiEnd)
+        return 1;
+    if (!isUtf8)
+        return characters.at(lead) != 0 ? 1 : 0;
+    qsizetype length = 1;
+    if (lead >= 0xF0)
+        length = 4;
+    else if (lead >= 0xE0)
+        length = 3;
+    else if (lead >= 0xC0)
+        length = 2;
+    return length <= text.size() && text.first(length).isValidUtf8() ? length : 0;
+}
+
+std::optional<unsigned char> Loss::unreadByte() const
+{
+    if (character < firstUnread || character > lastUnread)
+        return {};
+    return static_cast<unsigned char>(character - unreadBase);
+}
+
+QString noCodePage(const QString &name)
+{
+    return u"there is no code page \""_s + name
+           + u"\"; take UTF-8, or one that iconv knows of one byte a character, with ASCII below "
+             "128, such as cp858"_s;
+}
+
+QByteArray recoded(QByteArrayView stream, const CodePage &from, const CodePage &to,
+                   const TakeLoss &take)
+{
+    QString text;
+    text.reserve(stream.size());
+    for (qsizetype at = 0; at < stream.size();) {
+        const QByteArrayView rest = stream.sliced(at);
+        const qsizetype length = from.characterLength(rest);
+        const auto byte = static_cast<unsigned char>(rest.front());
+        if (byte < asciiEnd)
+            text += QLatin1Char(rest.front());
+        else if (length > 0)
+            text += from.decode(rest.first(length));
+        else
+            text += QChar(static_cast<char16_t>(unreadBase + byte));
+        at += std::max<qsizetype>(length, 1);
+    }
+    return to.encode(text, take);
 }
 
 } // namespace korvel::recode

@@ -4,11 +4,11 @@
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QHash>
-#include <QList>
 #include <QString>
 #include <QStringView>
 
 #include <array>
+#include <functional>
 #include <optional>
 
 namespace korvel::recode {
@@ -20,7 +20,13 @@ struct Loss
     qsizetype column = 1; // in that line, in UTF-16 units from 1
     char32_t character;   // half a surrogate pair, where a text has one alone
     QString substitute;   // that stands in its place: as many units as the character has
+
+    /// In a stream, the byte that is no character of the code page that it comes in.
+    [[nodiscard]] std::optional<unsigned char> unreadByte() const;
 };
+
+/// What becomes of a loss.
+using TakeLoss = std::function<void(const Loss &)>;
 
 /**
  * What a printer takes the bytes of a text for: a table of one byte a character with ASCII below
@@ -36,14 +42,20 @@ public:
      * The code page that iconv() knows by a name, in capitals or small letters.
      *
      * @param name such as "cp858", "ISO-8859-15" or "UTF-8"
-     * @return nothing where iconv() knows no such name, it has a "/", or it stands for something
-     *         else: several bytes a character, a character that depends on the one before it, or
-     *         other characters than ASCII's below 128
+     * @return nothing where iconv() knows no such name (see noCodePage()), it has a "/", or it
+     * stands for something else: several bytes a character, a character that depends on the one
+     * before it, or other characters than ASCII's below 128
      */
     static std::optional<CodePage> named(QByteArrayView name);
 
+    /// UTF-8, under that name.
+    static const CodePage &utf8();
+
     /// The name that the code page was asked for by.
     [[nodiscard]] QString name() const { return givenName; }
+
+    /// Whether it is UTF-8, and no table.
+    [[nodiscard]] bool isUnicode() const { return isUtf8; }
 
     /**
      * A text in bytes of this code page.
@@ -51,15 +63,18 @@ public:
      * What the code page lacks is replaced, a byte for each UTF-16 unit: by a like character that
      * the code page has (see substitutes.h), else by "?". UTF-8 lacks half surrogate pairs alone.
      *
-     * @param losses gets what was replaced, in the order of the text; may be null
+     * @param take gets each character that was replaced, in the order of the text
      */
-    QByteArray encode(QStringView text, QList<Loss> *losses = nullptr) const;
+    QByteArray encode(QStringView text, const TakeLoss &take = {}) const;
 
     /**
      * The text that bytes of this code page are. Bytes that are no character of it become
      * replacement characters, one for each byte of a table. A byte order mark stays a character.
      */
     [[nodiscard]] QString decode(QByteArrayView bytes) const;
+
+    /// Bytes of the character that a text begins with; 0 when it begins with none, or is empty.
+    [[nodiscard]] qsizetype characterLength(QByteArrayView text) const;
 
 private:
     CodePage(QByteArrayView asked, bool unicode);
@@ -73,12 +88,16 @@ private:
     QHash<char16_t, char> bytesOf;          // the first byte of each character beyond ASCII
 };
 
+/// What to say of a name that is none of a code page: what may be given, in one line.
+QString noCodePage(const QString &name);
+
 /**
  * A command stream in another code page: its texts change, its commands stay.
  *
- * @param losses gets what "to" lacks, by the line and the column of the stream; may be null
+ * @param take gets what "to" lacks, and each byte that is no character of "from", by the line and
+ *             the column of the stream
  */
 QByteArray recoded(QByteArrayView stream, const CodePage &from, const CodePage &to,
-                   QList<Loss> *losses = nullptr);
+                   const TakeLoss &take = {});
 
 } // namespace korvel::recode

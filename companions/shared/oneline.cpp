@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace korvel::shared {
 
 bool isPrintable(char32_t character)
@@ -26,6 +28,14 @@ QString inOneLine(const QString &text, QChar substitute)
             shown += QString(QChar::requiresSurrogates(point) ? 2 : 1, substitute);
     }
     return shown;
+}
+
+QString characterName(char32_t character)
+{
+    QString number = u"U+"_s + QString::number(character, 16).toUpper().rightJustified(4, u'0');
+    if (!isPrintable(character))
+        return number;
+    return u'"' + QString::fromUcs4(&character, 1) + u"\" ("_s + number + u')';
 }
 
 } // namespace korvel::shared

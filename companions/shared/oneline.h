@@ -17,4 +17,7 @@ bool isPrintable(char32_t character);
  */
 QString inOneLine(const QString &text, QChar substitute = QChar::ReplacementCharacter);
 
+/// A character in quotes and by its number, "è" (U+00E8), or by that alone where it does not print.
+QString characterName(char32_t character);
+
 } // namespace korvel::shared

@@ -12,6 +12,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::shared {
 
+namespace {
+
+const QString unwritable = u"cannot write to standard output"_s;
+
+} // namespace
+
 QString programName() { return QFileInfo(QCoreApplication::applicationFilePath()).fileName(); }
 
 int trouble(const QString &text)
@@ -43,7 +49,15 @@ int Output::end(int status)
 {
     writePending();
     failed = failed || !file.flush();
-    return failed ? trouble(u"cannot write to standard output"_s) : status;
+    return failed ? trouble(unwritable) : status;
+}
+
+int writeBytes(const QByteArray &bytes, int status)
+{
+    QFile file;
+    const bool written = file.open(stdout, QIODevice::WriteOnly)
+                         && file.write(bytes) == bytes.size() && file.flush();
+    return written ? status : trouble(unwritable);
 }
 
 int writeOut(const QString &text, int status)

@@ -38,6 +38,9 @@ private:
     bool failed = false;
 };
 
+/// Writes bytes to standard output as they are; the status to end with, as Output::end().
+int writeBytes(const QByteArray &bytes, int status);
+
 /// Writes a text to standard output; the status to end with, as Output::end().
 int writeOut(const QString &text, int status);
 

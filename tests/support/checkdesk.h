@@ -20,8 +20,9 @@ inline const QByteArray jobWithWarning = "<job><method name=\"printSold\"/><cust
 inline const QByteArray jobWithError = "<job>\n<method name=\"printSold\"/><recipe/></job>\n";
 
 inline const QByteArray warning =
-    ":1:32: warning: <customer> prints nothing in the document \"sold items\", only in kitchen "
-    "order, full order, receipt, invoice, delivery note, summary invoice [ignored-element]\n";
+    ":1:32: warning: <customer> prints nothing in the document \"sold items\"; it is printed in "
+    "kitchen order, full order, receipt, invoice, delivery note, summary invoice "
+    "[ignored-element]\n";
 inline const QByteArray error =
     ":2:27: error: no document knows <recipe>: nothing is printed; did you "
     "mean \"receipe\"? [unknown-element]\n";
@@ -67,7 +68,7 @@ public:
 };
 
 inline const QByteArray settingsWarning =
-    "korvel.conf:5:9: warning: printDate is \"yes\" and counts as off; only true switches it on "
+    "korvel.conf:5:9: warning: printDate is \"yes\" and counts as off; did you mean \"true\"? "
     "[not-true]\n";
 
 /// The lines of an output that ends with a line end, without their ends.

@@ -65,6 +65,8 @@ private slots:
             "error.xml" + error);
         row("missing settings", {"--settings", "missing.conf", "error.xml"});
         row("settings in a folder", {"--settings", ".", "error.xml"});
+        row("settings for a job: the others are checked", {"korvel.conf", "error.xml"},
+            "error.xml" + error);
         // The renderer takes what is no regular file for missing settings.
         row("settings in a device", {"--settings", "/dev/null"});
         row("settings in standard input", {"--settings", "-"});
@@ -76,6 +78,27 @@ private slots:
         QFETCH(QByteArray, output);
         const Run run = Desk().run(arguments);
         VERIFY_TROUBLE(run, output);
+    }
+
+    /// Settings that are given as a job, which what is in them shows.
+    void settingsForAJob()
+    {
+        const Desk desk;
+        const QByteArray said = "settings.xml: settings, not a job; check them with korvel-check "
+                                "--settings FILE\n";
+        for (const QByteArray settings :
+             {"korvel:\n{\n};\n", "\xEF\xBB\xBFkorvel: { };", "# ours\nKorvel: { doc: { }; };",
+              "doc: { paperWidth = 32; };"}) {
+            writeFile(desk.path("settings.xml"), settings);
+            const Run run = desk.run({"settings.xml"});
+            VERIFY_TROUBLE(run, QByteArray());
+            QCOMPARE(run.standardError, "korvel-check: " + said);
+        }
+        for (const QByteArray job :
+             {"paperWidth", "x: { y = 1; };", "<job a=\"korvel: {\" paperWidth=\"32\"/>"}) {
+            writeFile(desk.path("settings.xml"), job);
+            VERIFY_ENDED(desk.run({"settings.xml"}), 1);
+        }
     }
 
     void filesOfAnyName_data() { addByteNames(); }

@@ -149,8 +149,8 @@ private slots:
         const Run run = desk.run({"--settings", "shop.conf"});
         VERIFY_ENDED(run, 0);
         QCOMPARE(run.standardOutput,
-                 "shop.conf:5:5: warning: nothing reads korvel.a [1m.b [2m: no document reads the "
-                 "group a [1m [unread-key]\n");
+                 "shop.conf:3:3: warning: nothing reads korvel.a [1m: no document has such a group "
+                 "[unread-key]\n");
     }
 
     void namesOfFiles_data()

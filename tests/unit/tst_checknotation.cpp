@@ -140,8 +140,8 @@ private slots:
         const QByteArray settings =
             "korvel: { doc: {\nprintDate = tr\nue;\npaperWidth = 3\n2;\n};};";
         const QStringList expected = {
-            "2:1: warning: printDate is \"tr ue\" and counts as off; only true switches it on; "
-            "does the line end with ;? [not-true]",
+            "2:1: warning: printDate is \"tr ue\" and counts as off; does the line end with ;? "
+            "[not-true]",
             "4:1: warning: paperWidth is \"3 2\", no whole number, and counts as 0; does the line "
             "end with ;? [not-a-number]"};
         QCOMPARE(shown(checkSettings(*settingsOf(settings))), expected);
@@ -167,14 +167,96 @@ private slots:
             QCOMPARE(codesBeside(lost), QStringList());
     }
 
+    /// What a mistake loses is read as it is meant, so that no job is said to be switched off.
+    void jobsBesideMistakes_data()
+    {
+        QTest::addColumn<QByteArray>("settings");
+
+        for (const QByteArray settings :
+             {"korvel: { Doc: { printCompany = true; }; };",
+              "korvel: { : { printCompany = true; }; };", "korvel: { { printCompany = true; }; };",
+              "korvel: { my doc: { printCompany = true; }; };",
+              "korvel: { docs: { doc: { printCompany = true; }; }; };",
+              "korvel: { receiptdoc: { printDate = true; }; }; korvel: { doc: { printCompany = "
+              "true; }; };",
+              "korvel: { doc: { printcompany = true; }; };",
+              "korvel: { doc: { company = true; }; };",
+              "korvel: { doc: { printCompany = True; }; };",
+              "korvel: { doc: { printCompany = 1; }; };",
+              "korvel: { doc: { printCompany == true; }; };",
+              "korvel: { doc: { printCompany \"true\"; }; };",
+              "korvel: { doc: { printCompany; }; };", "korvel: { doc: { = true; }; };",
+              "korvel: { doc: { printCompany = 'true'; }; };",
+              "korvel: { doc: { printCompany = \"\xE2\x80\x9Ctrue\"; }; };"})
+            QTest::newRow(settings.constData()) << settings;
+    }
+
+    void jobsBesideMistakes()
+    {
+        QFETCH(QByteArray, settings);
+        const auto read = settingsOf(settings);
+        QCOMPARE(shown(checkSettings(*read)).size(), 1);
+        QCOMPARE(codesIn(kitchen("<company name=\"x\"/>"), read.get()), QStringList());
+    }
+
+    /// What is meant to be off is off, and settings behind one that nobody knows stay in their
+    /// group.
+    void jobsBesideWhatIsOff()
+    {
+        for (const char *settings : {"korvel: { doc: { printCompany = no; }; };",
+                                     "korvel: { doc: { # printCompany = true;\n}; };",
+                                     "korvel: { receiptdoc: { printCompany = true; colour = red; "
+                                     "}; doc: { style = a; }; };"})
+            QCOMPARE(codesIn(kitchen("<company name=\"x\"/>"), settingsOf(settings).get()),
+                     QStringList("switched-off"));
+    }
+
+    /// Quotes of Windows, and letters of UTF-8 that end in such a byte.
+    void quotesOfWindows()
+    {
+        const auto found = [](const QByteArray &value) {
+            return shown(
+                checkSettings(*settingsOf("korvel: { doc: { style = " + value + "; }; };")));
+        };
+        QCOMPARE(
+            found("\x93"
+                  "a\x94"),
+            QStringList("1:18: error: \u201C stands where a \" of korvel.doc.style belongs, and "
+                        "becomes part of the value [unterminated]"));
+        QCOMPARE(found("CAFF\xC3\x93"), QStringList());
+        QCOMPARE(found("\"a\""), QStringList());
+    }
+
     /// Checking takes time in proportion to the file: what grows with its square ends with none.
     void longFiles_data()
     {
         QTest::addColumn<QByteArray>("line");
 
-        for (const QByteArray line :
-             {"a = b\n", "paperWidth = 32\n", "/* a\n", "a:\n", "}\n", "doc: {\n", ";\n", "};",
-              "# a = b\n", "a b ", "a = \"", "doc: doc", ": ", "<!--", "printDate ", "= ", "{"})
+        for (const QByteArray line : {"a = b\n",
+                                      "paperWidth = 32\n",
+                                      "/* a\n",
+                                      "a:\n",
+                                      "}\n",
+                                      "doc: {\n",
+                                      ";\n",
+                                      "};",
+                                      "# a = b\n",
+                                      "a b ",
+                                      "a = \"",
+                                      "doc: doc",
+                                      "doc: { a = 1; }; ",
+                                      "dok: { a = 1; }; ",
+                                      "{ a = 1; };",
+                                      "[",
+                                      "] ;",
+                                      "a: [ b = 1;",
+                                      "x: { doc: { a = 1; }; };",
+                                      "# doc: {\n",
+                                      ": ",
+                                      "<!--",
+                                      "printDate ",
+                                      "= ",
+                                      "{"})
             QTest::newRow(line.constData()) << line;
     }
 

@@ -22,6 +22,7 @@ const QList<Program> programs = {
     {"korvel-check",    KORVEL_CHECK   },
     {"korvel-preview",  KORVEL_PREVIEW },
     {"korvel-print",    KORVEL_PRINT   },
+    {"korvel-recode",   KORVEL_RECODE  },
     {"korvel-settings", KORVEL_SETTINGS},
 };
 // clang-format on
@@ -115,6 +116,10 @@ struct Example
 /// A literal line without the escapes that keep its characters as they are typed.
 QString literal(QString line)
 {
+    static const QRegularExpression numbered("\\\\\\[u([0-9A-F]{4})\\]");
+    for (auto match = numbered.match(line); match.hasMatch(); match = numbered.match(line))
+        line.replace(match.capturedStart(), match.capturedLength(),
+                     QChar(match.captured(1).toUShort(nullptr, 16)));
     return line.remove("\\&").replace("\\-", "-").replace("\\(ti", "~").replace("\\e", "\\");
 }
 

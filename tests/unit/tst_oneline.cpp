@@ -62,6 +62,14 @@ private slots:
         QCOMPARE(inOneLine(u"a\n\u2028\u2029\U000E0001b"_s, u' '), u"a     b"_s);
         QCOMPARE(inOneLine(QString(QChar(0xD83D)), u' '), QString(QChar::ReplacementCharacter));
     }
+
+    void namesOfCharacters()
+    {
+        QCOMPARE(characterName(U'è'), u"\"è\" (U+00E8)"_s);
+        QCOMPARE(characterName(U'\U0001F355'), u"\"\U0001F355\" (U+1F355)"_s);
+        QCOMPARE(characterName(U'\n'), u"U+000A"_s);
+        QCOMPARE(characterName(0xDC80), u"U+DC80"_s);
+    }
 };
 
 KORVEL_TEST(TestOneLine)

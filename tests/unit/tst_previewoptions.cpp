@@ -143,6 +143,12 @@ private slots:
         QTest::newRow("output: another kind") << QStringList{"-o", "y.gif", "x.out"};
         QTest::newRow("output: no kind") << QStringList{"--output=png", "x.out"};
         QTest::newRow("output: empty") << QStringList{"--output=", "x.out"};
+        QTest::newRow("format: another") << QStringList{"-o", "y.png", "--format", "gif", "x.out"};
+        QTest::newRow("format: no output") << QStringList{"--format", "png", "x.out"};
+        QTest::newRow("look: another") << QStringList{"-o", "y.png", "--look", "fancy", "x.out"};
+        QTest::newRow("look: no output") << QStringList{"--look", "thermal", "x.out"};
+        QTest::newRow("transparent: no output") << QStringList{"--transparent", "x.out"};
+        QTest::newRow("transparent: PDF") << QStringList{"-o", "y.pdf", "--transparent", "x.out"};
         QTest::newRow("output: no value") << QStringList{"x.out", "-o"};
 
         QTest::newRow("output and JSON") << QStringList{"-o", "y.png", "--json", "x.out"};

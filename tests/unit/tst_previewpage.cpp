@@ -81,7 +81,7 @@ private slots:
             names += matches(cell, option);
         QCOMPARE(sorted(names), sorted(matches(QString::fromUtf8(run.standardOutput), option)
                                        - Names{"--help-all"}));
-        QCOMPARE(names.size(), 7);
+        QCOMPARE(names.size(), 11);
     }
 
     /// Each finding that the page explains can be met, and each that is met is explained.

@@ -5,6 +5,7 @@
 #include "support/program.h"
 #include "support/test.h"
 
+#include <QImage>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -65,6 +66,85 @@ private slots:
             found.append(rowsOfPages.value(found.size()));
         }
         QCOMPARE(found, rowsOfPages);
+    }
+
+    void titleOfAPdf()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("roll.pdf");
+        for (const Look &look : {Look::plain(), Look::thermal(columns)}) {
+            writeFile(path, Picture(roll(1), columns, look).toPdf("Caffè 118.out"));
+            const Run info = runProgram("pdfinfo", {path}, {});
+            const QString text = QString::fromUtf8(info.standardOutput);
+            QVERIFY2(text.contains(QRegularExpression("(?m)^Title: +Caffè 118.out$")),
+                     qPrintable(text));
+        }
+    }
+
+    /// Of a roll dot by dot: a page holds 31,200 dots of rows of 36, and is 80 mm wide.
+    void pagesOfDots_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<QList<int>>("rowsOfPages");
+
+        QTest::newRow("no rows") << 0 << QList<int>{0};
+        QTest::newRow("as much as a page holds") << 866 << QList<int>{866};
+        QTest::newRow("one row more") << 867 << QList<int>{866, 1};
+    }
+
+    void pagesOfDots()
+    {
+        QFETCH(int, rows);
+        QFETCH(QList<int>, rowsOfPages);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("roll.pdf");
+        writeFile(path, Picture(roll(rows), columns, Look::thermal(columns)).toPdf());
+        const Run info = runProgram("pdfinfo", {"-l", "-1", path}, {});
+        QCOMPARE(info.status, 0);
+        QCOMPARE(info.standardError, "");
+        const QString text = QString::fromUtf8(info.standardOutput);
+        QList<int> found;
+        for (const auto &page :
+             QRegularExpression("(?m)^Page +(\\d+ )?size: +([\\d.]+) x ([\\d.]+) pts")
+                 .globalMatch(text)) {
+            const double millimetres = (48 + 36 * rowsOfPages.value(found.size()) + 48) / 8.0;
+            QVERIFY(std::abs(page.captured(2).toDouble() / 72 * 25.4 - 80) < 0.01);
+            QVERIFY(std::abs(page.captured(3).toDouble() / 72 * 25.4 - millimetres) < 0.1);
+            found.append(rowsOfPages.value(found.size()));
+        }
+        QCOMPARE(found, rowsOfPages);
+    }
+
+    /// Dot by dot, a page is what the image is: drawn at 8 dots a millimetre.
+    void dotsOfAPdf()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("roll.pdf");
+        const QList<PaperRow> rows = {{PaperRow::Kind::Printed, "X  Caffè"},
+                                      {PaperRow::Kind::Cut, {}},
+                                      {PaperRow::Kind::Unknown, QString(40, 'x')}};
+        const Picture picture(rows, columns, Look::thermal(columns));
+        writeFile(path, picture.toPdf());
+        const Run run =
+            runProgram("pdftoppm", {"-r", "203.2", "-aa", "no", "-aaVector", "no", "-png", path},
+                       {folder.path(), {}, {}});
+        QCOMPARE(run.status, 0);
+        const QImage page = QImage::fromData(run.standardOutput);
+        const QImage image = picture.toImage();
+        // A part of a dot at the edges is a dot to who draws it.
+        QVERIFY(
+            QRect({}, QSize(2, 2))
+                .contains(QPoint(page.width() - image.width(), page.height() - image.height())));
+        for (const QRect &part : {QRect(32, 48, 576, 36), QRect(32, 120, 800, 36)}) {
+            int other = 0;
+            for (int y = part.top(); y <= part.bottom(); ++y)
+                for (int x = part.left(); x < std::min(part.right(), image.width()); ++x)
+                    other += page.pixelColor(x, y).lightness() / 128
+                                     != image.pixelColor(x, y).lightness() / 128
+                                 ? 1
+                                 : 0;
+            QCOMPARE(other, 0);
+        }
     }
 
     /// Every row is on a page once, in order.

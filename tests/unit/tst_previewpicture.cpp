@@ -14,7 +14,10 @@ using namespace korvel::preview;
 
 using Kind = PaperRow::Kind;
 
-QImage imageOf(const QList<PaperRow> &rows) { return Picture(rows, columns).toImage(); }
+QImage imageOf(const QList<PaperRow> &rows)
+{
+    return Picture(rows, columns).toImage(Qt::transparent);
+}
 
 /// The cell of a character of the paper, both counted from 0.
 QRect cellOf(int column, int row) { return {40 + column * 12, 24 + row * 24, 12, 24}; }
@@ -182,11 +185,24 @@ private slots:
         QVERIFY(all(dotsOf(image, {2, bottom - 23, paperWidth - 4, 14}), isPaper));
     }
 
+    void aroundThePaperIsWhite()
+    {
+        const QList<PaperRow> rows = printed({QString(40, 'x')});
+        const QImage image = Picture(rows, columns).toImage();
+        QVERIFY(!image.hasAlphaChannel());
+        QImage onWhite(image.size(), QImage::Format_RGB32);
+        onWhite.fill(Qt::white);
+        QPainter(&onWhite).drawImage(0, 0, imageOf(rows));
+        QCOMPARE(image.pixelColor(0, 0), QColor(Qt::white));
+        QCOMPARE(image.pixelColor(image.width() - 1, image.height() - 1), QColor(Qt::white));
+        QCOMPARE(image.pixelColor(20, 36), onWhite.pixelColor(20, 36));
+    }
+
     void whatIsWiderThanThePaperIsRed()
     {
         const QString text = "X" + QString(30, ' ') + "XYX";
         const Picture picture(printed({text, "X"}), columns);
-        const QImage image = picture.toImage();
+        const QImage image = picture.toImage(Qt::transparent);
         QVERIFY(image.width() > paperWidth);
 
         // The paper is as it is without what is beyond it.

@@ -44,6 +44,11 @@ private slots:
         QTest::newRow("PNG, the short way") << QStringList{"-o", "y.PNG"} << QSize(464, 768);
         QTest::newRow("PNG on wider paper")
             << QStringList{"--output=y.png", "--columns=42"} << QSize(40 + 42 * 12 + 40, 768);
+        // 32 + 576 + 32 dots wide; 48 + 30 * 36 + 48 high.
+        QTest::newRow("PNG as a thermal printer has it")
+            << QStringList{"-o", "y.png", "--look", "thermal"} << QSize(640, 1176);
+        QTest::newRow("PNG by another name")
+            << QStringList{"-o", "y", "--format", "png"} << QSize(464, 768);
         QTest::newRow("PDF") << QStringList{"-o", "y.pdf"} << QSize();
         QTest::newRow("PDF in capitals") << QStringList{"-oy.PDF"} << QSize();
     }
@@ -61,6 +66,54 @@ private slots:
         const QByteArray picture = bytesOf(desk.path(files.constFirst()));
         QCOMPARE(sizeOfPng(picture), size);
         QCOMPARE(picture.startsWith("%PDF-"), !size.isValid());
+    }
+
+    void formats()
+    {
+        const Desk desk(documentOf("Ciao"));
+        for (const QString &look : QStringList{"plain", "thermal"}) {
+            const QStringList options = {"--look", look, "x.out", "-o"};
+            VERIFY_ENDED(desk.run(options + QStringList{"y.svg"}), 0);
+            const QByteArray svg = bytesOf(desk.path("y.svg"));
+            QVERIFY2(svg.startsWith("<svg "), svg.constData());
+            QVERIFY(svg.contains("<title>x.out</title>"));
+            VERIFY_ENDED(desk.run(options + QStringList{"y.pdf"}), 0);
+            QVERIFY(bytesOf(desk.path("y.pdf")).startsWith("%PDF-"));
+        }
+    }
+
+    /// The same as into a file.
+    void standardOutput()
+    {
+        const Desk desk(documentOf("Ciao"));
+        for (const QString &format : QStringList{"png", "svg"}) {
+            VERIFY_ENDED(desk.run({"-o", "y." + format, "x.out"}), 0);
+            const Run run = desk.run({"-o", "-", "--format", format, "x.out"});
+            VERIFY_ENDED(run, 0);
+            QVERIFY(run.standardOutput == bytesOf(desk.path("y." + format)));
+        }
+        const Run pdf = desk.run({"--output=-", "--format=pdf", "x.out"});
+        VERIFY_ENDED(pdf, 0);
+        QVERIFY(pdf.standardOutput.startsWith("%PDF-"));
+        const Run unasked = desk.run({"-o-", "x.out"});
+        VERIFY_ENDED(unasked, 0);
+        QVERIFY(unasked.standardOutput == bytesOf(desk.path("y.png")));
+        const Run full = preview({"-o", "-", "x.out"}, {desk.folder.path(), {}, {}, "/dev/full"});
+        VERIFY_TROUBLE(full);
+    }
+
+    void aroundThePaper()
+    {
+        const Desk desk(documentOf("Ciao"));
+        constexpr int colourType = 25; // in a PNG: 2 without transparency, 6 with it
+        VERIFY_ENDED(desk.run({"-o", "y.png", "x.out"}), 0);
+        QCOMPARE(bytesOf(desk.path("y.png")).at(colourType), char(2));
+        VERIFY_ENDED(desk.run({"-o", "y.png", "--transparent", "x.out"}), 0);
+        QCOMPARE(bytesOf(desk.path("y.png")).at(colourType), char(6));
+        VERIFY_ENDED(desk.run({"-o", "y.svg", "x.out"}), 0);
+        QVERIFY(bytesOf(desk.path("y.svg")).contains("<rect "));
+        VERIFY_ENDED(desk.run({"-o", "y.svg", "--transparent", "x.out"}), 0);
+        QVERIFY(!bytesOf(desk.path("y.svg")).contains("<rect "));
     }
 
     void aPictureReplacesAnother()

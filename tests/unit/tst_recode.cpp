@@ -118,7 +118,7 @@ private slots:
         const auto page = CodePage::named(name);
         QVERIFY(page);
         QList<Loss> lost;
-        QCOMPARE(page->encode(text, &lost), bytes);
+        QCOMPARE(page->encode(text, [&](const Loss &loss) { lost.append(loss); }), bytes);
         QCOMPARE(shown(lost), losses);
         QCOMPARE(page->encode(text), bytes);
         if (losses.isEmpty())
@@ -141,10 +141,57 @@ private slots:
         const auto utf8 = CodePage::named("UTF-8");
         const auto page = CodePage::named("cp850");
         QList<Loss> losses;
-        const QByteArray sent = recoded(stream, *utf8, *page, &losses);
+        const auto take = [&](const Loss &loss) { losses.append(loss); };
+        const QByteArray sent = recoded(stream, *utf8, *page, take);
         QCOMPARE(sent, "=K\n=C1\n=R1/$120/*2/(Caff\x8A \"d'oro\")\n=T1\n");
         QCOMPARE(shown(losses), QStringList({"3:20 U+201C \"", "3:22 U+2019 '", "3:26 U+201D \""}));
         QCOMPARE(recoded(sent, *page, *utf8), "=K\n=C1\n=R1/$120/*2/(Caffè \"d'oro\")\n=T1\n");
+    }
+
+    void bytesOfStreamsThatAreNoCharacters_data()
+    {
+        QTest::addColumn<QByteArray>("from");
+        QTest::addColumn<QByteArray>("to");
+        QTest::addColumn<QByteArray>("stream");
+        QTest::addColumn<QByteArray>("sent");
+        QTest::addColumn<QStringList>("lost"); // line, column and byte
+
+        const auto row = [](const char *what, const QByteArray &from, const QByteArray &to,
+                            const QByteArray &stream, const QByteArray &sent,
+                            const QStringList &lost) {
+            QTest::newRow(what) << from << to << stream << sent << lost;
+        };
+        row("no UTF-8", "UTF-8", "cp858", "a\n\xE8)", "a\n?)", {"2:1 e8"});
+        row("no UTF-8, to UTF-8", "UTF-8", "UTF-8", "\xE8)", "?)", {"1:1 e8"});
+        row("each byte of the beginning of a character", "UTF-8", "cp858", "\xE2\x82)\n",
+            "?"
+            "?)\n",
+            {"1:1 e2", "1:2 82"});
+        row("half a pair in UTF-8", "UTF-8", "UTF-8", "\xED\xB2\x80", "???",
+            {"1:1 ed", "1:2 b2", "1:3 80"});
+        row("free in Greek", "ISO-8859-7", "UTF-8", "\xE1\xD2", "\xCE\xB1?", {"1:2 d2"});
+        row("no ASCII", "ASCII", "cp858", "=o\n\xFF=o\n", "=o\n?=o\n", {"2:1 ff"});
+        row("a replacement character is one", "UTF-8", "UTF-8", "\xEF\xBF\xBD", "\xEF\xBF\xBD", {});
+        row("so is a byte order mark", "UTF-8", "UTF-8", "\xEF\xBB\xBF=o\n", "\xEF\xBB\xBF=o\n",
+            {});
+    }
+
+    void bytesOfStreamsThatAreNoCharacters()
+    {
+        QFETCH(QByteArray, from);
+        QFETCH(QByteArray, to);
+        QFETCH(QByteArray, stream);
+        QFETCH(QByteArray, sent);
+        QFETCH(QStringList, lost);
+        QStringList found;
+        const auto take = [&](const Loss &loss) {
+            found.append(QString("%1:%2 %3")
+                             .arg(loss.line)
+                             .arg(loss.column)
+                             .arg(loss.unreadByte().value_or(0), 0, 16));
+        };
+        QCOMPARE(recoded(stream, *CodePage::named(from), *CodePage::named(to), take), sent);
+        QCOMPARE(found, lost);
     }
 };
 

@@ -74,8 +74,8 @@ private slots:
 
         row("a misspelt key", doc("paperwidth = 30;"),
             {"korvel.doc.paperwidth", "korvel.doc.paperwidth.30"}, "No document");
-        row("a key of an unknown group", "docs: { paperWidth = 30; };",
-            {"korvel.docs.paperWidth", "korvel.docs.paperWidth.30"}, "No document");
+        row("a misspelt group", "docs: { paperWidth = 30; };", {"korvel.docs"}, "No document");
+        row("an unknown group", "custom: { paperWidth = 30; };", {"korvel.custom"}, "No document");
         row("a key outside a document's group", "paperWidth = 30;",
             {"korvel.paperWidth", "korvel.paperWidth.30"}, "No document");
         row("the keys of the language", "language: { basedir = /; file = ; };", {}, {});
@@ -83,8 +83,8 @@ private slots:
             {"korvel.language.file", "korvel.language.file./"}, "catalogue");
         row("another key of the language", "language: { name = it; };",
             {"korvel.language.name", "korvel.language.name.it"}, "No document");
-        row("a key too deep", doc("inner: { paperWidth = 30; };"),
-            {"korvel.doc.inner.paperWidth", "korvel.doc.inner.paperWidth.30"}, "No document");
+        row("a key too deep", doc("inner: { paperWidth = 30; };"), {"korvel.doc.inner"},
+            "No document");
 
         // W - q - p - t - 3 characters for the description of a receipt, at least one.
         row("columns that leave one character",
@@ -114,8 +114,8 @@ private slots:
         row("a paper wider than the printer's", doc("paperWidth = 33;"),
             {"korvel.doc.paperWidth", "korvel.doc.paperWidth.33"}, "32");
         row("the second of two groups of a name",
-            "doc: { printDate = true; }; doc: { printDate = yes; };",
-            {"korvel.doc.printDate", "korvel.doc.printDate.yes"}, "off");
+            "doc: { printDate = true; }; doc: { printTime = true; };", {"korvel.doc"},
+            "second time");
     }
 
     void marks()

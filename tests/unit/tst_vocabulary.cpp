@@ -136,7 +136,11 @@ private slots:
             KitchenOrder | FullOrder | Receipt | Invoice | DeliveryNote | SummaryInvoice;
         QCOMPARE(titlesOf(six),
                  "kitchen order, full order, receipt, invoice, delivery note, summary invoice");
-        QCOMPARE(titlesOf(six | SoldItems), "other documents");
+        QCOMPARE(titlesOf(vocabulary::shared),
+                 "all documents but fiscal receipt, summary order, summary fiscal receipt");
+        QCOMPARE(titlesOf(vocabulary::shared & ~Documents(SoldItems)),
+                 "kitchen order, full order, receipt, invoice, delivery note, summary receipt, "
+                 "summary invoice, period report, statement of account");
     }
 };
 

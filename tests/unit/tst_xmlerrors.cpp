@@ -81,8 +81,10 @@ private slots:
             "\",\" cannot stand behind a value; for a quote in a value write &quot;");
         row("<job a^'1'/>", "a value without a \"=\" before it");
         row("<job a=^\u201c1\u201d/>", "\"\u201c\" is no quote to XML; write \" or '");
-        row("<job a=^1/>", "a value without quotes");
-        row("<job a = ^>", "a value without quotes");
+        row("<job a=^1/>", "a value without quotes; write \"1\"");
+        row("<job a=^\u00e8 b='1'>", "a value without quotes; write \"\u00e8\"");
+        row("<job a=^1/2>", "a value without quotes; write \"1/2\"");
+        row("<job a = ^>", "a value without quotes; write \"\"");
         row("<job a^/>", "an attribute without a value");
         row("<job a ^b='1'/>", "an attribute without a value");
         row("<job a='1'^b='2'/>", "no blank between a value and the next attribute");
@@ -95,11 +97,19 @@ private slots:
         row("<job>^<a b='1'", "a tag without its \">\", or with a quote too few");
         row("<job>^<a b='1/>", "a tag without its \">\", or with a quote too few");
         row("<job>1 ^< 2</job>", "\"<\" begins no tag; write &lt;");
+        row("<job> ^< a/></job>", "a blank behind \"<\"; the name of a tag stands right behind it");
+        row("<job>a ^< b</job>", "\"<\" begins no tag; write &lt;");
         row("<job>^<1/></job>", "\"<\" begins no tag; write &lt;");
         row("<job>^</ job>", "\"</\" without a name");
 
-        row("<job>\n<a>\n^</job>", "</job> where <a> of line 2 must be closed");
-        row("\n<job>\n<a/>\n^", "<job> of line 2 is not closed");
+        row("<job>\n<a>\n^</b></job>", "</b> where <a> of line 2 must be closed");
+        row("<job>\n<a>\n^</jobs>", "</jobs> where <a> of line 2 must be closed");
+        const QString open =
+            "<%1> is never closed; write </%1> where it ends, or /> in place of its "
+            ">: nothing behind line %2 was checked";
+        row("<job>\n^<a>\n<b>\n</job >", open.arg("a").arg(4));
+        row("\n^<job>\n<a/>\n", open.arg("job").arg(4));
+        row("<job>\n<a/>\n^<job>", open.arg("job").arg(3));
         row("<job/>^</job>", "an end tag where no element is open");
         row("^</job>", "an end tag where no element is open");
         row("^", "there is no element");
@@ -143,10 +153,12 @@ private slots:
         const qsizetype at = job.indexOf('^');
         const QByteArray before = job.first(at);
         const QString line = QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1));
-        QCOMPARE(faultIn(job.remove(at, 1)), QString("%1:%2: %3: nothing behind this was checked")
+        const QString unread =
+            words.contains("nothing behind") ? "" : ": nothing behind this was checked";
+        QCOMPARE(faultIn(job.remove(at, 1)), QString("%1:%2: %3%4")
                                                  .arg(before.count('\n') + 1)
                                                  .arg(line.size() + 1)
-                                                 .arg(words));
+                                                 .arg(words, unread));
     }
 
     void nullCharacter()

@@ -1,0 +1,39 @@
+// Pictures as the command line asks for them.
+#pragma once
+
+#include "companions/preview/paper.h"
+
+#include <QCommandLineParser>
+#include <QString>
+
+#include <optional>
+
+namespace korvel::preview {
+
+/// A picture that is asked for.
+struct PictureRequest
+{
+    enum class Format { Png, Svg, Pdf };
+
+    QString path; // "-" for standard output
+    Format format = Format::Png;
+    bool thermal = false;
+    bool transparent = false; // around the paper
+    QString title;
+};
+
+/// Adds --output, --format, --look and --transparent.
+void addPictureOptions(QCommandLineParser &parser);
+
+/**
+ * The picture that these options ask for.
+ *
+ * @param error why they are wrong, in one line; empty when they ask for none
+ */
+std::optional<PictureRequest> pictureRequest(const QCommandLineParser &parser, QString &error);
+
+/// Makes the picture and writes it; the status to end with, which is the one given if all is well.
+int writePicture(const PictureRequest &request, const QList<PaperRow> &rows, int columns,
+                 int status);
+
+} // namespace korvel::preview
