@@ -5,7 +5,9 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QJsonDocument>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace Qt::Literals::StringLiterals;
@@ -50,6 +52,23 @@ int Output::end(int status)
     writePending();
     failed = failed || !file.flush();
     return failed ? trouble(unwritable) : status;
+}
+
+QString jsonLine(const QJsonObject &object)
+{
+    const QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Compact);
+    if (std::all_of(json.begin(), json.end(), [](char c) { return c >= ' ' && c <= '~'; }))
+        return QString::fromLatin1(json) + u'\n'; // as most are, and fast
+    QString line;
+    for (const uint point : QString::fromUtf8(json).toUcs4()) {
+        if (isPrintable(point)) {
+            line += QChar::fromUcs4(point);
+            continue;
+        }
+        for (const char16_t unit : QChar::fromUcs4(point))
+            line += u"\\u"_s + QString::number(unit, 16).rightJustified(4, u'0');
+    }
+    return line + u'\n';
 }
 
 int writeBytes(const QByteArray &bytes, int status)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFile>
+#include <QJsonObject>
 #include <QString>
 
 namespace korvel::shared {
@@ -37,6 +38,9 @@ private:
     QString pending; // is converted and written a block at a time
     bool failed = false;
 };
+
+/// An object as JSON in one line, with the line's end and what does not print as escapes.
+QString jsonLine(const QJsonObject &object);
 
 /// Writes bytes to standard output as they are; the status to end with, as Output::end().
 int writeBytes(const QByteArray &bytes, int status);
