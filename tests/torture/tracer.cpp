@@ -13,7 +13,6 @@
 #include <map>
 #include <set>
 
-#include <linux/ptrace.h>
 #include <sys/ptrace.h>
 #include <sys/socket.h>
 #include <sys/uio.h>
@@ -129,6 +128,9 @@ private:
             for (const std::string &argument : command)
                 arguments.push_back(const_cast<char *>(argument.c_str()));
             arguments.push_back(nullptr);
+            const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+            ::dup2(nowhere, STDOUT_FILENO);
+            ::dup2(nowhere, STDERR_FILENO);
             ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
             ::raise(SIGSTOP);
             ::execv(arguments.front(), arguments.data());
@@ -178,6 +180,10 @@ private:
         call.process = task;
         const char *const name = nameOfChange(call);
         call.isChange = name != nullptr;
+        if (!hasBegun) { // up to the call that makes it the program
+            hasBegun = call.number == SYS_execve;
+            return;
+        }
         if (!name || ++traced.changes != harm.before || harm.kind == Harm::Kind::None)
             return;
         traced.isHarmed = true;
@@ -230,6 +236,7 @@ private:
     Traced traced;
     std::set<pid_t> tasks;
     std::map<pid_t, Call> calls; // that each task is in, or was last
+    bool hasBegun = false;
     bool isKilled = false;       // with all that come
     pid_t failing = 0;           // whose call is to fail
 };
