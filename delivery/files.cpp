@@ -209,7 +209,7 @@ public:
 
     [[nodiscard]] QByteArray leaseName() const override
     {
-        const auto numbers = [](dev_t device) {
+        const auto numbers = [](dev_t device) -> QByteArray {
             return QByteArray::number(major(device)) + '-' + QByteArray::number(minor(device));
         };
         if (S_ISCHR(status.st_mode))

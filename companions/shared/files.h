@@ -16,6 +16,9 @@ namespace korvel::shared {
  */
 std::optional<QByteArray> readWhole(const QString &path, qint64 limit, QString &error);
 
+/// The same, without an error for what has more: then one byte more than the limit.
+std::optional<QByteArray> readUpTo(const QString &path, qint64 limit, QString &error);
+
 /**
  * Replaces a file by these bytes, or makes a new one: whole, or not at all. What a link leads to is
  * replaced, a link that leads nowhere is itself.

@@ -20,6 +20,7 @@ struct Program
 // clang-format off
 const QList<Program> programs = {
     {"korvel-check",    KORVEL_CHECK   },
+    {"korvel-deliver",  KORVEL_DELIVER },
     {"korvel-preview",  KORVEL_PREVIEW },
     {"korvel-print",    KORVEL_PRINT   },
     {"korvel-recode",   KORVEL_RECODE  },
