@@ -37,7 +37,9 @@ QString reasonOf(sqlite3 *database)
     default:
         break;
     }
-    const QString text = QString::fromUtf8(sqlite3_errmsg(database));
+    const QString text = (code & 0xFF) == SQLITE_IOERR
+                             ? u"the disk could not be read or written"_s
+                             : QString::fromUtf8(sqlite3_errmsg(database));
     const int error = sqlite3_system_errno(database);
     return error == 0 ? text : text + u": "_s + qt_error_string(error);
 }

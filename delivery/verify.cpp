@@ -44,6 +44,7 @@ public:
 
     Head run()
     {
+        keptIsThere = kept && kept->number == 0; // of a journal without events
         lookAtContents();
         bool more = true;
         while (more) {
@@ -96,7 +97,7 @@ private:
     Head last;
     bool keptIsThere = false;
     QHash<QByteArray, Row> rows;
-    qint64 uses = 0; // that there should be
+    qint64 uses = 0; // that there are and should be
 };
 
 QString eventName(qint64 number) { return u"event "_s + QString::number(number); }
@@ -179,11 +180,12 @@ void Verifier::lookAtUses(const Record &record)
     if (row && row->forgotten > record.number)
         return;
     for (const QByteArray &hash : contentsIn(record)) {
-        ++uses;
         if (!isStored.has(hash))
             flaw(eventName(record.number) + u": its contents "_s + QString::fromUtf8(hash)
                  + u" are missing"_s);
-        if (!isUsed.has(hash, record.number))
+        if (isUsed.has(hash, record.number))
+            ++uses;
+        else
             flaw(eventName(record.number) + u": its contents "_s + QString::fromUtf8(hash)
                  + u" are not held for it"_s);
     }

@@ -125,7 +125,7 @@ QString readOptions(const QCommandLineParser &parser, Call &call)
             return u"--"_s + option->names().constFirst() + u" takes a date such as 2026-05-12"_s;
         *time = named.value_or(QDateTime());
     }
-    call.day = QDate::fromString(parser.value(dayOption), Qt::ISODate);
+    call.day = journal::dayNamed(parser.value(dayOption)).value_or(QDate());
     if (parser.isSet(dayOption) && !call.day.isValid())
         return u"--day takes a day such as 2026-05-12"_s;
     if (parser.isSet(headOption)) {

@@ -16,14 +16,18 @@ QString placeTime(const QDateTime &time)
 
 QString exactTime(const QDateTime &time) { return QString::fromLatin1(delivery::textOf(time)); }
 
+std::optional<QDate> dayNamed(const QString &text)
+{
+    const QDate day = QDate::fromString(text, u"yyyy-MM-dd"_s);
+    return day.isValid() ? std::optional(day) : std::nullopt;
+}
+
 std::optional<QDateTime> timeNamed(const QString &text)
 {
-    constexpr qsizetype dayLength = 10;
-    const QDate day = QDate::fromString(text, Qt::ISODate);
-    const QDateTime time = text.size() == dayLength
-                               ? day.startOfDay()
-                               : QDateTime::fromString(text, Qt::ISODateWithMs);
-    return time.isValid() ? std::optional(time) : std::nullopt;
+    if (const auto day = dayNamed(text))
+        return day->startOfDay();
+    const QDateTime time = QDateTime::fromString(text, Qt::ISODateWithMs);
+    return time.isValid() && text.contains(u'T') ? std::optional(time) : std::nullopt;
 }
 
 QString textOf(const delivery::Head &head)

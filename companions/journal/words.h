@@ -11,6 +11,9 @@ QString placeTime(const QDateTime &time);
 /// A time for programs: UTC, to the millisecond.
 QString exactTime(const QDateTime &time);
 
+/// The day that a text names: 2026-05-12.
+std::optional<QDate> dayNamed(const QString &text);
+
 /// The time that a text names: a day, which is its beginning in this place, or a day and a time.
 std::optional<QDateTime> timeNamed(const QString &text);
 
