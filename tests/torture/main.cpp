@@ -237,6 +237,7 @@ bool harmOnce(Shop &shop, Harm harm, long before)
     shop.begin();
     const Traced traced = trace(shop.delivery(), harm);
     try {
+        require(!traced.hangs, "it hangs");
         shop.judge(traced);
         shop.finish();
     } catch (const Broken &broken) {

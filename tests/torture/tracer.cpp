@@ -28,6 +28,8 @@ namespace torture {
 
 namespace {
 
+constexpr unsigned patience = 20; // seconds for a run; one that hangs is ended
+
 constexpr long options = PTRACE_O_TRACESYSGOOD | PTRACE_O_TRACEFORK | PTRACE_O_TRACEVFORK
                          | PTRACE_O_TRACECLONE | PTRACE_O_TRACEEXEC | PTRACE_O_EXITKILL;
 
@@ -99,11 +101,18 @@ public:
     {
         const pid_t program = start(command);
         tasks.insert(program);
+        struct sigaction interrupt = {};
+        interrupt.sa_handler = [](int) {};
+        ::sigaction(SIGALRM, &interrupt, nullptr);
+        ::alarm(patience);
         while (!tasks.empty()) {
             int status = 0;
             const pid_t task = ::waitpid(-1, &status, __WALL);
-            if (task < 0 && errno == EINTR)
+            if (task < 0 && errno == EINTR) {
+                traced.hangs = true;
+                killAll();
                 continue;
+            }
             if (task < 0)
                 break;
             if (WIFSTOPPED(status)) {
@@ -116,10 +125,18 @@ public:
             traced.exited = WIFEXITED(status);
             traced.status = traced.exited ? WEXITSTATUS(status) : -1;
         }
+        ::alarm(0);
         return traced;
     }
 
 private:
+    void killAll()
+    {
+        isKilled = true;
+        for (const pid_t each : tasks)
+            ::kill(processOf(each), SIGKILL);
+    }
+
     static pid_t start(const std::vector<std::string> &command)
     {
         const pid_t program = ::fork();
@@ -193,15 +210,15 @@ private:
             ::kill(processOf(task), SIGKILL);
             break;
         case Harm::Kind::KillAll:
-            isKilled = true;
-            for (const pid_t each : tasks)
-                ::kill(processOf(each), SIGKILL);
+            killAll();
             break;
         case Harm::Kind::Fail:
             if (call.number == SYS_exit_group) // which cannot fail
                 break;
-            ::ptrace(PTRACE_POKEUSER, task, asPointer(offsetof(user_regs_struct, orig_rax)), -1L);
             failing = task;
+            if (call.number == SYS_close) // closes, whatever it says
+                break;
+            ::ptrace(PTRACE_POKEUSER, task, asPointer(offsetof(user_regs_struct, orig_rax)), -1L);
             break;
         case Harm::Kind::None:
             break;

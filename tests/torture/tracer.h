@@ -37,6 +37,7 @@ struct Traced
 {
     long changes = 0;      // calls that change something
     bool isHarmed = false; // the call was reached
+    bool hangs = false;    // it did not end by itself
     bool exited = false;   // the program itself, by itself
     int status = -1;       // then
     std::string harmed = {}; // the name of the call, for people
