@@ -68,11 +68,11 @@ korvel_package(tools korvel-tools
     RECOMMENDS fonts-dejavu-core korvel-print
     SYNOPSIS "preview, checker and code pages for the jobs of korvel-print"
     DESCRIPTION
-"korvel-preview shows what a command stream would put on the paper of a fiscal
-receipt printer, in the terminal or as a PNG, SVG or PDF, and says what is wrong
-with it. korvel-check says what is wrong with a print job or with the settings
-of a shop, before anything is printed. korvel-recode converts a command stream
-to the code page of an 8-bit printer and keeps its columns.
+"korvel-preview shows what a print job or a command stream would put on the
+paper of a fiscal receipt printer, in the terminal or as a PNG, SVG or PDF, and
+says what is wrong with it. korvel-check says what is wrong with a print job or
+with the settings of a shop, before anything is printed. korvel-recode converts
+a command stream to the code page of an 8-bit printer and keeps its columns.
 
 Schemas of print jobs, in RELAX NG and as an XSD, are included.")
 

@@ -42,16 +42,6 @@ const QList<CodeInfo> &codes()
 
 const CodeInfo &infoOf(Code code) { return rowAt(std::size_t(code)); }
 
-const CodeInfo *findCode(QAnyStringView name)
-{
-    const auto found = std::find_if(codes().begin(), codes().end(),
-                                    [&](const CodeInfo &row) { return row.name == name; });
-    return found == codes().end() ? nullptr : &*found;
-}
-
-QLatin1StringView levelName(Level level)
-{
-    return level == Level::Error ? "error"_L1 : "warning"_L1;
-}
+const CodeInfo *findCode(QAnyStringView name) { return shared::findCode(codes(), name); }
 
 } // namespace korvel::check

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "companions/check/phrases.h"
-#include "companions/shared/oneline.h"
+#include "companions/shared/codes.h"
 
 #include <QList>
 #include <QString>
@@ -13,7 +13,8 @@ using namespace Qt::Literals::StringLiterals;
 
 /// An error: what is said is not on the paper, or is there wrongly, or the printer refuses it. A
 /// warning: it is odd, but on the paper, or only a text that decorates is not.
-enum class Level { Error, Warning };
+using shared::Level;
+using shared::levelName;
 
 /// The kinds of findings, in the order of docs/checks.md: each has its row in jobcodes.h or
 /// settingscodes.h.
@@ -94,16 +95,7 @@ enum class Code {
     Count, // of the codes above
 };
 
-/// A row of the tables of codes.
-struct CodeInfo
-{
-    Code code;
-    Level level;
-    QLatin1StringView name;    // as findings show it; stable: programs may rely on it
-    QLatin1StringView wording; // of a finding, in one line; words of the job at %1, %2 ...
-    QLatin1StringView meaning; // what is wrong, in a sentence or two
-    QLatin1StringView advice;  // what to do
-};
+using CodeInfo = shared::CodeRow<Code>;
 
 /// All rows, in the order of the codes.
 const QList<CodeInfo> &codes();
@@ -114,14 +106,11 @@ const CodeInfo &infoOf(Code code);
 /// The row of the code that is shown by that name; null when there is none.
 const CodeInfo *findCode(QAnyStringView name);
 
-/// "error" or "warning".
-QLatin1StringView levelName(Level level);
-
 /// What a finding says: the wording of its code with words at its places, in one line.
 template<typename... Words>
 QString worded(Code code, const Words &...words)
 {
-    return shared::inOneLine(filled(infoOf(code).wording, words...), u' ');
+    return shared::worded(infoOf(code), words...);
 }
 
 } // namespace korvel::check

@@ -2,7 +2,7 @@
 #include "companions/check/engine.h"
 
 #include "companions/check/catalogue.h"
-#include "companions/preview/findings.h"
+#include "companions/paper/paper.h"
 #include "printer/company/companyprinterdriver.h"
 #include "vocabulary/paper.h"
 

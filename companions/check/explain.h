@@ -12,7 +12,4 @@ QString explained(const CodeInfo &row);
 /// All codes, one a line: name, level, and the first sentence of what it means.
 QString codeList();
 
-/// Says in one line that no code has this name, and which one may be meant.
-QString noSuchCode(const QString &name);
-
 } // namespace korvel::check

@@ -11,8 +11,6 @@
 #include "config/path.h"
 
 #include <QCoreApplication>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include <algorithm>
 #include <memory>
@@ -45,44 +43,6 @@ const QCommandLineOption explainOption(u"explain"_s,
 const QCommandLineOption schemaOption(u"schema"_s,
                                       u"Write a schema of jobs: RELAX NG (rng), or xsd."_s);
 
-QString lineOf(const QString &file, const check::Finding &finding)
-{
-    return inOneLine(file) + u':' + QString::number(finding.place.line) + u':'
-           + QString::number(finding.place.column) + u": "_s
-           + check::levelName(infoOf(finding.code).level) + u": "_s + finding.text + u" ["_s
-           + infoOf(finding.code).name + u"]\n"_s;
-}
-
-/// JSON with what does not print as escapes.
-QString escaped(const QString &json)
-{
-    if (inOneLine(json) == json)
-        return json;
-    QString text;
-    for (const uint point : json.toUcs4()) {
-        if (isPrintable(point)) {
-            text += QChar::fromUcs4(point);
-            continue;
-        }
-        for (const char16_t unit : QChar::fromUcs4(point))
-            text += u"\\u"_s + QString::number(unit, 16).rightJustified(4, u'0');
-    }
-    return text;
-}
-
-QString jsonOf(const QString &file, const check::Finding &finding)
-{
-    const QJsonObject object{
-        {u"file"_s, file},
-        {u"line"_s, finding.place.line},
-        {u"column"_s, finding.place.column},
-        {u"level"_s, QString(check::levelName(infoOf(finding.code).level))},
-        {u"code"_s, QString(infoOf(finding.code).name)},
-        {u"text"_s, finding.text},
-    };
-    return escaped(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact))) + u'\n';
-}
-
 /// Findings as lines, and the status that they make.
 struct Report
 {
@@ -98,7 +58,7 @@ struct Report
             const check::CodeInfo &info = infoOf(finding.code);
             if (ignored.contains(finding.code))
                 continue;
-            lines += json ? jsonOf(file, finding) : lineOf(file, finding);
+            lines += json ? jsonLine(toJson(file, finding)) : lineOf(file, finding);
             if (strict || info.level == check::Level::Error)
                 status = std::max<int>(status, Findings);
         }
@@ -126,7 +86,8 @@ std::optional<int> tellAbout(const QCommandLineParser &parser)
     }
     const QString name = parser.value(explainOption);
     const check::CodeInfo *row = check::findCode(name);
-    return row ? writeOut(check::explained(*row), Clean) : trouble(check::noSuchCode(name));
+    return row ? writeOut(check::explained(*row), Clean)
+               : trouble(noSuchCode(name, codeNames(check::codes())));
 }
 
 /// Checks the settings, then the jobs, as far as they can be read.
@@ -184,7 +145,7 @@ int run(const QStringList &arguments)
         for (const QString &name : names.split(u',')) {
             const check::CodeInfo *row = check::findCode(name);
             if (!row)
-                return trouble(check::noSuchCode(name));
+                return trouble(noSuchCode(name, codeNames(check::codes())));
             report.ignored.append(row->code);
         }
     }

@@ -1,6 +1,7 @@
 // The method of a job: what selects the document, what is meant to, and what the elements fit.
 #include "companions/check/context.h"
 #include "companions/check/words.h"
+#include "companions/shared/nearest.h"
 
 #include <algorithm>
 
@@ -155,7 +156,7 @@ Naming namingOf(const Context &context, const Tag &tag)
         return {vocabulary::findMethod(name->value), name};
     for (const JobAttribute &other : tag.attributes) {
         const Method *method = vocabulary::findMethod(other.value);
-        if (method || !vocabulary::nearest(other.name, {attribute::name}).isEmpty())
+        if (method || !shared::nearest(other.name, {attribute::name}).isEmpty())
             return {method, &other};
     }
     const Tag *inside = context.spelledOut.value(&tag).first;
@@ -175,7 +176,7 @@ Selection standIn(const Context &context, const Tag &tag)
     for (const JobAttribute &candidate : tag.attributes)
         said = said ? said : vocabulary::findMethod(candidate.value);
     const bool like =
-        !vocabulary::nearest(tag.name.mid(tag.name.indexOf(u':') + 1), {element::method}).isEmpty();
+        !shared::nearest(tag.name.mid(tag.name.indexOf(u':') + 1), {element::method}).isEmpty();
     const bool alone = !tag.holdsOthers || context.spelledOut.contains(&tag);
     return {said, said, said || (like && alone)};
 }
@@ -249,7 +250,7 @@ bool checkMethod(Context &context, const Tag &tag)
     const JobAttribute *name = tag.find(attribute::name);
     if (tag.name != element::method) {
         context.note(tag.place, Code::NoMethod,
-                     selection.said && vocabulary::nearest(tag.name, {element::method}).isEmpty()
+                     selection.said && shared::nearest(tag.name, {element::method}).isEmpty()
                          ? filled(phrase::writeMethodFirst, selection.said->name)
                          : filled(phrase::misspeltMethod, tag.name));
         context.method = selection.read;

@@ -1,20 +1,11 @@
 // The parts of findings' wordings that have several forms.
 #pragma once
 
-#include <QLatin1StringView>
-#include <QString>
+#include "companions/shared/codes.h"
 
 namespace korvel::check {
 
-/// A text with words at its places, the first at %1. A place within a word is no place.
-template<typename... Words>
-QString filled(QLatin1StringView text, const Words &...words)
-{
-    if constexpr (sizeof...(words) == 0)
-        return text;
-    else
-        return QString(text).arg(words...);
-}
+using shared::filled;
 
 /// The parts of wordings that have several forms.
 namespace phrase {

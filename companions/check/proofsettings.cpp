@@ -164,7 +164,7 @@ qint64 Proofreader::endValue(const Name &name, qint64 value, qint64 missing, boo
     return end;
 }
 
-/// Takes quoteMarks of another kind around a value out.
+/// Takes quotes of another kind around a value out.
 void Proofreader::mendQuotes(const Name &name, qint64 begin, qint64 end, bool isSaid)
 {
     if (begin >= end)

@@ -2,6 +2,7 @@
 #include "companions/check/settingwords.h"
 
 #include "companions/check/words.h"
+#include "companions/shared/nearest.h"
 
 #include <QRegularExpression>
 
@@ -70,7 +71,7 @@ QString meantSwitch(const QString &value)
         if (QString::fromUtf8(no).contains(u' ' + word + u' '))
             return u"false"_s;
     }
-    return vocabulary::nearest(text, {vocabulary::on, u"false"_s});
+    return shared::nearest(text, {vocabulary::on, u"false"_s});
 }
 
 QString meantNumber(const QString &value)
@@ -113,7 +114,7 @@ bool isCommentedOut(QStringView name)
 
 bool isNear(const QString &name, const QStringList &names)
 {
-    return names.contains(name) || !vocabulary::nearest(name, names).isEmpty();
+    return names.contains(name) || !shared::nearest(name, names).isEmpty();
 }
 
 QString meantGroup(const QString &name)
@@ -133,7 +134,7 @@ QString meantGroup(const QString &name)
             return word;
     }
     for (const QString &word : words) {
-        if (const QString nearest = vocabulary::nearest(word, known); !nearest.isEmpty())
+        if (const QString nearest = shared::nearest(word, known); !nearest.isEmpty())
             return nearest;
     }
     constexpr qsizetype enough = 4; // letters to know a name by
@@ -172,7 +173,7 @@ QString meantKey(QAnyStringView group, const QString &name)
     const QString text = bare(name).section(u'.', -1); // without the path that it is looked up by
     const QString nearest = nearestName(text, keys);
     // Most switches begin with this.
-    return nearest.isEmpty() ? vocabulary::nearest(QString(u"print"_s + text), keys) : nearest;
+    return nearest.isEmpty() ? shared::nearest(QString(u"print"_s + text), keys) : nearest;
 }
 
 QString meantValue(vocabulary::Kind kind, const QString &value)

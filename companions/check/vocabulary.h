@@ -75,12 +75,6 @@ Documents documentsOf(QAnyStringView group);
 /// among them, "all documents but" those.
 QString titlesOf(Documents documents);
 
-/**
- * The name of a list that is most like a misspelt one: a swapped, missing, extra or wrong letter or
- * two, or the same letters in other case. Of several as near the first; nothing when none is near.
- */
-QString nearest(QStringView misspelt, const QStringList &names);
-
 } // namespace korvel::vocabulary
 
 namespace vocabulary = korvel::vocabulary;

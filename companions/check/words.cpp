@@ -4,24 +4,17 @@
 #include "companions/check/codes.h"
 #include "companions/check/synonyms.h"
 #include "companions/check/vocabulary.h"
-#include "companions/shared/oneline.h"
+#include "companions/shared/nearest.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::check {
 
-QString quoted(const QString &value)
-{
-    constexpr qsizetype longest = 40;
-    const QString cut = value.size() > longest ? value.first(longest - 1) + u'…' : value;
-    return u'"' + shared::inOneLine(cut, u' ') + u'"';
-}
-
 QString quoted(const QStringList &names) { return u'"' + names.join("\", \""_L1) + u'"'; }
 
 QString nearestName(const QString &name, const QStringList &names)
 {
-    const QString nearest = vocabulary::nearest(name, names);
+    const QString nearest = shared::nearest(name, names);
     return nearest.isEmpty() ? synonymOf(name, names) : nearest;
 }
 
@@ -37,11 +30,7 @@ QString orNearest(const QString &name, const QStringList &names)
 
 QString orLonger(const QString &name, const QStringList &names)
 {
-    for (const QString &other : names) {
-        if (other.startsWith(name) || name.startsWith(other))
-            return orName(other);
-    }
-    return {};
+    return orName(shared::longerOrShorter(name, names));
 }
 
 QString orSimilar(const QString &name, const QStringList &own, const QStringList &shared)
@@ -49,7 +38,7 @@ QString orSimilar(const QString &name, const QStringList &own, const QStringList
     QStringList all = own;
     for (const vocabulary::Element &row : vocabulary::elements())
         all.append(row.name);
-    const QString nearest = vocabulary::nearest(name, all);
+    const QString nearest = shared::nearest(name, all);
     if (nearest.isEmpty())
         return orName(synonymOf(name, own + shared));
     if (own.contains(nearest) || shared.contains(nearest))

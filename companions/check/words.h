@@ -1,12 +1,13 @@
 // Words of a job or a settings file, as findings show them.
 #pragma once
 
+#include "companions/shared/oneline.h"
+
 #include <QStringList>
 
 namespace korvel::check {
 
-/// A value in quotes, cut when it is long, with blanks for what does not print.
-QString quoted(const QString &value);
+using shared::quoted;
 
 /// Several names in quotes, parted by commas.
 QString quoted(const QStringList &names);

@@ -5,9 +5,12 @@
 #include "companions/check/checks.h"
 #include "companions/check/settingsfile.h"
 #include "companions/preview/findings.h"
+#include "companions/preview/listing.h"
 #include "companions/shared/oneline.h"
 #include "companions/shared/rendering.h"
 #include "printer/company/commands.h"
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -34,10 +37,12 @@ public:
     {
     }
 
-    void take(const QString &line, bool isError)
+    /// @param told a finding with the line's end
+    void take(const QString &told, shared::Level level)
     {
+        const QString line = told.chopped(1);
         remark(prepared, line);
-        if (!isError)
+        if (level != shared::Level::Error)
             return;
         ++errors;
         prepared.end = End::Refused;
@@ -54,13 +59,14 @@ private:
     int errors = 0;
 };
 
-/// A finding of the checker in one line.
-QString lineOf(const QString &file, const check::Finding &finding)
+/// Whether a stream ends before its document does.
+bool isCutOff(const QList<preview::Finding> &findings)
 {
-    return file + u':' + QString::number(finding.place.line) + u':'
-           + QString::number(finding.place.column) + u": "_s
-           + check::levelName(infoOf(finding.code).level) + u": "_s + finding.text + u" ["_s
-           + infoOf(finding.code).name + u']';
+    using preview::Code;
+    return std::any_of(findings.begin(), findings.end(), [](const preview::Finding &finding) {
+        return finding.code == Code::EmptyStream || finding.code == Code::LeftOpen
+               || finding.code == Code::UnterminatedCommand;
+    });
 }
 
 /// Renders a job that has no error; what keeps it from being sent is noted.
@@ -83,10 +89,9 @@ void check(Prepared &prepared, const recode::CodePage &charset, const QString &n
     delivery::Contents &contents = prepared.contents;
     const check::SettingsFile settings(contents.settings);
     for (const check::Finding &finding : checkSettings(settings))
-        judge.take(lineOf(settingsName, finding),
-                   infoOf(finding.code).level == check::Level::Error);
+        judge.take(lineOf(settingsName, finding), infoOf(finding.code).level);
     for (const check::Finding &finding : checkJob(contents.job, &settings, &charset))
-        judge.take(lineOf(name, finding), infoOf(finding.code).level == check::Level::Error);
+        judge.take(lineOf(name, finding), infoOf(finding.code).level);
     contents.catalogue = catalogueOf(settings);
 }
 
@@ -96,10 +101,10 @@ void judgeStream(Prepared &prepared, const QString &name)
     Judge judge(prepared);
     const delivery::Contents &contents = prepared.contents;
     const bool isJob = !contents.job.isEmpty();
-    for (const preview::Finding &finding :
-         preview::findings(contents.rendered, commands::lineWidth))
-        judge.take(name + u':' + QString::number(finding.line) + u": "_s + finding.text, true);
-    if (isJob && prepared.end == End::Refused) {
+    const auto findings = preview::findings(contents.rendered, commands::lineWidth);
+    for (const preview::Finding &finding : findings)
+        judge.take(lineOf(name, isJob, finding), infoOf(finding.code).level);
+    if (isJob && isCutOff(findings)) {
         prepared.end = End::Failed;
         prepared.reason = u"the renderer did not come to the end of the document: look whether "
                           "the folder for temporary files is full"_s;

@@ -2,8 +2,8 @@
 #include "companions/journal/documents.h"
 #include "companions/journal/subcommands.h"
 #include "companions/journal/words.h"
-#include "companions/preview/amounts.h"
-#include "companions/preview/decoder.h"
+#include "companions/paper/amounts.h"
+#include "companions/paper/decoder.h"
 #include "companions/shared/output.h"
 #include "companions/shared/progress.h"
 

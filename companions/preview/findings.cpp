@@ -1,10 +1,10 @@
 // Each rule of what a stream should be, checked command by command.
 #include "companions/preview/findings.h"
 
-#include "companions/preview/amounts.h"
+#include "companions/paper/ledger.h"
+#include "companions/paper/paper.h"
+#include "companions/paper/text.h"
 #include "companions/preview/listing.h"
-#include "companions/preview/paper.h"
-#include "companions/preview/text.h"
 #include "printer/company/commands.h"
 
 #include <algorithm>
@@ -21,9 +21,11 @@ using Kind = Command::Kind;
 class Inspector
 {
 public:
-    Inspector(const QByteArray &bytes, int paperColumns, const CodePage &codePage)
+    Inspector(const QByteArray &bytes, int paperColumns, const QList<Code> &ignoredCodes,
+              const CodePage &codePage)
         : stream(bytes)
         , columns(paperColumns)
+        , ignored(ignoredCodes)
         , page(codePage)
     {
     }
@@ -31,42 +33,45 @@ public:
     QList<Finding> inspect()
     {
         if (stream.isEmpty())
-            note(0, u"the stream is empty: nothing is printed"_s);
+            note(Code::EmptyStream, 0);
         Decoder decoder(stream, page);
-        while (const auto command = tooMany ? std::nullopt : decoder.next())
+        while (const auto command = more == Code::MoreErrors ? std::nullopt : decoder.next())
             inspect(*command);
         if (open)
-            note(openedAt, nameOf(*open) + u" opened here is never closed"_s);
+            note(Code::LeftOpen, openedAt, sectionName(*open));
         std::stable_sort(found.begin(), found.end(),
                          [](const Finding &a, const Finding &b) { return a.offset < b.offset; });
-        if (tooMany) {
-            const qsizetype last = found.constLast().offset;
-            found.append(
-                {last, 0,
-                 u"byte "_s + QString::number(last) + u": too much is wrong; no more is listed"_s});
-        }
-        countLines();
+        if (more)
+            found.append({*more, found.constLast().offset, worded(infoOf(*more))});
+        findPlaces();
         return found;
     }
 
 private:
-    [[nodiscard]] QString nameOf(Section section) const { return u"the "_s + sectionName(section); }
+    /// How bytes are called in a finding.
     [[nodiscard]] QString nameOf(QByteArrayView bytes) const
     {
         return u'"' + escaped(bytes, page) + u'"';
     }
 
-    void note(qsizetype offset, const QString &text)
+    template<typename... Words>
+    void note(Code code, qsizetype offset, const Words &...words)
     {
-        if (found.size() == mostFindings) {
-            tooMany = true;
+        if (ignored.contains(code))
             return;
-        }
-        found.append({offset, 0, u"byte "_s + QString::number(offset) + u": "_s + text});
+        if (found.size() < mostFindings)
+            found.append({code, offset, worded(infoOf(code), words...)});
+        else if (infoOf(code).level == Level::Error)
+            more = Code::MoreErrors;
+        else if (!more)
+            more = Code::MoreWarnings;
     }
 
     void inspect(const Command &command)
     {
+        const qsizetype uncounted = ledger.section() ? ledger.section()->uncounted : 0;
+        ledger.take(command);
+        const bool counted = !ledger.section() || ledger.section()->uncounted == uncounted;
         switch (command.kind) {
         case Kind::Line:
             inspectText(command.offset + commands::lineOpener.size() + command.spaces,
@@ -75,29 +80,28 @@ private:
             break;
         case Kind::SectionOpened:
             if (open)
-                note(command.offset, nameOf(*open) + u" opened at byte "_s
-                                         + QString::number(openedAt) + u" is still open where "_s
-                                         + nameOf(command.section) + u" is opened"_s);
+                note(Code::StillOpen, command.offset, sectionName(*open), QString::number(openedAt),
+                     sectionName(command.section));
             open = command.section;
             openedAt = command.offset;
-            registered = {};
             break;
         case Kind::SectionClosed:
             if (open != command.section)
-                note(command.offset, nameOf(command.section) + u" is closed but not open"_s);
+                note(Code::NotOpen, command.offset, sectionName(command.section));
             else
                 open.reset();
             break;
         case Kind::SaleRow:
-            inspectSaleRow(command);
+            inspectSaleRow(command, counted);
             break;
         case Kind::Deduction:
-            inspectRegistered(command,
-                              command.offset + commands::announceDeduction.size()
-                                  + commands::deductionAmount.size(),
-                              u"deduction"_s);
+            inspectAmount(command,
+                          command.offset + commands::announceDeduction.size()
+                              + commands::deductionAmount.size(),
+                          u"deduction"_s);
             inspectWidth(command, u"deduction"_s);
-            countDeduction(command);
+            if (!counted)
+                inspectSize(command, Amount::of(command.amount), u"deduction"_s);
             break;
         case Kind::Unknown:
             inspectUnknown(command);
@@ -105,7 +109,7 @@ private:
         }
     }
 
-    void inspectSaleRow(const Command &row)
+    void inspectSaleRow(const Command &row, bool counted)
     {
         const qsizetype department = row.offset + commands::saleDepartment.size();
         const qsizetype amount = department + row.department.size() + commands::saleAmount.size();
@@ -113,64 +117,56 @@ private:
         const qsizetype description =
             quantity + row.quantity.size() + commands::saleDescription.size();
         inspectField(department, row.department);
-        inspectRegistered(row, amount, u"sale row"_s);
+        inspectAmount(row, amount, u"sale row"_s);
         inspectField(quantity, row.quantity);
-        if (isQuantity(row.quantity))
-            count(row, Amount::of(row.amount, row.quantity), u"sale row"_s);
-        else
-            note(quantity, u"the quantity "_s + nameOf(row.quantity) + u" is no number"_s);
-        inspectText(description, row.description);
+        if (!isQuantity(row.quantity))
+            note(Code::WrongQuantity, quantity, nameOf(row.quantity));
+        else if (!counted)
+            inspectSize(row, Amount::of(row.amount, row.quantity), u"sale row"_s);
+        inspectText(description, row.description, Code::EndsField);
         inspectWidth(row, u"sale row"_s);
     }
 
-    void inspectRegistered(const Command &row, qsizetype amountAt, const QString &what)
+    void inspectAmount(const Command &row, qsizetype amountAt, const QString &what)
     {
         if (open != Section::Fiscal)
-            note(row.offset, u"a "_s + what + u" outside a fiscal section"_s);
+            note(Code::OutsideFiscal, row.offset, what);
         if (!isWholeHundredths(row.amount))
-            note(amountAt,
-                 u"the amount "_s + nameOf(row.amount) + u" is no whole number of hundredths"_s);
+            note(Code::WrongAmount, amountAt, nameOf(row.amount));
     }
 
-    /// Adds to what was registered; what cannot be added has been found to be no number, or is
-    /// said.
-    void count(const Command &row, std::optional<Amount> amount, const QString &what)
+    /// Notes a row that is not in the sum, unless that is so because its amount is no number, which
+    /// has been said.
+    void inspectSize(const Command &row, const std::optional<Amount> &amount, const QString &what)
     {
-        if (open != Section::Fiscal)
-            return;
-        if (amount ? !registered.add(*amount) : isWholeHundredths(row.amount))
-            note(row.offset, u"the "_s + what + u" is too large for the preview to add up"_s);
-    }
-
-    void countDeduction(const Command &deduction)
-    {
-        const auto amount = Amount::of(deduction.amount);
-        count(deduction, amount ? std::optional(-*amount) : std::nullopt, u"deduction"_s);
+        if (amount || isWholeHundredths(row.amount))
+            note(Code::TooLarge, row.offset, what);
     }
 
     void inspectWidth(const Command &command, const QString &what)
     {
         const qsizetype width = widestRow(command, columns).size();
         if (width > columns)
-            note(command.offset, u"a "_s + what + u" of "_s + QString::number(width)
-                                     + u" characters is wider than the paper ("_s
-                                     + QString::number(columns) + u')');
+            note(Code::TooWide, command.offset, what, QString::number(width),
+                 QString::number(columns));
     }
 
     /// Notes what a printer would misread in a text.
-    void inspectText(qsizetype offset, QByteArrayView text)
+    void inspectText(qsizetype offset, QByteArrayView text, Code parenthesis = Code::EndsText)
     {
         bool readable =
             true; // bytes that are no characters are one finding as long as they follow each other
-        while (!text.isEmpty() && !tooMany) {
+        while (!text.isEmpty() && more != Code::MoreErrors) {
             const qsizetype length = characterLength(text, page);
             const QByteArrayView character = text.first(std::max<qsizetype>(length, 1));
             if (length == 0 && readable)
-                note(offset, nameOf(character) + u" is not "_s + page.name());
+                note(Code::NotUtf8, offset, nameOf(character), page.name());
             else if (character == ")")
-                note(offset, u"a \")\" inside a text ends it early"_s);
+                note(parenthesis, offset, u")"_s);
+            else if (character == "\n" || character == "\r")
+                note(Code::BreaksText, offset, nameOf(character));
             else if (length > 0 && isControl(character, page))
-                note(offset, u"the control character "_s + nameOf(character) + u" inside a text"_s);
+                note(Code::ControlCode, offset, nameOf(character));
             readable = length > 0;
             offset += character.size();
             text = text.sliced(character.size());
@@ -180,72 +176,79 @@ private:
     /// Notes a mark of the language inside a field of a sale row.
     void inspectField(qsizetype offset, const QByteArray &field)
     {
-        inspectText(offset, field);
+        inspectText(offset, field, Code::EndsField);
         if (const qsizetype mark = field.indexOf('/'); mark >= 0)
-            note(offset + mark, u"a \"/\" inside a field of a sale row ends it early"_s);
+            note(Code::EndsField, offset + mark, u"/"_s);
     }
 
     void inspectUnknown(const Command &command)
     {
-        QString what = u"unknown command"_s;
-        if (command.begunAs)
-            what = u"broken "_s + kindName(*command.begunAs);
         const qsizetype bad = command.badByte;
+        const QString begin = QString::number(command.offset);
         if (bad >= stream.size()) {
             if (command.begunAs)
-                what = u"unterminated "_s + kindName(*command.begunAs);
-            note(bad, what + u" that begins at byte "_s + QString::number(command.offset)
-                          + u": the stream ends here"_s);
+                note(Code::UnterminatedCommand, bad, kindName(*command.begunAs), begin);
+            else
+                note(Code::UnknownCommand, bad,
+                     QString(u" that begins at byte "_s + begin + u": the stream ends here"_s));
             return;
         }
         const QByteArrayView rest = QByteArrayView(stream).sliced(bad);
-        note(bad, what + u": "_s
-                      + nameOf(rest.first(std::max<qsizetype>(characterLength(rest, page), 1)))
-                      + u" does not belong here"_s);
+        const QString byte =
+            nameOf(rest.first(std::max<qsizetype>(characterLength(rest, page), 1)));
+        if (command.begunAs)
+            note(Code::BrokenCommand, bad, kindName(*command.begunAs), byte);
+        else
+            note(Code::UnknownCommand, bad, QString(u": "_s + byte + u" does not belong here"_s));
     }
 
-    void countLines()
+    /// Finds lines and rows, of which a stream with nothing wrong needs none.
+    void findPlaces()
     {
+        if (found.isEmpty())
+            return;
+        qsizetype printed = 0;
+        qsizetype own = 0; // the command's first
+        Roll roll(columns, [&](const PaperRow &row) {
+            ++printed;
+            if (own == 0 && row.kind != PaperRow::Kind::Cut && row.kind != PaperRow::Kind::Computed)
+                own = printed;
+        });
+        auto next = found.begin();
         qsizetype line = 1;
         qsizetype at = 0;
-        for (Finding &finding : found) {
-            line += std::count(stream.cbegin() + at, stream.cbegin() + finding.offset, '\n');
-            at = finding.offset;
-            finding.line = line;
+        Decoder decoder(stream, page);
+        for (auto command = decoder.next(); next != found.end();) {
+            own = 0;
+            if (command)
+                roll.print(*command);
+            command = command ? decoder.next() : std::nullopt;
+            for (; next != found.end() && (!command || next->offset < command->offset); ++next) {
+                line += std::count(stream.cbegin() + at, stream.cbegin() + next->offset, '\n');
+                at = next->offset;
+                next->line = line;
+                next->row = own;
+            }
         }
     }
 
     const QByteArray &stream;
     const int columns;
+    const QList<Code> &ignored;
     const CodePage &page;
     std::optional<Section> open;
     qsizetype openedAt = 0;
-    Amount registered; // since then
+    Ledger ledger;
     QList<Finding> found;
-    bool tooMany = false; // more than are listed
+    std::optional<Code> more; // than are listed
 };
 
 } // namespace
 
-QList<Finding> findings(const QByteArray &stream, int columns, const CodePage &page)
+QList<Finding> findings(const QByteArray &stream, int columns, const QList<Code> &ignored,
+                        const CodePage &page)
 {
-    return Inspector(stream, columns, page).inspect();
-}
-
-QString widestRow(const Command &command, int columns)
-{
-    QString widest;
-    if (command.kind == Kind::Line) {
-        widest = QString(command.spaces, u' ') + decoded(command.content, *command.codePage);
-    } else if (command.kind == Kind::SaleRow || command.kind == Kind::Deduction) {
-        // A row may hold more than the description: a quantity, a department.
-        Roll roll(columns, [&](const PaperRow &row) {
-            if (row.text.size() > widest.size())
-                widest = row.text;
-        });
-        roll.print(command);
-    }
-    return widest;
+    return Inspector(stream, columns, ignored, page).inspect();
 }
 
 } // namespace korvel::preview

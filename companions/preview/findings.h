@@ -1,7 +1,8 @@
 // What is wrong with a command stream.
 #pragma once
 
-#include "companions/preview/decoder.h"
+#include "companions/paper/decoder.h"
+#include "companions/preview/codes.h"
 
 #include <QList>
 #include <QString>
@@ -11,33 +12,23 @@ namespace korvel::preview {
 /// Something that a printer would refuse, misread or cut.
 struct Finding
 {
+    Code code;
     qsizetype offset = 0; // of the byte it is about, in the stream
+    QString text;         // one line
     qsizetype line = 1;   // of the stream, counted in line feeds from 1
-    QString text;         // one line, the offset included
+    qsizetype row = 0;    // of the paper, sums and marks counted too, from 1; 0 where none prints
 };
 
 /// No more findings than these are listed; one that says so is the last.
 inline constexpr qsizetype mostFindings = 1000;
 
 /**
- * What is wrong with a stream, in the order of its bytes.
- *
- * An empty stream, lines and rows wider than the paper, unknown and broken commands, sections left
- * open or closed twice, sale rows and deductions outside a fiscal section, amounts that are no
- * whole hundredths, quantities that are no number, and bytes in a text that a printer would
- * misread: a closing parenthesis, which ends the text, a slash in a field of a sale row, control
- * characters, and what is no character of the code page. Rows too large to be added up are said
- * too.
+ * What is wrong with a stream, in the order of its bytes; codes() has the kinds.
  *
  * @param columns characters in a line of the paper
+ * @param ignored findings of these codes are left out, and do not count
  */
-QList<Finding> findings(const QByteArray &stream, int columns,
+QList<Finding> findings(const QByteArray &stream, int columns, const QList<Code> &ignored = {},
                         const recode::CodePage &page = recode::CodePage::utf8());
-
-/**
- * The widest row of the paper that a command takes, a line as it was sent: what is held against the
- * width of the paper. Empty for a command that is no line, sale row or deduction.
- */
-QString widestRow(const Command &command, int columns);
 
 } // namespace korvel::preview

@@ -1,7 +1,7 @@
-// What each command is called, to people and to programs.
+// What each command, finding and sum is called, to people and to programs.
 #include "companions/preview/listing.h"
 
-#include "companions/preview/text.h"
+#include "companions/paper/text.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -131,6 +131,44 @@ QJsonObject toJson(const Command &command)
     if (command.kind == Kind::Unknown || !isReadable(bytes, *command.codePage))
         object.insert(u"bytes"_s, QString::fromLatin1(bytes.toHex()));
     return object;
+}
+
+QJsonObject toJson(const Finding &finding)
+{
+    const CodeInfo &info = infoOf(finding.code);
+    QJsonObject object{
+        {u"code"_s, info.name},        {u"level"_s, shared::levelName(info.level)},
+        {u"offset"_s, finding.offset}, {u"line"_s, finding.line},
+        {u"text"_s, finding.text},
+    };
+    if (finding.row > 0)
+        object.insert(u"row"_s, finding.row);
+    return object;
+}
+
+QJsonObject toJson(const Sum &sum)
+{
+    return {
+        {u"sum"_s, sum.amount.toString()},
+        {u"offset"_s, sum.offset},
+        {u"line"_s, sum.line},
+        {u"counted"_s, sum.counted},
+        {u"uncounted"_s, sum.uncounted},
+        {u"closed"_s, sum.closed},
+    };
+}
+
+QString lineOf(const QString &file, bool isJob, const Finding &finding)
+{
+    QString place = u"byte "_s + QString::number(finding.offset);
+    if (!isJob)
+        place = QString::number(finding.line) + u": "_s + place;
+    else if (finding.row > 0)
+        place = u"line "_s + QString::number(finding.row) + u" of the paper"_s;
+    else
+        place += u" of its stream"_s;
+    return shared::inOneLine(file) + (isJob ? u": "_s : u":"_s) + place + u": "_s
+           + shared::toldFinding(infoOf(finding.code), finding.text);
 }
 
 } // namespace korvel::preview

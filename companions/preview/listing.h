@@ -1,7 +1,8 @@
-// Commands in words and as JSON.
+// Commands, findings and sums in words and as JSON.
 #pragma once
 
-#include "companions/preview/decoder.h"
+#include "companions/paper/ledger.h"
+#include "companions/preview/findings.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -23,5 +24,17 @@ QString listed(const Command &command);
  * also has its exact "bytes", in hexadecimal.
  */
 QJsonObject toJson(const Command &command);
+
+/// A finding in the keys of the same schema.
+QJsonObject toJson(const Finding &finding);
+
+/// The sum of a fiscal section in the keys of the same schema.
+QJsonObject toJson(const Sum &sum);
+
+/**
+ * A finding in one line, with the line's end: where it is, its level, what it says, its code. Of a
+ * job, whose stream nobody sees, it says the line of the paper.
+ */
+QString lineOf(const QString &file, bool isJob, const Finding &finding);
 
 } // namespace korvel::preview

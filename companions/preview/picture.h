@@ -1,8 +1,8 @@
 // The paper as a picture. Needs a QGuiApplication.
 #pragma once
 
+#include "companions/paper/paper.h"
 #include "companions/preview/look.h"
-#include "companions/preview/paper.h"
 
 #include <QByteArray>
 #include <QSize>

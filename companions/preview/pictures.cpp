@@ -87,6 +87,8 @@ void addPictureOptions(QCommandLineParser &parser)
     parser.addOptions({outputOption, formatOption, lookOption, transparentOption});
 }
 
+bool wantsPicture(const QCommandLineParser &parser) { return parser.isSet(outputOption); }
+
 std::optional<PictureRequest> pictureRequest(const QCommandLineParser &parser, QString &error)
 {
     if (!parser.isSet(outputOption)) {

@@ -1,7 +1,7 @@
 // Pictures as the command line asks for them.
 #pragma once
 
-#include "companions/preview/paper.h"
+#include "companions/paper/paper.h"
 
 #include <QCommandLineParser>
 #include <QString>
@@ -24,6 +24,9 @@ struct PictureRequest
 
 /// Adds --output, --format, --look and --transparent.
 void addPictureOptions(QCommandLineParser &parser);
+
+/// Whether a picture is asked for, which needs a QGuiApplication.
+bool wantsPicture(const QCommandLineParser &parser);
 
 /**
  * The picture that these options ask for.

@@ -1,7 +1,7 @@
 // The paper in a terminal.
 #pragma once
 
-#include "companions/preview/paper.h"
+#include "companions/paper/paper.h"
 
 namespace korvel::preview {
 

@@ -29,6 +29,19 @@ void PaperView::showMessage(const QString &text)
     update();
 }
 
+void PaperView::showFailure(const shared::Rendered &rendered)
+{
+    using End = shared::Rendered::End;
+    if (rendered.end == End::NoRoom)
+        showMessage(tr("The temporary folder cannot be written."));
+    else if (rendered.end == End::NotStarted)
+        showMessage(tr("The renderer %1 cannot be started.").arg(rendered.program));
+    else if (rendered.end == End::NoStream)
+        showMessage(tr("The renderer %1 wrote nothing.").arg(rendered.program));
+    else
+        showMessage(tr("The renderer %1 ended with an error.").arg(rendered.program));
+}
+
 QSize PaperView::sizeHint() const
 {
     const QSize content = picture ? picture->size() : QSize(320, 160);

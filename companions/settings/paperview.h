@@ -2,6 +2,7 @@
 #pragma once
 
 #include "companions/preview/picture.h"
+#include "companions/shared/rendering.h"
 
 #include <QWidget>
 
@@ -19,6 +20,9 @@ public:
 
     void showPaper(const preview::Picture &paper);
     void showMessage(const QString &text);
+
+    /// Says why there is no paper.
+    void showFailure(const shared::Rendered &rendered);
 
     /// The message that is shown; empty while the paper is.
     [[nodiscard]] QString message() const { return note; }

@@ -2,8 +2,8 @@
 #include "companions/settings/window.h"
 
 #include "companions/check/vocabulary.h"
+#include "companions/paper/paper.h"
 #include "companions/preview/findings.h"
-#include "companions/preview/paper.h"
 #include "companions/settings/hints.h"
 #include "companions/settings/paperview.h"
 #include "printer/company/commands.h"
@@ -61,12 +61,7 @@ SettingsWindow::SettingsWindow(const QString &file, const QString &renderer)
     pause.setSingleShot(true);
     pause.setInterval(50ms);
     connect(&pause, &QTimer::timeout, this, &SettingsWindow::refresh);
-    connect(&rendering, &Rendering::rendered, this, &SettingsWindow::showStream);
-    connect(&rendering, &Rendering::failed, this, [this](const QString &reason) {
-        shown.clear();
-        paper->showMessage(reason);
-        findings->clear();
-    });
+    connect(&rendering, &shared::Rendering::ended, this, &SettingsWindow::showRendered);
 }
 
 SettingsWindow::~SettingsWindow()
@@ -348,15 +343,20 @@ void SettingsWindow::chooseJobFile()
     refresh();
 }
 
-void SettingsWindow::showStream(const QByteArray &stream, const QString &messages)
+void SettingsWindow::showRendered(const shared::Rendered &rendered)
 {
-    shown = stream;
+    shown = rendered.stream;
+    if (!rendered.isThere()) {
+        paper->showFailure(rendered);
+        findings->clear();
+        return;
+    }
     paper->showPaper(
-        preview::Picture(preview::paperOf(stream, commands::lineWidth), commands::lineWidth));
+        preview::Picture(preview::paperOf(shown, commands::lineWidth), commands::lineWidth));
     QStringList lines;
-    if (!messages.isEmpty())
-        lines.append(messages);
-    for (const preview::Finding &finding : preview::findings(stream, commands::lineWidth)) {
+    if (!rendered.said.isEmpty())
+        lines.append(rendered.said);
+    for (const preview::Finding &finding : preview::findings(shown, commands::lineWidth)) {
         if (lines.size() == 4) {
             lines.append(u"…"_s);
             break;

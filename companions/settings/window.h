@@ -2,7 +2,7 @@
 #pragma once
 
 #include "companions/settings/document.h"
-#include "companions/settings/rendering.h"
+#include "companions/shared/rendering.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -69,13 +69,13 @@ private:
     void refresh();
     void chooseJob(int index);
     void chooseJobFile();
-    void showStream(const QByteArray &stream, const QString &messages);
+    void showRendered(const shared::Rendered &rendered);
     void showMeaning();
     void updateTitle();
     void restoreSize();
 
     std::unique_ptr<SettingsDocument> document;
-    Rendering rendering;
+    shared::Rendering rendering;
     QTimer pause; // gathers the edits of a moment into one run
     QByteArray job;
     QByteArray shown; // the stream of the paper

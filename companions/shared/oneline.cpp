@@ -30,6 +30,13 @@ QString inOneLine(const QString &text, QChar substitute)
     return shown;
 }
 
+QString quoted(const QString &value)
+{
+    constexpr qsizetype longest = 40;
+    const QString cut = value.size() > longest ? value.first(longest - 1) + u'…' : value;
+    return u'"' + inOneLine(cut, u' ') + u'"';
+}
+
 QString characterName(char32_t character)
 {
     QString number = u"U+"_s + QString::number(character, 16).toUpper().rightJustified(4, u'0');

@@ -17,6 +17,9 @@ bool isPrintable(char32_t character);
  */
 QString inOneLine(const QString &text, QChar substitute = QChar::ReplacementCharacter);
 
+/// A value in quotes, cut when it is long, with blanks for what does not print.
+QString quoted(const QString &value);
+
 /// A character in quotes and by its number, "è" (U+00E8), or by that alone where it does not print.
 QString characterName(char32_t character);
 

@@ -45,7 +45,7 @@ int main(int argc, char *argv[])
     if (argc != 3 || !QFile::exists(QFile::decodeName(argv[1])))
         return complain("usage: korvel-window-picture SETTINGS PICTURE");
 
-    SettingsWindow window(QFile::decodeName(argv[1]), Rendering::findRenderer());
+    SettingsWindow window(QFile::decodeName(argv[1]), korvel::shared::Rendering::findRenderer());
     window.show();
     window.activateWindow();
     window.begin();

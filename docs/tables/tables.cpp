@@ -3,6 +3,8 @@
 
 #include "companions/check/codes.h"
 #include "companions/check/vocabulary.h"
+#include "companions/preview/codes.h"
+#include "companions/shared/codes.h"
 
 #include <algorithm>
 
@@ -232,13 +234,18 @@ QStringList languageSettingsTable()
 
 // Findings.
 
-QStringList codesTable()
+template<typename Code>
+QStringList codesTable(const QList<korvel::shared::CodeRow<Code>> &codes)
 {
     Table table({u"code"_s, u"level"_s, u"what it means"_s, u"what to do"_s});
-    for (const check::CodeInfo &row : check::codes())
-        table.add({quoted(row.name), check::levelName(row.level), row.meaning, row.advice});
+    for (const korvel::shared::CodeWords &row : codes)
+        table.add({quoted(row.name), levelName(row.level), row.meaning, row.advice});
     return table.lines;
 }
+
+QStringList jobCodesTable() { return codesTable(check::codes()); }
+
+QStringList streamCodesTable() { return codesTable(korvel::preview::codes()); }
 
 struct NamedTable
 {
@@ -252,7 +259,8 @@ constexpr NamedTable namedTables[] = {
     {"groups"_L1, groupsTable},
     {"settings"_L1, settingsTable},
     {"language settings"_L1, languageSettingsTable},
-    {"codes"_L1, codesTable},
+    {"codes"_L1, jobCodesTable},
+    {"stream codes"_L1, streamCodesTable},
 };
 
 } // namespace

@@ -1,7 +1,7 @@
 // Streams of any bytes, taken apart, put together, inspected, listed and printed.
+#include "companions/paper/text.h"
 #include "companions/preview/findings.h"
 #include "companions/preview/listing.h"
-#include "companions/preview/text.h"
 #include "fuzz/expect.h"
 #include "support/box.h"
 #include "support/commands.h"
@@ -90,6 +90,7 @@ void expectKinds(const QList<Command> &commands)
 void expectFindings(const QByteArray &stream, const QList<Command> &commands)
 {
     const QList<Finding> found = findings(stream, 32);
+    const QList<PaperRow> paper = paperOf(stream, 32);
     expect(found.size() <= mostFindings + 1, "findings have a limit");
     qsizetype before = 0;
     qsizetype line = 1;
@@ -99,9 +100,12 @@ void expectFindings(const QByteArray &stream, const QList<Command> &commands)
         line += std::count(stream.cbegin() + before, stream.cbegin() + finding.offset, '\n');
         before = finding.offset;
         expect(finding.line == line, "a finding knows its line");
-        expect(finding.text.startsWith("byte " + QString::number(finding.offset) + ": "),
-               "a finding says where it is");
-        expect(isLine(finding.text), "a finding is one line");
+        expect(finding.row >= 0 && finding.row <= paper.size()
+                   && (finding.row == 0
+                       || (paper[finding.row - 1].kind != PaperRow::Kind::Cut
+                           && paper[finding.row - 1].kind != PaperRow::Kind::Computed)),
+               "a finding knows its row of the paper, which is a command's");
+        expect(!finding.text.isEmpty() && isLine(finding.text), "a finding is one line");
     }
 
     const auto isFound = [&](qsizetype offset) {
@@ -143,7 +147,6 @@ void expectFindings(const QByteArray &stream, const QList<Command> &commands)
     }
     expect((sound && !fiscal) || !found.isEmpty(), "a stream without findings is sound");
 
-    const QList<PaperRow> paper = paperOf(stream, 32);
     const bool counted = std::none_of(paper.cbegin(), paper.cend(), [](const PaperRow &row) {
         return row.kind == PaperRow::Kind::Computed && row.text.startsWith("Rows not counted ");
     });

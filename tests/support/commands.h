@@ -1,7 +1,7 @@
 // Commands of a stream: all at once, and put together.
 #pragma once
 
-#include "companions/preview/decoder.h"
+#include "companions/paper/decoder.h"
 
 #include <QList>
 

@@ -1,7 +1,7 @@
 // Rolls of paper to be painted.
 #pragma once
 
-#include "companions/preview/paper.h"
+#include "companions/paper/paper.h"
 
 #include <QStringList>
 

@@ -48,6 +48,7 @@ inline const QByteArrayList brokenStreams = {
     "=K\n=C1\n=R1/$1/*a/(x)\n=T1\n",
     documentOf("a)b"),
     documentOf("a\x1b[2J"),
+    documentOf("a\nb"),
     documentOf("a\xff\xfe"),
     "\n\n",
     QByteArray("=\"/(a\0b )\n", 10),

@@ -1,5 +1,5 @@
 // The preview's amounts: exact products and sums, and what is no number.
-#include "companions/preview/amounts.h"
+#include "companions/paper/amounts.h"
 #include "support/spelt.h"
 #include "support/test.h"
 

@@ -60,16 +60,19 @@ private slots:
         row("by another spelling", "CP858", documentOf("\xD5"), "│€   │");
         row("UTF-8, which is the default", "UTF-8", documentOf("è"), "│è   │");
         row("a byte is a column", "cp858", documentOf("\x8A\x8A\x8A\x8A\x8A"), "│èèèè»è",
-            "x.out:2: byte 3: a line of 5 characters is wider than the paper (4)\n");
+            "x.out:2: byte 3: warning: a line of 5 characters is wider than the paper (4) "
+            "[too-wide]\n");
         // Bytes are those of the stream: the text begins at byte 7.
         row("a closing parenthesis", "cp858", documentOf("\x8A\x8A)"), "│èè) │",
-            "x.out:2: byte 9: a \")\" inside a text ends it early\n");
+            "x.out:2: byte 9: warning: a \")\" inside a text ends it early [ends-text]\n");
         row("a control character of the code page", "latin1", documentOf("\x9B"), "│�   │",
-            "x.out:2: byte 7: the control character \"\\x9b\" inside a text\n");
+            "x.out:2: byte 7: warning: the control character \"\\x9b\" inside a text "
+            "[control-code]\n");
         row("a byte that is no character", "ISO-8859-7", documentOf("\xD2\xD2z"), "│��z │",
-            "x.out:2: byte 7: \"\\xd2\" is not ISO-8859-7\n");
+            "x.out:2: byte 7: warning: \"\\xd2\" is not ISO-8859-7 [not-utf-8]\n");
         row("bytes that are no command", "cp858", "=o\n\x8A\n=o\n", "┊è\\n ┊",
-            "x.out:2: byte 3: unknown command: \"è\" does not belong here\n");
+            "x.out:2: byte 3: error: unknown command: \"è\" does not belong here "
+            "[unknown-command]\n");
     }
 
     void papers()
@@ -81,7 +84,7 @@ private slots:
         const Desk desk(stream);
         const Run run = desk.run({"--columns=4", "--charset", charset, "x.out"});
         QCOMPARE(run.standardError, said.toUtf8());
-        VERIFY_ENDED(run, said.isEmpty() ? 0 : 1);
+        VERIFY_ENDED(run, said.contains(": error: ") ? 1 : 0);
         QCOMPARE(QString::fromUtf8(run.standardOutput).split('\n').value(1), row);
     }
 
@@ -105,11 +108,20 @@ private slots:
     {
         const Desk desk(documentOf("\xD2"));
         const Run json = desk.run({"--json", "--charset=ISO-8859-7", "x.out"});
-        VERIFY_ENDED(json, 1);
+        VERIFY_ENDED(json, 0);
         const QJsonObject line =
             QJsonDocument::fromJson(json.standardOutput.split('\n').value(1)).object();
         QCOMPARE(line["text"].toString(), QString(QChar::ReplacementCharacter));
         QCOMPARE(line["bytes"].toString(), QString(documentOf("\xD2").mid(3, 8).toHex()));
+    }
+
+    void jobIsRenderedInUtf8()
+    {
+        const Run run = Desk("<job/>").run({"--charset=cp858", "x.out"});
+        VERIFY_TROUBLE(run);
+        QCOMPARE(run.standardError,
+                 "korvel-preview: --charset is for streams; a job is rendered in "
+                 "UTF-8\n");
     }
 
     void trouble()

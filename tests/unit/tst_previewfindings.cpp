@@ -1,7 +1,7 @@
 // What the preview finds on paper of other widths, in very many places and in the examples; what it
 // finds in streams of a few lines is in tests/preview.
+#include "companions/paper/paper.h"
 #include "companions/preview/findings.h"
-#include "companions/preview/paper.h"
 #include "support/bytes.h"
 #include "support/streams.h"
 #include "support/test.h"
@@ -17,11 +17,8 @@ using namespace korvel::preview;
 QStringList foundIn(const QByteArray &stream, int columns = 32)
 {
     QStringList lines;
-    for (const Finding &finding : findings(stream, columns)) {
-        if (!finding.text.startsWith("byte " + QString::number(finding.offset) + ": "))
-            lines.append("not at byte " + QString::number(finding.offset));
-        lines.append(QString::number(finding.line) + ": " + finding.text);
-    }
+    for (const Finding &finding : findings(stream, columns))
+        lines.append(QString("%1: byte %2: ").arg(finding.line).arg(finding.offset) + finding.text);
     return lines;
 }
 
@@ -51,31 +48,63 @@ private slots:
     {
         QTest::addColumn<QByteArray>("stream");
         QTest::addColumn<qsizetype>("expected");
-        QTest::addColumn<bool>("more");
+        QTest::addColumn<QString>("more"); // code of the last
         const auto row = [](const char *name, const QByteArray &stream, qsizetype expected,
-                            bool more) { QTest::newRow(name) << stream << expected << more; };
+                            const char *more) {
+            QTest::newRow(name) << stream << expected << more;
+        };
 
-        row("a thousand", QByteArray(1000, '\n'), 1000, false);
-        row("one more", QByteArray(1001, '\n'), 1001, true);
-        row("very many", QByteArray(100000, '\n'), 1001, true);
-        row("a thousand in a line that is too wide", line(QByteArray(1000, ')')), 1001, true);
-        row("a thousand in a section left open", "=o\n" + QByteArray(1000, '\n'), 1001, true);
+        const char *const errors = "more-errors";
+        const char *const warnings = "more-warnings";
+        row("a thousand", QByteArray(1000, '\n'), 1000, "");
+        row("one more", QByteArray(1001, '\n'), 1001, errors);
+        row("very many", QByteArray(100000, '\n'), 1001, errors);
+        row("a thousand in a line that is too wide", line(QByteArray(1000, ')')), 1001, warnings);
+        row("very many warnings", line(QByteArray(100000, ')')), 1001, warnings);
+        row("an error behind very many warnings", line(QByteArray(100000, ')')) + "x", 1001,
+            errors);
+        row("a thousand in a section left open", "=o\n" + QByteArray(1000, '\n'), 1001, errors);
     }
 
     void tooMany()
     {
         QFETCH(QByteArray, stream);
         QFETCH(qsizetype, expected);
-        QFETCH(bool, more);
+        QFETCH(QString, more);
         QCOMPARE(mostFindings, 1000);
         const QList<Finding> found = findings(stream, 32);
         QCOMPARE(found.size(), expected);
         for (qsizetype i = 0; i < found.size(); ++i) {
-            QCOMPARE(found[i].text.endsWith(": too much is wrong; no more is listed"),
-                     more && i == mostFindings);
+            const QString code = infoOf(found[i].code).name;
+            QCOMPARE(code.startsWith("more-") ? code : QString(),
+                     i == mostFindings ? more : QString());
             QVERIFY(i == 0 || found[i].offset >= found[i - 1].offset);
             QCOMPARE(found[i].line, 1 + stream.first(found[i].offset).count('\n'));
         }
+    }
+
+    /// Findings that are left out leave their places to others.
+    void ignored()
+    {
+        const QByteArray stream = line(QByteArray(2000, ')')) + "=x\n";
+        QStringList left;
+        for (const Finding &finding : findings(stream, 32, {Code::EndsText, Code::TooWide}))
+            left.append(infoOf(finding.code).name);
+        QCOMPARE(left, QStringList("unknown-command"));
+    }
+
+    /// Rows of the paper count sums and the marks between documents, as the box shows them.
+    void rowsOfThePaper()
+    {
+        const QByteArray wide(33, 'x');
+        const QByteArray stream = fiscal("=R1/$100/*2/(A)\n=R1/$1.5/*1/(B)\n") // rows 1 to 3
+                                  + documentOf(wide) // behind the sum, 4 and 5, and the mark, 6
+                                  + "=K\n=C1\n" + line("a)") + "=x\n"; // 9 and 10, behind a mark
+        QStringList rows;
+        for (const Finding &finding : findings(stream, 32))
+            rows.append(QString("%1 %2").arg(infoOf(finding.code).name).arg(finding.row));
+        QCOMPARE(rows, QStringList({"wrong-amount 3", "too-wide 7", "left-open 0", "ends-text 9",
+                                    "unknown-command 10"}));
     }
 
     /// What the paper says is not counted is found too.

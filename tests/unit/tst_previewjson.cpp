@@ -44,8 +44,10 @@ private slots:
         const Desk desk(everyCommand);
         const Run run = desk.run({"--json", "x.out"});
         VERIFY_ENDED(run, 1);
-        QCOMPARE(linesOf(run.standardError),
-                 QStringList("x.out:12: byte 92: unknown command: \"?\" does not belong here\\n"));
+        QCOMPARE(
+            linesOf(run.standardError),
+            QStringList("x.out:12: byte 92: error: unknown command: \"?\" does not belong here "
+                        "[unknown-command]\\n"));
 
         const auto command = [](const char *name, int offset, int line, QJsonObject more) {
             more.insert("command", name);
@@ -62,12 +64,27 @@ private slots:
                      {"description", "COFFEE"}}),
             command("deduction", 28, 4, {{"amount", "50"}}),
             command("section-closed", 40, 6, {{"section", "fiscal"}}),
+            // 1.20 twice, less 0.50
+            {{"sum", "1.90"},
+             {"offset", 0},
+             {"line", 1},
+             {"counted", 2},
+             {"uncounted", 0},
+             {"closed", true}},
             command("section-opened", 44, 7, {{"section", "receipt"}}),
             command("line", 50, 8, {{"spaces", 13}, {"text", "Caffè"}}),
             command("line", 76, 9, {{"spaces", 0}, {"text", " x"}}),
             command("section-closed", 85, 10, {{"section", "receipt"}}),
             command("section-opened", 88, 11, {{"section", "document"}}),
             command("unknown", 91, 12, {{"bytes", "3d3f0a"}, {"badByte", 92}}),
+            // Behind two rows of the sale, one of the deduction, two of the sum, the mark between
+            // documents, two lines and another mark.
+            {{"code", "unknown-command"},
+             {"level", "error"},
+             {"offset", 92},
+             {"line", 12},
+             {"row", 10},
+             {"text", "unknown command: \"?\" does not belong here"}},
             command("section-closed", 94, 13, {{"section", "document"}}),
         };
         QVERIFY(run.standardOutput.endsWith('\n'));
@@ -134,14 +151,25 @@ private slots:
         QVERIFY(origins.size() > 1000);
     }
 
+    /// The program writes the schema that it keeps to.
+    void theSchemaIsWritten()
+    {
+        const Run run = preview({"--schema"});
+        VERIFY_ENDED(run, 0);
+        QCOMPARE(run.standardOutput, bytesOf(schema));
+    }
+
     void schemaAllowsNothingElse_data()
     {
         QTest::addColumn<QJsonObject>("object");
         const auto row = [](QJsonObject object) {
-            object.insert("offset", 7);
+            if (!object.contains("column"))
+                object.insert("offset", 7);
             object.insert("line", 3);
             const QString bytes = object.contains("bytes") ? " with its bytes" : "";
-            QTest::newRow(qPrintable(object.value("command").toString() + bytes)) << object;
+            QTest::newRow(
+                qPrintable(object.value("command").toString(object.keys().join(' ')) + bytes))
+                << object;
         };
 
         row({{"command", "line"}, {"spaces", 13}, {"text", "CASSA"}});
@@ -163,6 +191,10 @@ private slots:
              {"bytes", "3d"}});
         row({{"command", "deduction"}, {"amount", "50"}, {"bytes", "3d"}});
         row({{"command", "unknown"}, {"bytes", "3d3f0a"}, {"badByte", 8}});
+        // What is no command.
+        row({{"code", "too-wide"}, {"level", "warning"}, {"text", "x"}});
+        row({{"sum", "-1.005"}, {"counted", 1}, {"uncounted", 0}, {"closed", false}});
+        row({{"code", "limit"}, {"level", "error"}, {"text", "x"}, {"file", "x"}, {"column", 1}});
     }
 
     void schemaAllowsNothingElse()
@@ -185,6 +217,10 @@ private slots:
             with("Command", "line"),
             with("offset", -1),
             with("offset", 1.5),
+            with("level", "note"),
+            with("sum", "1"),
+            with("column", 0),
+            with("row", 0),
             with("line", 0),
             with("command", "cut"),
             "[]\n",
@@ -195,7 +231,8 @@ private slots:
             if (key != "bytes" || object.value("command") == "unknown")
                 wrong += without(key);
             wrong += with(key, QJsonValue::Null);
-            wrong += with(key, true);
+            if (!object.value(key).isBool())
+                wrong += with(key, true);
             wrong += with(key, QJsonArray());
             wrong += object.value(key).isString() ? with(key, 1) : with(key, "1");
         }

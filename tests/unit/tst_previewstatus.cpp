@@ -17,9 +17,10 @@ private slots:
         const Desk desk(documentOf("a)b") + documentOf(QByteArray(40, 'x')) + "=x\n");
         // Sections take 3 bytes, a line 7 and its text: the first document 16, the second 53.
         const QStringList said = {
-            "2: byte 8: a \")\" inside a text ends it early\\n",
-            "5: byte 19: a line of 40 characters is wider than the paper (32)\\n",
-            "7: byte 70: unknown command: \"x\" does not belong here\\n",
+            "2: byte 8: warning: a \")\" inside a text ends it early [ends-text]\\n",
+            "5: byte 19: warning: a line of 40 characters is wider than the paper (32) "
+            "[too-wide]\\n",
+            "7: byte 70: error: unknown command: \"x\" does not belong here [unknown-command]\\n",
         };
         for (const QString &option :
              QStringList{"--columns=32", "--json", "--list", "--output=y.png"}) {
@@ -110,7 +111,7 @@ private slots:
         QByteArray stream = bytesOf(examples + example + ".out");
         stream[at] = wrong;
         const Desk desk(stream);
-        const Run run = desk.run({"x.out"});
+        const Run run = desk.run({"--strict", "x.out"});
         VERIFY_ENDED(run, 1);
         QVERIFY2(("\n" + run.standardError).contains("\nx.out:" + named.toUtf8()),
                  run.standardError.constData());
@@ -145,7 +146,7 @@ private slots:
             VERIFY_ENDED(run, 1);
             const QString named = QString(": byte %1: ").arg(size);
             QVERIFY2(run.standardError.contains(named.toUtf8()), run.standardError.constData());
-            QVERIFY2(run.standardError.contains("the stream ends here\n"),
+            QVERIFY2(run.standardError.contains("the stream ends here ["),
                      run.standardError.constData());
         }
     }
@@ -157,16 +158,21 @@ private slots:
     {
         const QMap<QString, QStringList> said = {
             {"period-report.out",
-             {"30: byte 713: a line of 40 characters is wider than the paper (32)\\n",
-              "31: byte 760: a line of 41 characters is wider than the paper (32)\\n",
-              "38: byte 940: a line of 34 characters is wider than the paper (32)\\n"}},
+             {"30: byte 713: warning: a line of 40 characters is wider than the paper (32) "
+              "[too-wide]\\n",
+              "31: byte 760: warning: a line of 41 characters is wider than the paper (32) "
+              "[too-wide]\\n",
+              "38: byte 940: warning: a line of 34 characters is wider than the paper (32) "
+              "[too-wide]\\n"}},
             {"receipt-summary.out",
-             {"19: byte 501: a line of 34 characters is wider than the paper (32)\\n"}},
+             {"19: byte 501: warning: a line of 34 characters is wider than the paper (32) "
+              "[too-wide]\\n"}},
         };
         const QString name = QTest::currentDataTag();
         const Run run = preview({name}, {examples, {}, {}});
-        VERIFY_ENDED(run, said.contains(name) ? 1 : 0);
+        VERIFY_ENDED(run, 0);
         QCOMPARE(linesOf(run.standardError), behind(name + ':', said.value(name)));
+        VERIFY_ENDED(preview({"--strict", name}, {examples, {}, {}}), said.contains(name) ? 1 : 0);
     }
 
 private:

@@ -1,5 +1,5 @@
 // Texts of the preview's stream: characters, control characters, bytes spelt out.
-#include "companions/preview/text.h"
+#include "companions/paper/text.h"
 #include "support/test.h"
 
 namespace tst_previewtexts {

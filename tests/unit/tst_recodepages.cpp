@@ -1,5 +1,5 @@
 // Every character through every code page of the machine: columns, commands, and what comes back.
-#include "companions/preview/decoder.h"
+#include "companions/paper/decoder.h"
 #include "companions/recode/codepage.h"
 #include "companions/recode/substitutes.h"
 #include "support/streams.h"

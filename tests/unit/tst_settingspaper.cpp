@@ -247,7 +247,7 @@ private slots:
         const QTemporaryDir folder;
         const TemporaryHome home(example("korvel.conf"));
         Editor editor(home.settingsPath(),
-                      script(folder, "grep -q 'paperWidth = \"13\"' .korvel/conf/korvel.conf"
+                      script(folder, "grep -q 'paperWidth = \"13\"' ~/.korvel/conf/korvel.conf"
                                      " && exit 1\nexec " KORVEL_PRINT " \"$1\" \"$2\"\n"));
         TRY_STREAM(editor, example("expected/receipt.out"));
         const QImage before = lookOf(*editor.paper());
@@ -265,7 +265,7 @@ private slots:
         const QTemporaryDir folder;
         const TemporaryHome home(example("korvel.conf"));
         Editor editor(home.settingsPath(),
-                      script(folder, "grep -q 'paperWidth = \"40\"' .korvel/conf/korvel.conf"
+                      script(folder, "grep -q 'paperWidth = \"40\"' ~/.korvel/conf/korvel.conf"
                                      " || exec sleep 600\nexec " KORVEL_PRINT " \"$1\" \"$2\"\n"));
         QTest::qWait(200);
         editor.edit("receiptdoc.printCompany", "false");

@@ -1,4 +1,5 @@
 // What a misspelt name of the vocabulary may be meant to be.
+#include "companions/shared/nearest.h"
 #include "support/test.h"
 #include "support/vocabularytables.h"
 
@@ -86,7 +87,7 @@ private slots:
     {
         QFETCH(QStringList, list);
         QFETCH(QString, expected);
-        QCOMPARE(vocabulary::nearest(QString(QTest::currentDataTag()), list), expected);
+        QCOMPARE(korvel::shared::nearest(QString(QTest::currentDataTag()), list), expected);
     }
 };
 

@@ -57,7 +57,7 @@
     </message>
 </context>
 <context>
-    <name>korvel::settings::Rendering</name>
+    <name>korvel::settings::PaperView</name>
     <message>
         <source>The renderer %1 cannot be started.</source>
         <translation>No se puede iniciar el programa de impresión %1.</translation>

@@ -57,7 +57,7 @@
     </message>
 </context>
 <context>
-    <name>korvel::settings::Rendering</name>
+    <name>korvel::settings::PaperView</name>
     <message>
         <source>The renderer %1 cannot be started.</source>
         <translation>Impossibile avviare il programma di stampa %1.</translation>
