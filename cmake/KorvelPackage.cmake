@@ -85,8 +85,10 @@ korvel_package(delivery korvel-delivery
 "korvel-deliver checks a print job, renders it with korvel-print and sends it to
 a printer in the network, at USB or on a serial line. A document is sent at most
 once under one id, whatever is killed, unplugged or full; what may have reached
-the printer is not sent again until a person has looked at the paper. A journal
-says what became of each document.")
+the printer is not sent again until a person has looked at the paper.
+
+korvel-journal says what became of each document, proves that nothing was
+changed since, and adds up what was registered.")
 
 korvel_package(settings korvel-settings
     SECTION utils

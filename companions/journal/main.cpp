@@ -183,7 +183,7 @@ int run(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(description());
-    parser.addPositionalArgument(u"SUBCOMMAND"_s, u"One of the above, and its arguments."_s,
+    parser.addPositionalArgument(u"ID"_s, u"The id of a document."_s,
                                  u"SUBCOMMAND [ARGUMENT...]"_s);
     parser.addOptions({journalOption, stateOption, sinceOption, jsonOption, jobOption, streamOption,
                        sentOption, settingsOption, headOption, dayOption, beforeOption});

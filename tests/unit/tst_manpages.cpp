@@ -21,6 +21,7 @@ struct Program
 const QList<Program> programs = {
     {"korvel-check",    KORVEL_CHECK   },
     {"korvel-deliver",  KORVEL_DELIVER },
+    {"korvel-journal",  KORVEL_JOURNAL },
     {"korvel-preview",  KORVEL_PREVIEW },
     {"korvel-print",    KORVEL_PRINT   },
     {"korvel-recode",   KORVEL_RECODE  },
