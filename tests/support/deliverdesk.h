@@ -28,7 +28,10 @@ public:
     {
         return QFile::exists(path("paper")) ? bytesOf(path("paper")) : QByteArray();
     }
-    [[nodiscard]] QStringList variables() const { return {"HOME=" + path("home"), "XDG_DATA_HOME"}; }
+    [[nodiscard]] QStringList variables() const
+    {
+        return {"HOME=" + path("home"), "XDG_DATA_HOME"};
+    }
 
     /// Runs it with arguments behind the device and the journal.
     [[nodiscard]] Run run(const QStringList &arguments, const QByteArray &input = {}) const
@@ -44,8 +47,7 @@ public:
     }
     [[nodiscard]] Run journal(const QStringList &arguments) const
     {
-        return runProgram(KORVEL_JOURNAL,
-                          QStringList{"--journal", path("journal.db")} + arguments,
+        return runProgram(KORVEL_JOURNAL, QStringList{"--journal", path("journal.db")} + arguments,
                           {folder.path(), variables(), {}});
     }
 
@@ -63,7 +65,7 @@ inline QByteArray receipt() { return bytesOf(KORVEL_SOURCE_DIR "/examples/expect
         const Run &its = (run);                                                                    \
         const QByteArray &said = (expectedStatus) == 0 ? its.standardOutput : its.standardError;   \
         const QByteArray &other = (expectedStatus) == 0 ? its.standardError : its.standardOutput;  \
-        QVERIFY2(its.exited && its.status == (expectedStatus),                                     \
+        QVERIFY2(its.exited &&its.status == (expectedStatus),                                      \
                  (QByteArray::number(its.status) + ": " + its.standardOutput + its.standardError)  \
                      .constData());                                                                \
         QVERIFY2(said.contains(expectedText), said.constData());                                   \

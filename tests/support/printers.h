@@ -26,11 +26,12 @@
 /// What is wrong with a printer in the network.
 struct PrinterFault
 {
-    int resetsAfter = -1;   // bytes of a connection, then it is reset
-    int closesAfter = -1;   // bytes, then it is closed with the rest unread
-    int stallsAfter = -1;   // bytes, then none is read
-    bool keepsOpen = false; // it never closes its side
-    bool talks = false;     // it says something for each thing that it reads
+    int resetsAfter = -1;        // bytes of a connection, then it is reset
+    int closesAfter = -1;        // bytes, then it is closed with the rest unread
+    int stallsAfter = -1;        // bytes, then none is read
+    int rate = 0;                // bytes a second that it reads; 0 for all at once
+    bool keepsOpen = false;      // it never closes its side
+    bool talks = false;          // it says something for each thing that it reads
     int connections = 1'000'000; // the first so many have the fault
 };
 
@@ -43,7 +44,7 @@ public:
         , listener(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
     {
         const int small = 2048; // what the system takes for a printer that does not read
-        if (fault.stallsAfter >= 0)
+        if (fault.stallsAfter >= 0 || fault.rate > 0)
             ::setsockopt(listener, SOL_SOCKET, SO_RCVBUF, &small, sizeof small);
         sockaddr_in address = {};
         address.sin_family = AF_INET;
@@ -66,10 +67,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(NetworkPrinter)
 
-    [[nodiscard]] QString device() const
-    {
-        return "tcp://127.0.0.1:" + QString::number(port);
-    }
+    [[nodiscard]] QString device() const { return "tcp://127.0.0.1:" + QString::number(port); }
 
     /// What each connection brought, when nobody is connected any more.
     QList<QByteArray> pages()
@@ -124,6 +122,8 @@ private:
             if (count <= 0)
                 break;
             taken += int(count);
+            if (its.rate > 0)
+                ::usleep(useconds_t(count * 1'000'000 / its.rate));
             if (its.talks)
                 static_cast<void>(::send(connection, "ready\n", 6, MSG_NOSIGNAL));
             const std::lock_guard lock(mutex);

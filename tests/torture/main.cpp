@@ -137,8 +137,16 @@ public:
 
     [[nodiscard]] std::vector<std::string> delivery() const
     {
-        return {fromEnvironment("KORVEL_DELIVER"), "--to", paper->device(), "--id", "till1-118",
-                "--journal", journal(), "--timeout", "5", job};
+        return {fromEnvironment("KORVEL_DELIVER"),
+                "--to",
+                paper->device(),
+                "--id",
+                "till1-118",
+                "--journal",
+                journal(),
+                "--timeout",
+                "5",
+                job};
     }
 
     [[nodiscard]] Ran ask(std::vector<std::string> what) const
@@ -161,9 +169,8 @@ public:
             return;
         require(first.status >= Sent && first.status <= InDoubt, "an exit status that is none");
         require(first.status != Sent || copiesNow == 1, "it says sent, and it is not on paper");
-        require(first.status == Sent || first.status == InDoubt || paper->all().find_first_not_of(
-                                                                       '\f')
-                                                                       == std::string::npos,
+        require(first.status == Sent || first.status == InDoubt
+                    || paper->all().find_first_not_of('\f') == std::string::npos,
                 "it says that nothing was sent, and something is on paper");
     }
 
@@ -205,8 +212,8 @@ private:
 Harm harmOf(const std::string &name)
 {
     static const std::map<std::string, Harm> all = {
-        {"alone", {Harm::Kind::KillAlone, 0, 0}},   {"all", {Harm::Kind::KillAll, 0, 0}},
-        {"EIO", {Harm::Kind::Fail, 0, EIO}},        {"ENOSPC", {Harm::Kind::Fail, 0, ENOSPC}},
+        {"alone", {Harm::Kind::KillAlone, 0, 0}}, {"all", {Harm::Kind::KillAll, 0, 0}},
+        {"EIO", {Harm::Kind::Fail, 0, EIO}},      {"ENOSPC", {Harm::Kind::Fail, 0, ENOSPC}},
         {"EINTR", {Harm::Kind::Fail, 0, EINTR}},
     };
     const auto found = all.find(name);

@@ -82,8 +82,7 @@ private:
                 continue;
             any = true;
             if (isListener && i == 0)
-                open.push_back(
-                    ::accept4(open[i], nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+                open.push_back(::accept4(open[i], nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
             else
                 any = take(i);
         }

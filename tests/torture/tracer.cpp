@@ -254,8 +254,8 @@ private:
     std::set<pid_t> tasks;
     std::map<pid_t, Call> calls; // that each task is in, or was last
     bool hasBegun = false;
-    bool isKilled = false;       // with all that come
-    pid_t failing = 0;           // whose call is to fail
+    bool isKilled = false; // with all that come
+    pid_t failing = 0;     // whose call is to fail
 };
 
 } // namespace

@@ -12,14 +12,14 @@ namespace torture {
 /// A call of the system by any process or thread of a run.
 struct Call
 {
-    long number = 0;         // SYS_...
+    long number = 0; // SYS_...
     unsigned long long arguments[6] = {};
-    std::string path = {};   // that its first argument is open on; empty where it is no descriptor
+    std::string path = {}; // that its first argument is open on; empty where it is no descriptor
     pid_t process = 0;
-    bool isChange = false;   // it may change something outside the program's memory
-    long long result = 0;    // once it is over; below 0 the error
-    int value = 0;           // ioctl: the number that it answered, where it asked for one
-    bool toNetwork = false;  // connect: to an address of the network
+    bool isChange = false;  // it may change something outside the program's memory
+    long long result = 0;   // once it is over; below 0 the error
+    int value = 0;          // ioctl: the number that it answered, where it asked for one
+    bool toNetwork = false; // connect: to an address of the network
 };
 
 /// What is done to a run.
@@ -35,11 +35,11 @@ struct Harm
 /// How a run went.
 struct Traced
 {
-    long changes = 0;      // calls that change something
-    bool isHarmed = false; // the call was reached
-    bool hangs = false;    // it did not end by itself
-    bool exited = false;   // the program itself, by itself
-    int status = -1;       // then
+    long changes = 0;        // calls that change something
+    bool isHarmed = false;   // the call was reached
+    bool hangs = false;      // it did not end by itself
+    bool exited = false;     // the program itself, by itself
+    int status = -1;         // then
     std::string harmed = {}; // the name of the call, for people
 };
 

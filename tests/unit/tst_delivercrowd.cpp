@@ -17,17 +17,15 @@ QList<int> deliverAtOnce(const DeliverDesk &desk, const QString &device, const Q
     for (const QString &id : ids) {
         all.push_back(std::make_unique<QProcess>());
         all.back()->setProcessEnvironment(environment);
-        all.back()->start(KORVEL_DELIVER,
-                          QStringList{"--to", device, "--journal", desk.path("journal.db"), "--id",
-                                      id}
-                              + options + QStringList{desk.path("receipt.xml")});
+        all.back()->start(KORVEL_DELIVER, QStringList{"--to", device, "--journal",
+                                                      desk.path("journal.db"), "--id", id}
+                                              + options + QStringList{desk.path("receipt.xml")});
     }
     QList<int> statuses;
     for (const auto &process : all) {
         const bool ended = process->waitForFinished(120'000);
-        statuses.append(ended && process->exitStatus() == QProcess::NormalExit
-                            ? process->exitCode()
-                            : -1);
+        statuses.append(ended && process->exitStatus() == QProcess::NormalExit ? process->exitCode()
+                                                                               : -1);
     }
     return statuses;
 }
@@ -44,8 +42,7 @@ private slots:
         QStringList ids;
         for (int i = 1; i <= 20; ++i)
             ids.append("till-" + QString::number(i));
-        QCOMPARE(deliverAtOnce(desk, printer.device(), ids, {"--wait", "100"}),
-                 QList<int>(20, 0));
+        QCOMPARE(deliverAtOnce(desk, printer.device(), ids, {"--wait", "100"}), QList<int>(20, 0));
         QCOMPARE(printer.pages(), QList<QByteArray>(20, receipt()));
         QCOMPARE(desk.journal({"verify"}).status, 0);
     }

@@ -15,8 +15,8 @@ private slots:
     {
         const DeliverDesk desk;
         const Run run = desk.run({"--id", "till1-118", "receipt.xml"});
-        VERIFY_DELIVERY(run, 0, "receipt.xml: sent to " + desk.device().toUtf8()
-                                    + " as till1-118\n");
+        VERIFY_DELIVERY(run, 0,
+                        "receipt.xml: sent to " + desk.device().toUtf8() + " as till1-118\n");
         QCOMPARE(desk.paper(), receipt());
         QCOMPARE(desk.journal({"show", "till1-118", "--stream"}).standardOutput, receipt());
         QCOMPARE(desk.journal({"show", "till1-118", "--job"}).standardOutput,
@@ -62,7 +62,8 @@ private slots:
     void otherInputUnderAnIdIsRefused()
     {
         const DeliverDesk desk;
-        writeFile(desk.path("other.conf"), bytesOf(desk.path("home/.korvel/conf/korvel.conf")) + "\n");
+        writeFile(desk.path("other.conf"),
+                  bytesOf(desk.path("home/.korvel/conf/korvel.conf")) + "\n");
         VERIFY_DELIVERY(desk.run({"--id", "a", "receipt.xml"}), 0, "sent");
         const QByteArray paper = desk.paper();
         const char *const refusal = "the id a is another document's";

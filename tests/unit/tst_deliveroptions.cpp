@@ -18,7 +18,7 @@ private slots:
         };
         const QString to = "--to=file:/nowhere/paper";
         // clang-format off
-        row("no file",             {to},                                 "a job or a stream is needed");
+        row("no file",             {to},                                 "a stream is needed");
         row("no device",           {"receipt.xml"},                      "--to DEVICE is needed");
         row("no such device",      {"--to=lp0", "receipt.xml"},          "write tcp://HOST");
         row("an id for two",       {to, "--id=a", "x", "y"},             "--id names one document");
@@ -80,9 +80,9 @@ private slots:
     {
         QFETCH(QString, journal);
         const DeliverDesk desk;
-        const Run run = runProgram(KORVEL_DELIVER,
-                                   {"--to", desk.device(), "--journal", journal, "receipt.xml"},
-                                   {desk.path("."), desk.variables(), {}});
+        const Run run =
+            runProgram(KORVEL_DELIVER, {"--to", desk.device(), "--journal", journal, "receipt.xml"},
+                       {desk.path("."), desk.variables(), {}});
         VERIFY_DELIVERY(run, 2, "korvel-deliver: ");
         QCOMPARE(desk.paper(), QByteArray());
     }

@@ -42,8 +42,10 @@ private slots:
         QTest::newRow("an unknown method")
             << QByteArray("<printjob><method name=\"printIt\"/></printjob>")
             << QByteArray("unknown-method");
-        QTest::newRow("a stream cut off")     << QByteArray("=o/*1\n=\"/(a )\n") << QByteArray("never closed");
-        QTest::newRow("a stream and more")    << QByteArray("=o/*1\n=o\nhello\n") << QByteArray("unknown command");
+        QTest::newRow("a stream cut off")
+            << QByteArray("=o/*1\n=\"/(a )\n") << QByteArray("never closed");
+        QTest::newRow("a stream and more")
+            << QByteArray("=o/*1\n=o\nhello\n") << QByteArray("unknown command");
         // clang-format on
     }
 
@@ -120,8 +122,8 @@ private slots:
         QFETCH(QByteArray, reason);
         const DeliverDesk desk;
         const OwnRenderer own(script);
-        const QStringList call = {"--to", desk.device(), "--journal", desk.path("journal.db"),
-                                  "--id", "a", "receipt.xml"};
+        const QStringList call = {"--to", desk.device(), "--journal",  desk.path("journal.db"),
+                                  "--id", "a",           "receipt.xml"};
         const Run run = runProgram(own.program(), call, {desk.path("."), desk.variables(), {}});
         VERIFY_DELIVERY(run, 3, reason);
         VERIFY_DELIVERY(desk.run({"--id", "a", "receipt.xml"}), 0, "sent");
@@ -131,10 +133,10 @@ private slots:
     {
         const DeliverDesk desk;
         const OwnRenderer own("echo 'no catalogue'\necho '=o/*1' > \"$2\"\n");
-        const Run run = runProgram(own.program(),
-                                   {"--to", desk.device(), "--journal", desk.path("journal.db"),
-                                    "receipt.xml"},
-                                   {desk.path("."), desk.variables(), {}});
+        const Run run =
+            runProgram(own.program(),
+                       {"--to", desk.device(), "--journal", desk.path("journal.db"), "receipt.xml"},
+                       {desk.path("."), desk.variables(), {}});
         VERIFY_DELIVERY(run, 1, "says: no catalogue");
     }
 
@@ -193,8 +195,8 @@ private slots:
     {
         const DeliverDesk desk;
         Surroundings deaf{desk.path("."), desk.variables(), {}, "/dev/full"};
-        const QStringList call = {"--to", desk.device(), "--journal", desk.path("journal.db"),
-                                  "--id", "a", "receipt.xml"};
+        const QStringList call = {"--to", desk.device(), "--journal",  desk.path("journal.db"),
+                                  "--id", "a",           "receipt.xml"};
         QCOMPARE(runProgram(KORVEL_DELIVER, call, deaf).status, 0);
         QCOMPARE(desk.paper(), receipt());
     }

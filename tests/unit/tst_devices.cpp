@@ -22,7 +22,8 @@ struct Sent
     QString error;
 };
 
-Sent send(const QString &name, const QByteArray &bytes = document, std::chrono::seconds patience = 5s)
+Sent send(const QString &name, const QByteArray &bytes = document,
+          std::chrono::seconds patience = 5s)
 {
     Sent sent;
     const auto device = deviceNamed(name, sent.error);
@@ -95,6 +96,27 @@ private slots:
         VERIFY_TAKEN(send(printer.device()));
     }
 
+    /// Its network took the bytes, and nobody read them: nothing can tell.
+    void aPrinterThatIsDeafCountsAsTakingAll()
+    {
+        PrinterFault fault;
+        fault.stallsAfter = 0;
+        NetworkPrinter printer(fault);
+        VERIFY_TAKEN(send(printer.device()));
+        QCOMPARE(printer.paper(), QByteArray());
+    }
+
+    /// It takes longer than the printer may take no byte, and takes a byte all the time.
+    void aSlowPrinterIsWaitedFor()
+    {
+        PrinterFault fault;
+        fault.rate = 4000;
+        NetworkPrinter printer(fault);
+        const QByteArray much = document.repeated(300);
+        VERIFY_TAKEN(send(printer.device(), much, 1s));
+        QVERIFY(printer.paper() == much);
+    }
+
     void nobodyListens()
     {
         const Sent sent = send(nobodysDevice());
@@ -116,8 +138,7 @@ private slots:
         QString error;
         const auto leasesOf = [&](const QString &name) {
             QByteArrayList names;
-            for (const auto &place :
-                 placesOf(*deviceNamed(name, error), QDeadlineTimer(5s), error))
+            for (const auto &place : placesOf(*deviceNamed(name, error), QDeadlineTimer(5s), error))
                 names.append(place->leaseName());
             return names;
         };
@@ -260,7 +281,8 @@ private slots:
         QTest::newRow("/tmp") << QString("it is no device of characters and no FIFO");
         QTest::newRow("serial:/tmp") << QString("it is no serial line");
         QTest::newRow("serial:/dev/null") << "cannot be reached: " + qt_error_string(ENOTTY);
-        QTest::newRow("file:/no/such/folder/paper") << "cannot be reached: " + qt_error_string(ENOENT);
+        QTest::newRow("file:/no/such/folder/paper")
+            << "cannot be reached: " + qt_error_string(ENOENT);
     }
 
     void whatIsNoDevice()

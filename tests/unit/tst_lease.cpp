@@ -123,7 +123,8 @@ private slots:
             }
             // Until it is another program it has what its parent has.
             const QString program = "/proc/" + QString::number(child) + "/exe";
-            while (QFileInfo(program).symLinkTarget() == QFileInfo("/proc/self/exe").symLinkTarget())
+            while (QFileInfo(program).symLinkTarget()
+                   == QFileInfo("/proc/self/exe").symLinkTarget())
                 ::usleep(1000);
         }
         const bool isFree = desk.take(error).has_value();
