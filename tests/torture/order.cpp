@@ -57,6 +57,8 @@ void Order::takeJournal(const Call &call)
     if (!isWriting(call))
         return;
     unsynced.insert(call.path);
+    if (call.path == journal && call.bytes.find("sending") != std::string::npos)
+        isAnnounced = true;
     if (hasSent && !isTaken)
         complain("something is recorded behind the first byte and before all are taken");
     isRecorded = isRecorded || hasSent;
@@ -67,6 +69,8 @@ void Order::takeDevice(const Call &call)
     if (call.result >= 0 && isWriting(call)) {
         if (!hasSent && !unsynced.empty())
             complain("a byte leaves before " + *unsynced.begin() + " is synced");
+        if (!isAnnounced)
+            complain("a byte leaves before it is written that it is being sent");
         hasSent = true;
         isTaken = false;
     }

@@ -32,6 +32,7 @@ private:
     const bool isNetwork;
 
     std::set<std::string> unsynced; // files of the journal, and their folder
+    bool isAnnounced = false;       // "sending" was written
     bool hasSent = false;           // a byte
     bool isTaken = false;           // all of them
     bool wasAcknowledged = false;   // all of them, by the network

@@ -46,6 +46,14 @@ Value readFrom(pid_t task, unsigned long long address)
     return value;
 }
 
+std::string bytesFrom(pid_t task, unsigned long long address, unsigned long long count)
+{
+    std::string bytes(count, '\0');
+    const iovec here{bytes.data(), bytes.size()};
+    const iovec there{asPointer(address), bytes.size()};
+    return ::process_vm_readv(task, &here, 1, &there, 1, 0) < 0 ? std::string() : bytes;
+}
+
 pid_t processOf(pid_t task)
 {
     std::ifstream status("/proc/" + std::to_string(task) + "/status");
@@ -239,6 +247,8 @@ private:
             return;
         if (asksForBytes(call))
             call.value = readFrom<int>(task, call.arguments[2]);
+        if (call.number == SYS_pwrite64)
+            call.bytes = bytesFrom(task, call.arguments[1], call.arguments[2]);
         if (call.number == SYS_connect) {
             const auto family = readFrom<sa_family_t>(task, call.arguments[1]);
             call.toNetwork = family == AF_INET || family == AF_INET6;

@@ -18,6 +18,7 @@ struct Call
     pid_t process = 0;
     bool isChange = false;  // it may change something outside the program's memory
     long long result = 0;   // once it is over; below 0 the error
+    std::string bytes = {}; // pwrite: what it writes
     int value = 0;          // ioctl: the number that it answered, where it asked for one
     bool toNetwork = false; // connect: to an address of the network
 };

@@ -44,7 +44,14 @@ Call connected()
     return made;
 }
 
-const Call written = call(SYS_pwrite64, journal);
+Call wrote(const std::string &bytes)
+{
+    Call made = call(SYS_pwrite64, journal);
+    made.bytes = bytes;
+    return made;
+}
+
+const Call written = wrote("a page with an event: sending");
 const Call synced = call(SYS_fdatasync, journal);
 const Call sent = call(SYS_write, paper);
 const Call taken = call(SYS_fsync, paper);
@@ -82,6 +89,12 @@ private slots:
         failed.result = -5;
         QCOMPARE(wrongWith({written, failed, sent, taken, written, synced}),
                  "a byte leaves before " + journal + " is synced");
+    }
+
+    void aByteBeforeItIsAnnounced()
+    {
+        QCOMPARE(wrongWith({wrote("accepted"), synced, sent, taken, written, synced}),
+                 std::string("a byte leaves before it is written that it is being sent"));
     }
 
     void aNewJournalWhoseFolderIsNotSynced()
