@@ -1,4 +1,5 @@
-# What cmake --install installs, in four components: print, tools, settings and development.
+# What cmake --install installs, in five components: print, tools, delivery, settings
+# and development.
 #
 #   korvel_install_program(target component)   a program and its manual page, docs/man/<target>.1.in
 #   korvel_install_library(name headers...)    the library korvel-<name>, in the CMake package

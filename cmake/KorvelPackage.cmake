@@ -78,6 +78,20 @@ serial line, for tills and their tests.
 
 Schemas of print jobs, in RELAX NG and as an XSD, are included.")
 
+korvel_package(delivery korvel-delivery
+    SECTION utils
+    DEPENDS "korvel-print (= ${KORVEL_DEBIAN_VERSION})"
+    SUGGESTS korvel-tools
+    SYNOPSIS "delivery of print jobs, each at most once, for korvel-print"
+    DESCRIPTION
+"korvel-deliver checks a print job, renders it with korvel-print and sends it to
+a printer in the network, at USB or on a serial line. A document is sent at most
+once under one id, whatever is killed, unplugged or full; what may have reached
+the printer is not sent again until a person has looked at the paper.
+
+korvel-journal says what became of each document, proves that nothing was
+changed since, and adds up what was registered.")
+
 korvel_package(settings korvel-settings
     SECTION utils
     DEPENDS "korvel-print (= ${KORVEL_DEBIAN_VERSION})"

@@ -27,7 +27,7 @@ QString reasonOf(const QFile &file)
 
 } // namespace
 
-std::optional<QByteArray> readWhole(const QString &path, qint64 limit, QString &error)
+std::optional<QByteArray> readUpTo(const QString &path, qint64 limit, QString &error)
 {
     QFile file;
     const bool open = path == "-"_L1 ? file.open(stdin, QIODevice::ReadOnly)
@@ -47,7 +47,13 @@ std::optional<QByteArray> readWhole(const QString &path, qint64 limit, QString &
         error = file.errorString();
         return {};
     }
-    if (bytes.size() > limit) {
+    return bytes;
+}
+
+std::optional<QByteArray> readWhole(const QString &path, qint64 limit, QString &error)
+{
+    auto bytes = readUpTo(path, limit, error);
+    if (bytes && bytes->size() > limit) {
         error = u"larger than "_s + QString::number(limit) + u" bytes"_s;
         return {};
     }

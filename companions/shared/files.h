@@ -19,6 +19,9 @@ inline constexpr qint64 largestStream = 4'194'304;
  */
 std::optional<QByteArray> readWhole(const QString &path, qint64 limit, QString &error);
 
+/// The same, without an error for what has more: then one byte more than the limit.
+std::optional<QByteArray> readUpTo(const QString &path, qint64 limit, QString &error);
+
 /**
  * All bytes of a settings file, up to 64 MiB. It is a regular file: the renderer reads its settings
  * from nothing else, and not from standard input.

@@ -54,14 +54,6 @@ int Output::end(int status)
     return failed ? trouble(unwritable) : status;
 }
 
-int writeBytes(const QByteArray &bytes, int status)
-{
-    QFile file;
-    const bool written = file.open(stdout, QIODevice::WriteOnly)
-                         && file.write(bytes) == bytes.size() && file.flush();
-    return written ? status : trouble(unwritable);
-}
-
 QString jsonLine(const QJsonObject &object)
 {
     const QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Compact);
@@ -77,6 +69,14 @@ QString jsonLine(const QJsonObject &object)
             line += u"\\u"_s + QString::number(unit, 16).rightJustified(4, u'0');
     }
     return line + u'\n';
+}
+
+int writeBytes(const QByteArray &bytes, int status)
+{
+    QFile file;
+    const bool written = file.open(stdout, QIODevice::WriteOnly)
+                         && file.write(bytes) == bytes.size() && file.flush();
+    return written ? status : trouble(unwritable);
 }
 
 int writeOut(const QString &text, int status)

@@ -20,6 +20,8 @@ struct Program
 // clang-format off
 const QList<Program> programs = {
     {"korvel-check",       KORVEL_CHECK      },
+    {"korvel-deliver",     KORVEL_DELIVER    },
+    {"korvel-journal",     KORVEL_JOURNAL    },
     {"korvel-preview",     KORVEL_PREVIEW    },
     {"korvel-print",       KORVEL_PRINT      },
     {"korvel-printer-sim", KORVEL_PRINTER_SIM},

@@ -1,0 +1,98 @@
+// What all devices share: handing bytes over, and dropping what the printer says.
+#include "delivery/device.h"
+
+#include "delivery/lease.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace korvel::delivery {
+
+QString reasonFor(const QString &device, int error)
+{
+    return device + u" cannot be reached: "_s + qt_error_string(error);
+}
+
+bool Connection::isAlive(QString &error)
+{
+    const short gone = POLLERR | POLLHUP | POLLNVAL;
+    if ((waitFor(descriptor, 0, QDeadlineTimer(0)) & gone) == 0)
+        return true;
+    error = u"the printer closed the connection at once"_s;
+    return false;
+}
+
+Connection::Heard Connection::dropInput() const
+{
+    // The descriptor may be open for writing alone, or may wait when it is read: ask before.
+    const short told = waitFor(descriptor, POLLIN, QDeadlineTimer(0));
+    if ((told & POLLIN) == 0)
+        return Heard::Nothing;
+    std::array<char, 4096> said;
+    const ssize_t count =
+        uninterrupted([&] { return ::read(descriptor.number(), said.data(), said.size()); });
+    if (count > 0)
+        return Heard::Something;
+    if (count == 0)
+        return Heard::End;
+    return errno == EAGAIN ? Heard::Nothing : Heard::Error;
+}
+
+bool Connection::handOver(QByteArrayView bytes, std::chrono::seconds patience, bool reads,
+                          QString &error) const
+{
+    constexpr qsizetype most = 4096; // at once: a device may not come back before all are taken
+    const short events = reads ? POLLIN | POLLOUT : POLLOUT;
+    QDeadlineTimer deadline(patience);
+    while (!bytes.isEmpty()) {
+        const short told = waitFor(descriptor, events, deadline);
+        const Heard heard = reads && (told & POLLIN) != 0 ? dropInput() : Heard::Nothing;
+        if (told == 0 || deadline.hasExpired()) {
+            error = u"the printer took no byte for "_s + QString::number(patience.count())
+                    + u" seconds"_s;
+            return false;
+        }
+        if (heard == Heard::End || heard == Heard::Error) {
+            error = heard == Heard::Error ? qt_error_string()
+                                          : u"the printer closed the connection too early"_s;
+            return false;
+        }
+        if ((told & (POLLOUT | POLLERR | POLLHUP)) == 0)
+            continue;
+        const ssize_t count =
+            ::write(descriptor.number(), bytes.data(), std::size_t(std::min(bytes.size(), most)));
+        if (count < 0 && errno != EAGAIN && errno != EINTR) {
+            error = qt_error_string();
+            return false;
+        }
+        if (count > 0) {
+            bytes = bytes.sliced(count);
+            deadline.setRemainingTime(patience);
+        }
+    }
+    return true;
+}
+
+Places placesOf(const DeviceName &device, const QDeadlineTimer &deadline, QString &error)
+{
+    return device.kind == DeviceName::Kind::Network ? networkPlaces(device, deadline, error)
+                                                    : filePlaces(device, error);
+}
+
+bool isHeld(const QString &device)
+{
+    QString error;
+    const auto name = deviceNamed(device, error);
+    if (!name)
+        return false;
+    const Places places = placesOf(*name, QDeadlineTimer(2s), error);
+    if (places.empty())
+        return name->kind == DeviceName::Kind::Network;
+    return std::any_of(places.begin(), places.end(),
+                       [](const auto &place) { return Lease::isHeld(place->leaseName()); });
+}
+
+} // namespace korvel::delivery

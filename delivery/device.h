@@ -1,0 +1,135 @@
+// Devices: where a document can go, and the connection that takes it there.
+#pragma once
+
+#include "delivery/descriptor.h"
+#include "delivery/devicename.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QDeadlineTimer>
+#include <QString>
+
+#include <chrono>
+#include <memory>
+#include <vector>
+
+namespace korvel::delivery {
+
+/// The way to a printer, while it is open.
+class Connection
+{
+public:
+    virtual ~Connection() = default;
+
+    /**
+     * Whether the printer is still there, before a byte is sent.
+     *
+     * @param error why it is not, in one line
+     */
+    virtual bool isAlive(QString &error);
+
+    /**
+     * Sends bytes and waits until the printer's side has taken them all. Called once; an error
+     * means that any number of them may have gone. Those that have not are then taken back from
+     * the system, where it gives them back, so that none arrives later.
+     *
+     * @param patience how long no byte may be taken
+     * @param error    why not all were taken, in one line
+     */
+    virtual bool send(QByteArrayView bytes, std::chrono::seconds patience, QString &error) = 0;
+
+protected:
+    explicit Connection(Descriptor opened)
+        : descriptor(std::move(opened))
+    {
+    }
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+
+    /// What reading what the printer says came to.
+    enum class Heard { Nothing, Something, End, Error };
+    Heard dropInput() const;
+
+    /// Hands all bytes to the system.
+    bool handOver(QByteArrayView bytes, std::chrono::seconds patience, bool reads,
+                  QString &error) const;
+
+    /// Waits until a number, of bytes that are still under way, is 0.
+    template<typename Number>
+    bool waitUntilNone(const Number &left, std::chrono::seconds patience, QString &error) const;
+
+    const Descriptor descriptor;
+};
+
+/// Where a device is: one address of a host, or a file of the system.
+class Place
+{
+public:
+    virtual ~Place() = default;
+
+    /// What the lease of the device is named by: the same, whatever name led here.
+    [[nodiscard]] virtual QByteArray leaseName() const = 0;
+
+    /// Opens the device; nothing, with the reason in one line, when it cannot be reached in time.
+    virtual std::unique_ptr<Connection> connect(const QDeadlineTimer &deadline, QString &error) = 0;
+
+protected:
+    Place() = default;
+    Place(const Place &) = delete;
+    Place &operator=(const Place &) = delete;
+};
+
+using Places = std::vector<std::unique_ptr<Place>>;
+
+/// All places where a device may be, to be tried in their order; none, with the reason in one line,
+/// when it is nowhere.
+Places placesOf(const DeviceName &device, const QDeadlineTimer &deadline, QString &error);
+
+/**
+ * Whether a living process holds the lease of a device: for those who read in the journal that a
+ * document is being sent to it. True, too, where a host's address cannot be found out.
+ *
+ * @param device as deviceNamed() takes it
+ */
+bool isHeld(const QString &device);
+
+/// What an error of the system says of a device, in one line.
+QString reasonFor(const QString &device, int error);
+
+// Places by the kind of the device, for placesOf().
+Places networkPlaces(const DeviceName &device, const QDeadlineTimer &deadline, QString &error);
+Places filePlaces(const DeviceName &device, QString &error);
+
+template<typename Number>
+bool Connection::waitUntilNone(const Number &left, std::chrono::seconds patience,
+                               QString &error) const
+{
+    using namespace Qt::Literals::StringLiterals;
+    constexpr std::chrono::milliseconds longest(20);
+    std::chrono::milliseconds pause(1);
+    QDeadlineTimer deadline(patience);
+    for (qint64 before = left(); before != 0;) {
+        if (before < 0 || deadline.hasExpired()) {
+            error = before < 0 ? qt_error_string()
+                               : u"the printer took no byte for "_s
+                                     + QString::number(patience.count()) + u" seconds"_s;
+            return false;
+        }
+        const Heard heard = dropInput();
+        const qint64 now = left();
+        if (now != 0 && (heard == Heard::End || heard == Heard::Error)) {
+            error = heard == Heard::Error ? qt_error_string()
+                                          : u"the printer closed the connection too early"_s;
+            return false;
+        }
+        if (now >= 0 && now < before)
+            deadline.setRemainingTime(patience);
+        before = now;
+        if (now > 0)
+            waitFor(descriptor, 0, QDeadlineTimer(pause));
+        pause = std::min(pause * 2, longest);
+    }
+    return true;
+}
+
+} // namespace korvel::delivery
