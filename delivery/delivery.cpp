@@ -115,6 +115,20 @@ private:
                        u"the process that was sending it ended before its end was known"_s);
     }
 
+    /// The same of all documents that were being sent to a device, by whatever name: its lease is
+    /// ours.
+    void doubtThoseOf(const QByteArray &lease)
+    {
+        QList<Document> left;
+        journal.eachDocument(State::Sending, {}, [&](const Document &document) {
+            if (document.device == order.device.text
+                || leasesOf(document.device).value_or(QByteArrayList()).contains(lease))
+                left.append(document);
+        });
+        for (const Document &document : left)
+            doubt(document.id, document.device);
+    }
+
     /// Takes the lease of the device, and opens it; otherwise says why not.
     Attempt reach()
     {
@@ -123,8 +137,7 @@ private:
             auto lease = Lease::take(place->leaseName(), reason);
             if (!lease)
                 continue;
-            for (const QString &id : journal.documents(State::Sending, order.device.text))
-                doubt(id, order.device.text);
+            doubtThoseOf(place->leaseName());
             auto connection = place->connect(QDeadlineTimer(order.timeout), reason);
             if (connection && connection->isAlive(reason))
                 return {std::move(lease), std::move(connection)};

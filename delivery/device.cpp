@@ -82,17 +82,26 @@ Places placesOf(const DeviceName &device, const QDeadlineTimer &deadline, QStrin
                                                     : filePlaces(device, error);
 }
 
-bool isHeld(const QString &device)
+std::optional<QByteArrayList> leasesOf(const QString &device)
 {
     QString error;
     const auto name = deviceNamed(device, error);
     if (!name)
-        return false;
-    const Places places = placesOf(*name, QDeadlineTimer(2s), error);
-    if (places.empty())
-        return name->kind == DeviceName::Kind::Network;
-    return std::any_of(places.begin(), places.end(),
-                       [](const auto &place) { return Lease::isHeld(place->leaseName()); });
+        return QByteArrayList();
+    QByteArrayList leases;
+    for (const auto &place : placesOf(*name, QDeadlineTimer(2s), error))
+        leases.append(place->leaseName());
+    if (leases.isEmpty() && name->kind == DeviceName::Kind::Network)
+        return {};
+    return leases;
+}
+
+bool isHeld(const QString &device)
+{
+    const auto leases = leasesOf(device);
+    return !leases || std::any_of(leases->begin(), leases->end(), [](const QByteArray &lease) {
+        return Lease::isHeld(lease);
+    });
 }
 
 } // namespace korvel::delivery

@@ -5,12 +5,14 @@
 #include "delivery/devicename.h"
 
 #include <QByteArray>
+#include <QByteArrayList>
 #include <QByteArrayView>
 #include <QDeadlineTimer>
 #include <QString>
 
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace korvel::delivery {
@@ -84,6 +86,14 @@ using Places = std::vector<std::unique_ptr<Place>>;
 /// All places where a device may be, to be tried in their order; none, with the reason in one line,
 /// when it is nowhere.
 Places placesOf(const DeviceName &device, const QDeadlineTimer &deadline, QString &error);
+
+/**
+ * The names of the leases of a device, one for each place; nothing where a host's address cannot be
+ * found out.
+ *
+ * @param device as deviceNamed() takes it
+ */
+std::optional<QByteArrayList> leasesOf(const QString &device);
 
 /**
  * Whether a living process holds the lease of a device: for those who read in the journal that a

@@ -100,19 +100,6 @@ Contents Journal::contentsOf(const Document &document)
             document.charset};
 }
 
-QStringList Journal::documents(State state, const QString &device)
-{
-    Statement row(*database, "SELECT documents.id FROM documents"
-                             " JOIN events ON events.number = documents.last"
-                             " WHERE documents.state = ? AND events.device = ?"
-                             " ORDER BY documents.last");
-    row.with(QByteArray(infoOf(state).name.latin1()), toBytes(device));
-    QStringList ids;
-    while (row.step())
-        ids.append(fromBytes(row.bytes(0)));
-    return ids;
-}
-
 void Journal::eachDocument(std::optional<State> state, const QDateTime &since,
                            const std::function<void(const Document &)> &take,
                            const Progress &progress)

@@ -134,9 +134,6 @@ public:
     void refuse(const QString &id, const Contents &contents, const QString &device,
                 const QString &origin, const QString &detail);
 
-    /// The ids of the documents in a state whose last event names a device.
-    QStringList documents(State state, const QString &device);
-
     /// All documents in the order of their first events, one after the other; others may write
     /// meanwhile.
     ///

@@ -244,16 +244,29 @@ private slots:
         QCOMPARE(int(shop.deliver().end), int(End::InDoubt));
     }
 
+    void theNextHolderRecordsTheDoubt_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<State>("state");
+        QTest::newRow("by the same name") << "paper" << State::InDoubt;
+        QTest::newRow("by another name") << "link" << State::InDoubt;
+        QTest::newRow("of another device") << "other" << State::Sending;
+    }
+
     /// Whoever takes the device next says of all that was being sent to it that it is in doubt.
     void theNextHolderRecordsTheDoubt()
     {
+        QFETCH(QString, name);
+        QFETCH(State, state);
         const Shop shop;
+        QVERIFY(QFile::link(shop.path("paper"), shop.path("link")));
         shop.bring(State::Sending);
         Journal journal = shop.journal();
-        const Order order{"another", "test", named(shop.device()), contentsOf("=o\n")};
+        const QString to = shop.path(name);
+        const Order order{"another", "test", named("file:" + to), contentsOf("=o\n")};
         QCOMPARE(int(deliver(journal, order).end), int(End::Sent));
-        QCOMPARE(shop.state(), State::InDoubt);
-        QCOMPARE(shop.paper(), QByteArray("=o\n"));
+        QCOMPARE(shop.state(), state);
+        QCOMPARE(bytesOf(to), QByteArray("=o\n"));
     }
 
     void aPrinterThatIsSwitchedOnIsWaitedFor()

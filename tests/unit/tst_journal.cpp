@@ -178,22 +178,6 @@ private slots:
         QCOMPARE(journal.head().number, 0);
     }
 
-    void documentsOfADevice()
-    {
-        const JournalFolder folder;
-        Journal journal = folder.writer();
-        deliver(journal, "b", {State::Sending});
-        deliver(journal, "a", {State::Sending});
-        deliver(journal, "sent", {State::Sending, State::Sent});
-        deliver(journal, "elsewhere", {});
-        journal.change("elsewhere", State::Sending, "file:/x", {});
-        QCOMPARE(journal.documents(State::Sending, till), QStringList({"b", "a"}));
-        QCOMPARE(journal.documents(State::Sending, "file:/x"), QStringList("elsewhere"));
-        QCOMPARE(journal.documents(State::Sent, till), QStringList("sent"));
-        QCOMPARE(journal.documents(State::InDoubt, till), QStringList());
-        QCOMPARE(journal.documents(State::Sending, "tcp://192.0.2.7"), QStringList());
-    }
-
     /// Ids are bytes: two that look alike are two, and none is a pattern, a query or an end.
     void ids()
     {
