@@ -45,4 +45,9 @@ QString characterName(char32_t character)
     return u'"' + QString::fromUcs4(&character, 1) + u"\" ("_s + number + u')';
 }
 
+QString counted(qint64 number, const QString &thing)
+{
+    return QString::number(number) + u' ' + thing + (number == 1 ? QString() : u"s"_s);
+}
+
 } // namespace korvel::shared

@@ -23,4 +23,7 @@ QString quoted(const QString &value);
 /// A character in quotes and by its number, "è" (U+00E8), or by that alone where it does not print.
 QString characterName(char32_t character);
 
+/// "1 document", "2 documents".
+QString counted(qint64 number, const QString &thing);
+
 } // namespace korvel::shared
