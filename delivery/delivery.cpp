@@ -74,9 +74,10 @@ private:
     {
         Document document = takenIn();
         if (!isMadeOf(document, order.contents))
-            return Outcome{End::Refused, u"the id "_s + order.id
-                                             + u" is another document's: give this one an id of "
-                                               "its own"_s};
+            return Outcome{End::Refused,
+                           u"the id "_s + order.id
+                               + u" is that of another job, or of the same with other settings or "
+                                 "another code page: give this one an id of its own"_s};
         isElsewhere = document.state == State::Sending && isHeld(document.device);
         if (isElsewhere) {
             reason = u"another process is sending it"_s;

@@ -66,7 +66,7 @@ private slots:
                   bytesOf(desk.path("home/.korvel/conf/korvel.conf")) + "\n");
         VERIFY_DELIVERY(desk.run({"--id", "a", "receipt.xml"}), 0, "sent");
         const QByteArray paper = desk.paper();
-        const char *const refusal = "the id a is another document's";
+        const char *const refusal = "the id a is that of another job";
         VERIFY_DELIVERY(desk.run({"--id", "a", "fiscal.xml"}), 1, refusal);
         VERIFY_DELIVERY(desk.run({"--id", "a", "--charset", "cp858", "receipt.xml"}), 1, refusal);
         VERIFY_DELIVERY(desk.run({"--id", "a", "--settings", "other.conf", "receipt.xml"}), 1,
