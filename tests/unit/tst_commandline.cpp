@@ -113,7 +113,7 @@ private slots:
             << QByteArray(sampleJob).replace("</job>", "</other>") << QString();
         QTest::newRow("attribute without quotes")
             << QByteArray(sampleJob).replace("</job>", "<receipe number=3/></job>") << QString();
-        QTest::newRow("a second root element") << QByteArray(job) + "<job/>" << QString();
+        QTest::newRow("a second root element") << QByteArray(sampleJob) + "<job/>" << QString();
         QTest::newRow("unknown method")
             << QByteArray(sampleJob).replace("</job>", R"(<method name="printFullorder"/></job>)")
             << "File Format Not Supported\\n";
@@ -221,7 +221,7 @@ private slots:
     {
         const Shop shop;
         const QString name = QString::fromUtf8("caffè del mattino.xml");
-        writeFile(shop.path(name), job);
+        writeFile(shop.path(name), sampleJob);
         VERIFY_SOUND(shop.run({name, "stream.out"}));
         QCOMPARE(shop.output(), stream);
     }
@@ -236,7 +236,7 @@ private slots:
         const Shop shop;
         const Sweeper sweeper(shop.home.path());
         const QByteArray folder = shop.home.path().toUtf8();
-        writeNamed(folder + '/' + name, job);
+        writeNamed(folder + '/' + name, sampleJob);
         for (const QByteArray &path : {name, folder + '/' + name}) {
             const Run run = runWithBytes(KORVEL_PRINT, {path, "stream.out"}, folder);
             VERIFY_SOUND(run);
@@ -322,7 +322,7 @@ private slots:
         const Sweeper sweeper(shop.home.path());
         const QByteArray folder = shop.home.path().toUtf8() + '/' + name;
         std::filesystem::create_directory(folder.toStdString());
-        writeNamed(folder + "/:in", job);
+        writeNamed(folder + "/:in", sampleJob);
         const Run run = runWithBytes(KORVEL_PRINT, {":in", ":out"}, folder);
         VERIFY_SOUND(run);
         QCOMPARE(linesOf(run.standardOutput), QStringList());
