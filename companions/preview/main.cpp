@@ -77,12 +77,13 @@ void writeJson(Output &out, const preview::Input &input, const QList<preview::Fi
         if (sum)
             out << jsonLine(toJson(*sum));
     };
+    const QByteArray end("}\n");
     preview::Ledger ledger;
     preview::Decoder decoder(input.stream, page);
     while (const auto command = decoder.next()) {
         for (; next != found.end() && next->offset < command->offset; ++next)
             out << jsonLine(toJson(*next));
-        out << jsonLine(toJson(*command));
+        out << jsonOf(*command) << end;
         writeSum(ledger.take(*command));
     }
     for (; next != found.end(); ++next)
