@@ -2,6 +2,7 @@
 #include "companions/preview/pictures.h"
 
 #include "companions/preview/picture.h"
+#include "companions/preview/rollpdf.h"
 #include "companions/shared/files.h"
 #include "companions/shared/output.h"
 #include "config/path.h"
@@ -21,12 +22,11 @@ namespace {
 
 using Format = PictureRequest::Format;
 
-const QCommandLineOption outputOption({u"o"_s, u"output"_s},
-                                      u"Write a picture, .png, .svg or .pdf, instead; - for "
-                                      "standard output."_s,
-                                      u"file"_s);
 const QCommandLineOption
-    formatOption(u"format"_s, u"Of the picture, whatever its name: png, svg or pdf."_s, u"kind"_s);
+    outputOption({u"o"_s, u"output"_s},
+                 u"Write a .png, .svg or .pdf instead; - for standard output."_s, u"file"_s);
+const QCommandLineOption
+    formatOption(u"format"_s, u"Of the output, whatever its name: png, svg or pdf."_s, u"kind"_s);
 const QCommandLineOption lookOption(u"look"_s,
                                     u"Of the picture: plain, or thermal, dot by dot on paper of "
                                     "80 mm."_s,
@@ -65,19 +65,49 @@ std::optional<Format> formatOf(const QString &path)
     return {};
 }
 
-QByteArray bytesOf(const Picture &picture, const PictureRequest &request)
+QByteArray pngOf(const Picture &picture, const QColor &around)
 {
-    const QColor around = request.transparent ? Qt::transparent : Qt::white;
-    switch (request.format) {
-    case Format::Svg:
-        return picture.toSvg(request.title, around);
-    case Format::Pdf:
-        return picture.toPdf(request.title);
-    case Format::Png:
-        break;
-    }
     QBuffer png;
     return QImageWriter(&png, "png").write(picture.toImage(around)) ? png.data() : QByteArray();
+}
+
+/// The bytes of a PNG or an SVG.
+QByteArray imageOf(const PictureRequest &request, const Shown &shown, const Reading &reading,
+                   const Look &look, QString &error)
+{
+    QList<PaperRow> rows; // one at most that does not fit: there may be millions
+    qsizetype count = 0;
+    printRows(shown, reading, [&](const PaperRow &row) {
+        if (Picture::shows(look, row) && count++ <= Picture::mostRows)
+            rows.append(row);
+    });
+    const Picture picture(rows, reading.columns, look);
+    if (!picture.fitsImage()) {
+        error = u"the paper has "_s + QString::number(count)
+                + u" rows, too many or too wide for a .png or .svg, which holds "_s
+                + QString::number(Picture::mostRows) + u" of common width; write a .pdf"_s;
+        return {};
+    }
+    const QColor around = request.transparent ? Qt::transparent : Qt::white;
+    return request.format == Format::Svg ? picture.toSvg(request.title, around)
+                                         : pngOf(picture, around);
+}
+
+/// All bytes of what is asked for.
+QByteArray bytesOf(const PictureRequest &request, const QList<Shown> &shown, const Reading &reading,
+                   QString &error)
+{
+    if (!Picture::hasFont()) {
+        error = u"no font is installed; install a monospaced one, such as DejaVu"_s;
+        return {};
+    }
+    const Look look = request.thermal ? Look::thermal(reading.columns) : Look::plain();
+    if (request.format != Format::Pdf)
+        return imageOf(request, shown.constFirst(), reading, look, error);
+    RollPdf pdf(reading.columns, look, request.title);
+    for (const Shown &one : shown)
+        pdf.add([&](const Roll::TakeRow &take) { printRows(one, reading, take); });
+    return pdf.end();
 }
 
 } // namespace
@@ -118,27 +148,20 @@ std::optional<PictureRequest> pictureRequest(const QCommandLineParser &parser, Q
     return request;
 }
 
-int writePicture(const PictureRequest &request, const QList<PaperRow> &rows, int columns,
+int writePicture(const PictureRequest &request, const QList<Shown> &shown, const Reading &reading,
                  int status)
 {
-    if (!Picture::hasFont())
-        return trouble(u"no font is installed; install a monospaced one, such as DejaVu"_s);
-    const Picture picture(rows, columns, request.thermal ? Look::thermal(columns) : Look::plain());
-    if (request.format != Format::Pdf && !picture.fitsImage())
-        return trouble(u"the paper has "_s + QString::number(picture.rowCount())
-                       + u" rows, too many or too wide for a .png or .svg, which holds "_s
-                       + QString::number(Picture::mostRows) + u" of common width; write a .pdf"_s);
     const bool toOutput = request.path == "-"_L1;
     if (toOutput && isatty(STDOUT_FILENO) == 1)
         return trouble(u"standard output is a terminal, which shows no picture"_s);
     if (!toOutput && korvel::path::kindOf(request.path) == korvel::path::Kind::Other)
         return trouble(request.path + u": no regular file"_s);
-    const QByteArray bytes = bytesOf(picture, request);
+    QString error;
+    const QByteArray bytes = bytesOf(request, shown, reading, error);
     if (bytes.isEmpty())
-        return trouble(request.path + u": the picture cannot be made"_s);
+        return trouble(error.isEmpty() ? request.path + u": the picture cannot be made"_s : error);
     if (toOutput)
         return writeBytes(bytes, status);
-    QString error;
     return writeWhole(request.path, bytes, error) ? status
                                                   : trouble(request.path + u": "_s + error);
 }

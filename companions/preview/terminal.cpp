@@ -24,14 +24,6 @@ int cellsOf(QStringView text)
     return cells;
 }
 
-/// Where a text crosses the paper's edge: no character is taken apart.
-qsizetype crossing(const QString &text, int columns)
-{
-    if (text.size() <= columns)
-        return text.size();
-    return text.at(columns).isLowSurrogate() && columns > 0 ? columns - 1 : columns;
-}
-
 struct Colours
 {
     Row kind;
@@ -58,6 +50,13 @@ QLatin1StringView colourOf(Row kind)
 }
 
 } // namespace
+
+qsizetype crossing(const QString &text, int columns)
+{
+    if (text.size() <= columns)
+        return text.size();
+    return text.at(columns).isLowSurrogate() && columns > 0 ? columns - 1 : columns;
+}
 
 Box::Box(int paperColumns, bool isColoured)
     : columns(paperColumns)

@@ -5,6 +5,9 @@
 
 namespace korvel::preview {
 
+/// Where a text crosses the paper's edge; its size when it does not. No character is taken apart.
+qsizetype crossing(const QString &text, int columns);
+
 /**
  * The paper as a box of text, line by line; each ends in a line feed. What is wider than the paper
  * goes on behind its edge, which is then marked with "»"; what is not on the paper, but said by the
