@@ -229,7 +229,7 @@ int writePictureOf(preview::PictureRequest &picture, Show &show, const Request &
     const bool isForOne = picture.format == preview::PictureRequest::Format::Png
                           || picture.format == preview::PictureRequest::Format::Svg;
     if (isForOne && files.paths.size() > 1)
-        return trouble(u"a .png or .svg shows one job or stream; write a .pdf"_s);
+        return trouble(u"a .png or .svg shows one job or stream; write a .pdf or .html"_s);
     QList<preview::Shown> all;
     show.forEach([&](preview::Shown shown) { all.append(std::move(shown)); });
     picture.title = files.title;

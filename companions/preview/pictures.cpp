@@ -1,6 +1,7 @@
-// The options of pictures, and the files that they are written to.
+// The options of pictures and pages, and the files that they are written to.
 #include "companions/preview/pictures.h"
 
+#include "companions/preview/page.h"
 #include "companions/preview/picture.h"
 #include "companions/preview/rollpdf.h"
 #include "companions/shared/files.h"
@@ -22,11 +23,13 @@ namespace {
 
 using Format = PictureRequest::Format;
 
-const QCommandLineOption
-    outputOption({u"o"_s, u"output"_s},
-                 u"Write a .png, .svg or .pdf instead; - for standard output."_s, u"file"_s);
-const QCommandLineOption
-    formatOption(u"format"_s, u"Of the output, whatever its name: png, svg or pdf."_s, u"kind"_s);
+const QCommandLineOption outputOption({u"o"_s, u"output"_s},
+                                      u"Write a .png, .svg, .pdf or .html instead; - for standard "
+                                      "output."_s,
+                                      u"file"_s);
+const QCommandLineOption formatOption(u"format"_s,
+                                      u"Of the output, whatever its name: png, svg, pdf or html."_s,
+                                      u"kind"_s);
 const QCommandLineOption lookOption(u"look"_s,
                                     u"Of the picture: plain, or thermal, dot by dot on paper of "
                                     "80 mm."_s,
@@ -44,6 +47,7 @@ constexpr FormatName formats[] = {
     {"png"_L1, Format::Png},
     {"svg"_L1, Format::Svg},
     {"pdf"_L1, Format::Pdf},
+    {"html"_L1, Format::Html},
 };
 
 std::optional<Format> formatCalled(const QString &name)
@@ -97,6 +101,8 @@ QByteArray imageOf(const PictureRequest &request, const Shown &shown, const Read
 QByteArray bytesOf(const PictureRequest &request, const QList<Shown> &shown, const Reading &reading,
                    QString &error)
 {
+    if (request.format == Format::Html)
+        return pageOf(shown, reading, request.title);
     if (!Picture::hasFont()) {
         error = u"no font is installed; install a monospaced one, such as DejaVu"_s;
         return {};
@@ -134,10 +140,13 @@ std::optional<PictureRequest> pictureRequest(const QCommandLineParser &parser, Q
     const QString look = parser.value(lookOption);
     if (!format)
         error = parser.isSet(formatOption)
-                    ? u"--format takes png, svg or pdf"_s
-                    : u"--output takes a name that ends in .png, .svg or .pdf"_s;
+                    ? u"--format takes png, svg, pdf or html"_s
+                    : u"--output takes a name that ends in .png, .svg, .pdf or .html"_s;
     else if (look != "plain"_L1 && look != "thermal"_L1)
         error = u"--look takes plain or thermal"_s;
+    else if (format == Format::Html
+             && (parser.isSet(lookOption) || parser.isSet(transparentOption)))
+        error = u"--look and --transparent are for pictures, not for .html"_s;
     else if (parser.isSet(transparentOption) && format == Format::Pdf)
         error = u"--transparent is for .png and .svg; a .pdf has nothing around the paper"_s;
     if (!error.isEmpty())

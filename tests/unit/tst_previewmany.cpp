@@ -232,7 +232,7 @@ private slots:
     {
         const Day day;
         writeFile(day.path("empty.out"), "");
-        for (const QString &name : QStringList{"y.pdf"}) {
+        for (const QString &name : QStringList{"y.pdf", "y.html"}) {
             const Run run = day.run({"-o", name, "missing.out", "empty.out", "x.out", "day/9.out"});
             VERIFY_ENDED(run, 2);
             QCOMPARE(run.standardError.count('\n'), 2);

@@ -150,6 +150,8 @@ private slots:
         QTest::newRow("look: no output") << QStringList{"--look", "thermal", "x.out"};
         QTest::newRow("transparent: no output") << QStringList{"--transparent", "x.out"};
         QTest::newRow("transparent: PDF") << QStringList{"-o", "y.pdf", "--transparent", "x.out"};
+        QTest::newRow("look: HTML") << QStringList{"-o", "y.html", "--look=plain", "x.out"};
+        QTest::newRow("transparent: HTML") << QStringList{"-o", "y.html", "--transparent", "x.out"};
         QTest::newRow("PNG of two") << QStringList{"-o", "y.png", "x.out", "x.out"};
         QTest::newRow("SVG of two") << QStringList{"-o", "y.svg", "x.out", "x.out"};
         QTest::newRow("output: no value") << QStringList{"x.out", "-o"};
