@@ -104,7 +104,7 @@ QByteArrayView classOf(Row kind)
 {
     for (const RowClass &row : rowClasses) {
         if (row.kind == kind)
-            return QByteArrayView(row.name.data(), row.name.size());
+            return {row.name.data(), row.name.size()};
     }
     return {};
 }

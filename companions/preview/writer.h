@@ -16,10 +16,10 @@ public:
     enum class Format { Paper, List, Json };
 
     /**
-     * @param named    each file's name is written too: above it, or as "file" of each object
-     * @param coloured as a terminal shows it
+     * @param isNamed    each file's name is written too: above it, or as "file" of each object
+     * @param isColoured as a terminal shows it
      */
-    Writer(Format format, const Reading &reading, bool named, bool coloured);
+    Writer(Format outputFormat, const Reading &howToRead, bool isNamed, bool isColoured);
 
     void write(const Shown &shown);
 
