@@ -130,9 +130,11 @@ void addRows(QByteArray &html, const Shown &shown, const Reading &reading)
             return;
         }
         const qsizetype crossed = crossing(row.text, reading.columns);
-        html += escapedText(row.text.first(crossed));
-        if (crossed < row.text.size())
-            html += "<b>" + escapedText(row.text.sliced(crossed)) + "</b>";
+        if (crossed == row.text.size())
+            html += escapedText(row.text);
+        else
+            html += escapedText(row.text.first(crossed)) + "<b>"
+                    + escapedText(row.text.sliced(crossed)) + "</b>";
         html += '\n';
     });
     mark({});
