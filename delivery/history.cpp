@@ -55,7 +55,8 @@ QByteArray boundOf(const QDateTime &time) { return time.isValid() ? textOf(time)
 
 std::optional<Document> Journal::find(const QString &id)
 {
-    Statement row(*database, "SELECT documents.*, first.time, last.time, last.device, last.detail"
+    Statement row(*database, "SELECT documents.*, first.time, last.time, last.device, last.detail,"
+                             " last.lease"
                              " FROM documents"
                              " JOIN events AS first ON first.number = documents.first"
                              " JOIN events AS last ON last.number = documents.last"
@@ -76,6 +77,7 @@ std::optional<Document> Journal::find(const QString &id)
                     timeOf(row.bytes(7)),
                     fromBytes(row.bytes(8)),
                     fromBytes(contents.origin),
+                    row.bytes(10),
                     fromBytes(row.bytes(9)),
                     contents.job,
                     contents.settings,

@@ -21,7 +21,7 @@ constexpr int lookedAtAtOnce = 256; // events looked at before a delivery may wr
 constexpr char textsOnly[] =
     "typeof(time) || typeof(document) || typeof(event) || typeof(device) || typeof(detail)"
     " || typeof(job) || typeof(settings) || typeof(catalogue) || typeof(rendered) || typeof(sent)"
-    " || typeof(charset) || typeof(origin) || typeof(previous) || typeof(hash)";
+    " || typeof(charset) || typeof(origin) || typeof(lease) || typeof(previous) || typeof(hash)";
 
 class Verifier
 {
@@ -138,7 +138,7 @@ bool Verifier::lookAtEvents()
     events.with(last.number, qint64(lookedAtAtOnce));
     while (events.step()) {
         const Record record = recordAt(events);
-        if (events.bytes(15) != QByteArray("text").repeated(14))
+        if (events.bytes(16) != QByteArray("text").repeated(15))
             flaw(eventName(record.number) + u": was changed"_s);
         lookAt(record);
         ++done;

@@ -94,7 +94,7 @@ Status Document::run()
     case Prepared::End::Ready:
         break;
     }
-    return task.isDry ? reportReady(subject(id)) : send(ready.contents);
+    return task.isDry ? reportReady(subject(id)) : send(ready.contents, ready.remark());
 }
 
 QString Document::settingsPath() const
@@ -121,7 +121,7 @@ std::optional<Status> Document::readSettings(QByteArray &settings, const QByteAr
     return {};
 }
 
-Status Document::send(const Contents &contents)
+Status Document::send(const Contents &contents, const QString &remark)
 {
     shared::ProgressLine progress(u"waiting"_s);
     QElapsedTimer since;
@@ -130,7 +130,7 @@ Status Document::send(const Contents &contents)
         progress.show(QString::number(since.elapsed() / 1000) + u" s: "_s + reason);
     };
     const Outcome outcome = delivery::deliver(
-        *journal, {id, origin, task.device, contents, task.timeout, task.wait, waiting});
+        *journal, {id, origin, remark, task.device, contents, task.timeout, task.wait, waiting});
     progress.clear();
     return told(outcome, id);
 }
