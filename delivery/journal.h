@@ -103,7 +103,7 @@ public:
     /// migrated in one transaction (Write) or read as it is.
     Journal(const QString &path, Access access);
     ~Journal();
-    Journal(Journal &&) noexcept;
+    Journal(Journal &&other) noexcept;
 
     /// Where a user's journal is unless another is named: below the folder for the user's data.
     static QString userPath();

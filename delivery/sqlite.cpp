@@ -68,7 +68,7 @@ Database::Database(const QString &path)
     sqlite3_busy_timeout(opened, longestWait);
 }
 
-void Database::run(const QByteArray &sql)
+void Database::run(const QByteArray &sql) const
 {
     if (sqlite3_exec(handle(), sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
         fail();
