@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 
-#include <csignal>
 #include <iterator>
 
 using namespace korvel::shared;
@@ -217,7 +216,6 @@ int run(const QStringList &arguments)
 int main(int argc, char *argv[])
 {
     prepareCompanion();
-    std::signal(SIGXFSZ, SIG_IGN); // a journal that may not grow is an error like others
     const QCoreApplication application(argc, argv);
     return run(argumentsOf(argc, argv));
 }

@@ -1,0 +1,53 @@
+// korvel-deliver with less than it needs of the system: files, memory, signals, a home.
+#include "support/deliverdesk.h"
+#include "support/test.h"
+
+#include <cerrno>
+
+namespace tst_deliversurroundings {
+
+/// Runs it behind a command of the shell, with arguments behind the device and the journal.
+Run runBehind(const DeliverDesk &desk, const QString &command, const QStringList &arguments)
+{
+    const QStringList call = {KORVEL_DELIVER, "--to", desk.device(), "--journal",
+                              desk.path("journal.db")};
+    return runProgram("sh", QStringList{"-c", command + "; exec \"$@\"", "sh"} + call + arguments,
+                      {desk.path("."), desk.variables(), {}});
+}
+
+class TestDeliverSurroundings : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    /// The shell counts blocks of 512 bytes.
+    void aDeviceThatMayNotGrowIsInDoubt()
+    {
+        const DeliverDesk desk;
+        VERIFY_DELIVERY(desk.run({"--id", "first", "receipt.xml"}), 0, "sent"); // makes the journal
+        writeFile(desk.path("paper"), QByteArray(500 * 512 - 100, '\n'));
+        const Run run = runBehind(desk, "ulimit -f 500", {"--id", "a", "receipt.xml"});
+        VERIFY_DELIVERY(run, 4, "in doubt: " + qt_error_string(EFBIG).toUtf8() + "; look at");
+        QVERIFY(desk.journal({"list"}).standardOutput.contains("in-doubt     a"));
+    }
+
+    void aJournalThatMayNotGrowSendsNothing()
+    {
+        const DeliverDesk desk;
+        VERIFY_DELIVERY(runBehind(desk, "ulimit -f 20", {"receipt.xml"}), 2, "journal.db: ");
+        QCOMPARE(desk.paper(), QByteArray());
+    }
+
+    void childrenThatTheCallerIgnores()
+    {
+        const DeliverDesk desk;
+        VERIFY_DELIVERY(runBehind(desk, "trap '' CHLD", {"receipt.xml"}), 0, "sent");
+        QCOMPARE(desk.paper(), receipt());
+    }
+};
+
+KORVEL_TEST(TestDeliverSurroundings)
+
+} // namespace tst_deliversurroundings
+
+#include "tst_deliversurroundings.moc"
