@@ -44,6 +44,14 @@ private slots:
         VERIFY_DELIVERY(runBehind(desk, "trap '' CHLD", {"receipt.xml"}), 0, "sent");
         QCOMPARE(desk.paper(), receipt());
     }
+
+    void tooFewFilesForTheRenderer()
+    {
+        const DeliverDesk desk;
+        const Run run = runBehind(desk, "ulimit -n 12", {"--id", "a", "receipt.xml"});
+        VERIFY_DELIVERY(run, 3, "cannot be started: " + qt_error_string(EMFILE).toUtf8() + ';');
+        QCOMPARE(desk.paper(), QByteArray());
+    }
 };
 
 KORVEL_TEST(TestDeliverSurroundings)
