@@ -46,6 +46,7 @@ public:
     {
         keptIsThere = kept && kept->number == 0; // of a journal without events
         lookAtContents();
+        lookInFront();
         bool more = true;
         while (more) {
             {
@@ -79,6 +80,7 @@ private:
     }
 
     void lookAtContents();
+    void lookInFront();
     bool lookAtEvents();
     void lookAt(const Record &record);
     void lookAtUses(const Record &record);
@@ -129,6 +131,15 @@ void Verifier::lookAtContents()
         if (!flaws.isEmpty() || done % lookedAtAtOnce == 0)
             tellFlaws();
     }
+}
+
+/// Events begin at 1.
+void Verifier::lookInFront()
+{
+    Statement event(database, "SELECT number FROM events WHERE number < 1 ORDER BY number");
+    event.with();
+    while (event.step())
+        flaw(eventName(event.number(0)) + u": was put in"_s);
 }
 
 /// The next events; false when there are no more.

@@ -63,6 +63,10 @@ private slots:
             {"event 2 to 3: are missing", "document a: is not what its events say"});
         row("the last event dropped", "DELETE FROM events WHERE number = 5",
             {"document b: is not what its events say"});
+        row("events put in in front of all",
+            "CREATE TEMPORARY TABLE copies AS SELECT * FROM events WHERE number < 3;"
+            "UPDATE copies SET number = number - 2; INSERT INTO events SELECT * FROM copies",
+            {"event -1: was put in", "event 0: was put in"});
         row("two events that changed places",
             "UPDATE events SET number = 100 WHERE number = 2;"
             "UPDATE events SET number = 2 WHERE number = 3;"
