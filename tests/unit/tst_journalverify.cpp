@@ -123,7 +123,9 @@ private slots:
         QTest::newRow("no event at all")
             << QByteArray("lost") << QStringList{"event 6: may not follow what its document was"};
         QTest::newRow("one that may, and is in the chain alone")
-            << QByteArray("forgotten") << QStringList{"document a: is not what its events say"};
+            << QByteArray("forgotten")
+            << QStringList{"document a: is not what its events say",
+                           "contents: some are held for events that do not have them"};
     }
 
     void whatIsAppendedByHand()
@@ -184,6 +186,31 @@ private slots:
         file.close();
         Journal journal = folder.reader();
         QCOMPARE(flawsOf(journal), QStringList("contents " + hash + ": were changed"));
+    }
+
+    /// More events than are looked at in one go, and their contents go behind the first go.
+    void whatIsForgottenMeanwhile()
+    {
+        const JournalFolder folder;
+        {
+            Journal journal = folder.writer();
+            for (int i = 0; i < 100; ++i)
+                deliver(journal, QString::number(i), {State::Sending, State::Sent});
+        }
+        Journal writer = folder.writer();
+        constexpr qint64 contents = 3 * 100 + 2; // settings and catalogue are shared
+        qint64 forgotten = 0;
+        QStringList flaws;
+        folder.reader().verify(
+            {}, [&](const QString &flaw) { flaws.append(flaw); },
+            [&](qint64 done, qint64) {
+                if (done > contents && forgotten == 0)
+                    forgotten = writer.forget(QDateTime::currentDateTimeUtc().addDays(1)).documents;
+            });
+        QCOMPARE(forgotten, 100);
+        QCOMPARE(flaws, {});
+        Journal journal = folder.reader();
+        QCOMPARE(flawsOf(journal), {});
     }
 
     void progressReachesItsEnd()
