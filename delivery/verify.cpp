@@ -23,6 +23,10 @@ constexpr char textsOnly[] =
     " || typeof(job) || typeof(settings) || typeof(catalogue) || typeof(rendered) || typeof(sent)"
     " || typeof(charset) || typeof(origin) || typeof(previous) || typeof(hash)";
 
+// Without these nothing can be looked at.
+constexpr const char *needed[] = {"contents",        "events",      "documents",      "uses",
+                                  "events_document", "events_time", "documents_state"};
+
 class Verifier
 {
 public:
@@ -245,7 +249,16 @@ void Verifier::lookAtDocuments()
 Head Journal::verify(const std::optional<Head> &kept,
                      const std::function<void(const QString &)> &found, const Progress &progress)
 {
-    return Verifier(*database, kept, found, progress).run();
+    bool isWhole = true;
+    Statement known(*database, "SELECT 1 FROM sqlite_schema WHERE name = ?");
+    for (const QByteArray name : needed) {
+        if (known.has(name))
+            continue;
+        isWhole = false;
+        found(u"the table or index "_s + QString::fromUtf8(name)
+              + u": is missing; nothing else was looked at"_s);
+    }
+    return isWhole ? Verifier(*database, kept, found, progress).run() : Head();
 }
 
 } // namespace korvel::delivery

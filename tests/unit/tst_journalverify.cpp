@@ -213,6 +213,28 @@ private slots:
         QCOMPARE(flawsOf(journal), {});
     }
 
+    void whatIsMissingOfTheFile_data()
+    {
+        QTest::addColumn<QByteArray>("statement");
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"contents", "events", "documents", "uses"})
+            QTest::newRow(name) << QByteArray("DROP TABLE ") + name << name;
+        for (const char *name : {"events_document", "events_time", "documents_state"})
+            QTest::newRow(name) << QByteArray("DROP INDEX ") + name << name;
+    }
+
+    void whatIsMissingOfTheFile()
+    {
+        QFETCH(QByteArray, statement);
+        QFETCH(QString, name);
+        const Filled folder;
+        tamper(folder.path(), statement);
+        Journal journal = folder.reader();
+        const QStringList flaws = flawsOf(journal);
+        QCOMPARE(flaws.value(0),
+                 "the table or index " + name + ": is missing; nothing else was looked at");
+    }
+
     void progressReachesItsEnd()
     {
         const Filled folder;
