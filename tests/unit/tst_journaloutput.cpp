@@ -255,6 +255,36 @@ private slots:
                     QStringList());
     }
 
+    /// Sent on May 1, and what a person said of it on May 3; or sent again then.
+    void daysAreThoseOnWhichDocumentsWereSent()
+    {
+        const JournalDesk desk;
+        const auto add = [&](const QString &id, const QList<State> &states) {
+            Journal journal = desk.writer();
+            const QByteArray stream = fiscal("=R1/$2000/*1/(X)\n");
+            journal.accept(id, {{}, {}, {}, stream, stream, "utf-8"}, till, {});
+            bring(journal, id, states);
+        };
+        const QList<State> doubt = {State::Sending, State::InDoubt};
+        add("a", doubt + QList{State::Printed});                                 // 1 to 4
+        add("b", doubt + QList{State::NotPrinted, State::Sending, State::Sent}); // 5 to 10
+        add("c", doubt);                                                         // 11 to 13
+        tamper(desk.path(), "UPDATE events SET time = '2026-05-01T18:00:00.000Z';"
+                            "UPDATE events SET time = '2026-05-03T09:00:00.000Z'"
+                            " WHERE number IN (4, 8, 9, 10)");
+        const QStringList others = {"receipts               0", "other documents        0"};
+        VERIFY_SAID(desk.run({"sum", "--day", "2026-05-01"}), 0,
+                    QStringList("fiscal receipts        1           20.00") + others
+                        + QStringList("1 document in doubt, not counted"),
+                    QStringList());
+        VERIFY_SAID(desk.run({"sum", "--day", "2026-05-03"}), 0,
+                    QStringList("fiscal receipts        1           20.00") + others,
+                    QStringList());
+        VERIFY_SAID(desk.run({"sum", "--day", "2026-05-02"}), 0,
+                    QStringList("fiscal receipts        0            0.00") + others,
+                    QStringList());
+    }
+
     void replayed()
     {
         const JournalDesk desk;
