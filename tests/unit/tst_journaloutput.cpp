@@ -117,6 +117,28 @@ private slots:
                     "korvel-journal: one: its contents were forgotten");
     }
 
+    /// Another document, which is not finished, keeps the same contents.
+    void whatIsForgottenIsNotShown()
+    {
+        const JournalDesk desk;
+        {
+            Journal journal = desk.writer();
+            journal.accept("a", sampleContents("receipt"), till, {});
+            bring(journal, "a", {State::Sending, State::Sent});
+            journal.accept("b", sampleContents("receipt"), till, {});
+            journal.forget(QDateTime::currentDateTimeUtc().addDays(1));
+        }
+        for (const QString option : {"--job", "--settings", "--stream", "--sent"})
+            VERIFY_SAID(desk.run({"show", "a", option}), 1, QStringList(),
+                        "korvel-journal: a: its contents were forgotten");
+        QCOMPARE(shownLines(desk.run({"show", "a"}).standardOutput).constLast(),
+                 QString("Its contents were forgotten."));
+        VERIFY_SAID(desk.run({"replay"}), 0,
+                    "1 document rendered again: 1 the same, 0 different; 1 without a job",
+                    QStringList());
+        QCOMPARE(desk.run({"show", "b", "--job"}).status, 0);
+    }
+
     void showOfOneLeft()
     {
         QCOMPARE(shownLines(Filled().run({"show", "three"}).standardOutput).value(1),
