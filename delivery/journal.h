@@ -104,6 +104,7 @@ public:
     Journal(Journal &&) noexcept;
 
     /// Where a user's journal is unless another is named: below the folder for the user's data.
+    /// Empty where the environment does not say where that is, which is no journal's path.
     static QString userPath();
 
     /// A document by its id; nothing when there is none.

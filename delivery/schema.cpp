@@ -150,6 +150,8 @@ void makeFile(const QString &path)
 QString Journal::userPath()
 {
     const QByteArray data = qgetenv("XDG_DATA_HOME");
+    if (!data.startsWith('/') && !qgetenv("HOME").startsWith('/'))
+        return {};
     const QString folder = data.startsWith('/') ? korvel::path::fromBytes(data)
                                                 : korvel::path::home() + u"/.local/share"_s;
     return folder + u"/korvel-print/journal.db"_s;
@@ -159,7 +161,9 @@ std::unique_ptr<sqlite::Database> openJournal(const QString &path, Journal::Acce
 {
     const bool write = access == Journal::Access::Write;
     if (path.isEmpty())
-        throw JournalError(u"a journal needs the name of a file"_s);
+        throw JournalError(
+            u"there is no place for the user's journal, as HOME names no folder from "
+            "the root on: set it, or name a file with --journal"_s);
     if (write)
         makeFile(path);
     else if (korvel::path::kindOf(path) == korvel::path::Kind::Nothing)

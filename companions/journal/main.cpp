@@ -107,7 +107,7 @@ QString readOptions(const QCommandLineParser &parser, Call &call)
 {
     call.journal =
         parser.isSet(journalOption) ? parser.value(journalOption) : delivery::Journal::userPath();
-    if (call.journal.isEmpty())
+    if (parser.isSet(journalOption) && call.journal.isEmpty())
         return u"--journal takes the name of a file"_s;
     call.json = parser.isSet(jsonOption);
     if (parser.isSet(stateOption)) {

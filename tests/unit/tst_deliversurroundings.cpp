@@ -52,6 +52,33 @@ private slots:
         VERIFY_DELIVERY(run, 3, "cannot be started: " + qt_error_string(EMFILE).toUtf8() + ';');
         QCOMPARE(desk.paper(), QByteArray());
     }
+
+    void aHomeThatIsNone_data()
+    {
+        QTest::addColumn<QString>("home");
+        QTest::newRow("relative") << "HOME=home";
+        QTest::newRow("empty") << "HOME=";
+        QTest::newRow("not there") << "HOME";
+    }
+
+    void aHomeThatIsNone()
+    {
+        QFETCH(QString, home);
+        const DeliverDesk desk;
+        writeFile(desk.path("receipt.out"), receipt());
+        const Surroundings surroundings{desk.path("."), {home, "XDG_DATA_HOME"}, {}};
+        const QByteArray advice = "set it, or name a file with --journal";
+        const Run delivered =
+            runProgram(KORVEL_DELIVER, {"--to", desk.device(), "receipt.out"}, surroundings);
+        VERIFY_DELIVERY(delivered, 2, advice);
+        VERIFY_DELIVERY(runProgram(KORVEL_JOURNAL, {"list"}, surroundings), 2, advice);
+        QCOMPARE(desk.paper(), QByteArray());
+        QVERIFY(!QFile::exists(desk.path("home/.local")));
+        VERIFY_DELIVERY(runProgram(KORVEL_DELIVER,
+                                   {"--to", desk.device(), "--journal", "j.db", "receipt.out"},
+                                   surroundings),
+                        0, "sent");
+    }
 };
 
 KORVEL_TEST(TestDeliverSurroundings)

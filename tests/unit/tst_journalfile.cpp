@@ -67,6 +67,32 @@ private slots:
         QCOMPARE(found, path + "/korvel-print/journal.db");
     }
 
+    /// One below the folder that a program happens to work in would be another one each time.
+    void aHomeThatIsNoneHasNoJournal_data()
+    {
+        QTest::addColumn<QByteArray>("home");
+        QTest::newRow("relative") << QByteArray("home");
+        QTest::newRow("empty") << QByteArray("");
+        QTest::newRow("not there") << QByteArray();
+    }
+
+    void aHomeThatIsNoneHasNoJournal()
+    {
+        QFETCH(QByteArray, home);
+        const QByteArray before = qgetenv("HOME");
+        if (home.isNull())
+            qunsetenv("HOME");
+        else
+            qputenv("HOME", home);
+        const QString path = Journal::userPath();
+        qputenv("XDG_DATA_HOME", "/data/lucia");
+        const QString elsewhere = Journal::userPath();
+        qputenv("HOME", before);
+        qunsetenv("XDG_DATA_HOME");
+        QCOMPARE(path, QString());
+        QCOMPARE(elsewhere, "/data/lucia/korvel-print/journal.db");
+    }
+
     void theFoldersOfTheUsersOwnAreMade()
     {
         const JournalFolder folder;
