@@ -129,6 +129,15 @@ void makeFolders(const QByteArray &path)
     }
 }
 
+/// Complains of a link that leads nowhere.
+void lookAtFile(const QString &path)
+{
+    const QByteArray bytes = korvel::path::toBytes(path);
+    struct stat status = {};
+    if (::stat(bytes.constData(), &status) != 0)
+        throw JournalError(path + u": it leads to a file that is not there; name another"_s);
+}
+
 /// Makes an empty file for its owner alone, unless there is one.
 void makeFile(const QString &path)
 {
@@ -138,8 +147,9 @@ void makeFile(const QString &path)
     const int descriptor = ::open(bytes.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (descriptor < 0) {
         if (errno == EEXIST)
-            return;
-        throw JournalError(path + u": "_s + qt_error_string());
+            return lookAtFile(path);
+        throw JournalError(path + u": it cannot be made: "_s + qt_error_string()
+                           + u"; see that its folder is there and may be written"_s);
     }
     ::close(descriptor);
     syncFolderOf(bytes);
@@ -164,6 +174,8 @@ std::unique_ptr<sqlite::Database> openJournal(const QString &path, Journal::Acce
         throw JournalError(
             u"there is no place for the user's journal, as HOME names no folder from "
             "the root on: set it, or name a file with --journal"_s);
+    if (korvel::path::kindOf(path) == korvel::path::Kind::Other)
+        throw JournalError(path + u": it is no regular file; name another"_s);
     if (write)
         makeFile(path);
     else if (korvel::path::kindOf(path) == korvel::path::Kind::Nothing)

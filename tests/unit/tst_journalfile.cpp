@@ -168,12 +168,25 @@ private slots:
                  folder.path() + ": there is no journal yet");
         QVERIFY(!QFile::exists(folder.path()));
         const QString deep = folder.filePath("no/such/folder.db");
-        QCOMPARE(errorOf([&] { Journal(deep, Journal::Access::Write); }),
-                 deep + ": No such file or directory");
-        const QString self = folder.filePath("");
-        QVERIFY(!errorOf([&] { Journal(self, Journal::Access::Write); }).isEmpty());
-        QVERIFY(!errorOf([&] { Journal(self, Journal::Access::Read); }).isEmpty());
+        QCOMPARE(
+            errorOf([&] { Journal(deep, Journal::Access::Write); }),
+            deep
+                + ": it cannot be made: No such file or directory; see that its folder is there"
+                  " and may be written");
         QVERIFY(!errorOf([&] { Journal({}, Journal::Access::Read); }).isEmpty());
+        const QString link = folder.filePath("link.db");
+        QVERIFY(QFile::link(folder.filePath("gone.db"), link));
+        QCOMPARE(errorOf([&] { Journal(link, Journal::Access::Write); }),
+                 link + ": it leads to a file that is not there; name another");
+    }
+
+    void whatIsNoRegularFile()
+    {
+        const JournalFolder folder;
+        for (const QString &path : {folder.filePath(""), QString("/dev/null")})
+            for (const auto access : {Journal::Access::Write, Journal::Access::Read})
+                QCOMPARE(errorOf([&] { Journal(path, access); }),
+                         path + ": it is no regular file; name another");
     }
 
     /// An empty file is a journal of before the first schema.
@@ -230,6 +243,22 @@ private slots:
         QCOMPARE(bytesOf(folder.path()), before);
     }
 
+    /// A copy from before does not know what was sent since.
+    void aDamagedOneSaysWhatNotToDo()
+    {
+        const JournalFolder folder;
+        deliver(*std::make_unique<Journal>(folder.writer()), "a", {State::Sending});
+        QByteArray bytes = bytesOf(folder.path());
+        constexpr qsizetype page = 4096; // the first has the tables' names, and stays
+        QVERIFY(bytes.size() > 2 * page);
+        writeFile(folder.path(), bytes.first(page) + QByteArray(bytes.size() - page, '\xFF'));
+        QCOMPARE(errorOf([&] { static_cast<void>(folder.reader().head()); }),
+                 folder.path()
+                     + ": it is damaged; keep the file. A copy from before does not know the ids"
+                       " delivered since: call none of them again before somebody has looked at"
+                       " the paper");
+    }
+
     void whatMayOnlyBeReadIsRead()
     {
         const JournalFolder folder;
@@ -251,7 +280,8 @@ private slots:
         });
         folder.makeWritable();
         QCOMPARE(said, "found");
-        QCOMPARE(QString::fromUtf8(refused), folder.path() + ": it may only be read");
+        QCOMPARE(QString::fromUtf8(refused),
+                 folder.path() + ": it may only be read; run this as someone who may write it");
     }
 };
 
