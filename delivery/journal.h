@@ -92,7 +92,7 @@ class Journal
 {
 public:
     enum class Access {
-        Write, // made when it is not there, for its owner alone (0600)
+        Write, // made when it is not there, for its owner alone (0600), as is an empty one
         Read,  // nothing is changed, and nothing of the folder; rolls back what a killed writer
                // left only where it may be written, and says so where not
     };

@@ -129,13 +129,18 @@ void makeFolders(const QByteArray &path)
     }
 }
 
-/// Complains of a link that leads nowhere.
-void lookAtFile(const QString &path)
+/// Takes an empty file from all but its owner, before anything is written: what undoes a write that
+/// was cut short gets the same rights.
+void makePrivate(const QString &path)
 {
     const QByteArray bytes = korvel::path::toBytes(path);
     struct stat status = {};
     if (::stat(bytes.constData(), &status) != 0)
         throw JournalError(path + u": it leads to a file that is not there; name another"_s);
+    if (status.st_size == 0 && (status.st_mode & 07777U) != 0600
+        && ::chmod(bytes.constData(), 0600) != 0)
+        throw JournalError(path + u": it is empty, and cannot be made its owner's alone: "_s
+                           + qt_error_string() + u"; remove it, or name another"_s);
 }
 
 /// Makes an empty file for its owner alone, unless there is one.
@@ -147,7 +152,7 @@ void makeFile(const QString &path)
     const int descriptor = ::open(bytes.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (descriptor < 0) {
         if (errno == EEXIST)
-            return lookAtFile(path);
+            return makePrivate(path);
         throw JournalError(path + u": it cannot be made: "_s + qt_error_string()
                            + u"; see that its folder is there and may be written"_s);
     }

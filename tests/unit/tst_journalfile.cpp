@@ -32,6 +32,17 @@ private slots:
         QCOMPARE(modeOf(folder.path() + "-journal"), 0600);
     }
 
+    void anEmptyOneIsMadeItsOwnersAlone()
+    {
+        const JournalFolder folder;
+        writeFile(folder.path(), {});
+        ::chmod(qPrintable(folder.path()), 0644);
+        Journal journal = folder.writer();
+        deliver(journal, "a", {State::Sending});
+        QCOMPARE(modeOf(folder.path()), 0600);
+        QCOMPARE(modeOf(folder.path() + "-journal"), 0600);
+    }
+
     void whatAGroupMayReadStaysSo()
     {
         const JournalFolder folder;
