@@ -55,7 +55,7 @@ std::optional<std::chrono::seconds> secondsOf(const QCommandLineParser &parser,
 /// Why an id cannot be one; empty when it can.
 QString faultOf(const QString &id)
 {
-    if (id.isEmpty() || id.size() > longestId || id.trimmed() != id || inOneLine(id) != id)
+    if (id.isEmpty() || id.toUcs4().size() > longestId || id.trimmed() != id || inOneLine(id) != id)
         return u"--id takes from 1 to "_s + QString::number(longestId)
                + u" characters that print, without blanks around them"_s;
     return {};
