@@ -53,6 +53,34 @@ private slots:
         QCOMPARE(desk.paper(), QByteArray());
     }
 
+    void tooLittleMemory_data()
+    {
+        QTest::addColumn<bool>("doubtful");
+        QTest::newRow("before anything was sent") << false;
+        QTest::newRow("when it is in doubt") << true;
+    }
+
+    void tooLittleMemory()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        QSKIP("a sanitizer takes more memory than any limit leaves");
+#endif
+        QFETCH(bool, doubtful);
+        const DeliverDesk desk;
+        if (doubtful)
+            VERIFY_DELIVERY(desk.runTo("/dev/full", {"--id", "a", "receipt.xml"}), 4, "in doubt");
+        // 48 MB, which have no room in 150 MB as bytes and as text.
+        writeFile(desk.path("big.out"),
+                  "=o/*1\n" + QByteArray("=\"/(12345678901234567 )\n").repeated(2'000'000)
+                      + "=o\n");
+        const Run run = runBehind(desk, "ulimit -v 150000", {"--id", "a", "big.out"});
+        if (doubtful)
+            VERIFY_DELIVERY(run, 4, "in doubt: not enough memory; look at the paper");
+        else
+            VERIFY_DELIVERY(run, 3, "not sent: not enough memory; call again with --id a");
+        QCOMPARE(desk.paper(), QByteArray());
+    }
+
     void aHomeThatIsNone_data()
     {
         QTest::addColumn<QString>("home");
