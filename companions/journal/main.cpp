@@ -121,7 +121,9 @@ QString readOptions(const QCommandLineParser &parser, Call &call)
          {std::pair(&sinceOption, &call.since), std::pair(&beforeOption, &call.before)}) {
         const auto named = journal::timeNamed(parser.value(*option));
         if (parser.isSet(*option) && !named)
-            return u"--"_s + option->names().constFirst() + u" takes a date such as 2026-05-12"_s;
+            return u"--"_s + option->names().constFirst()
+                   + u" takes a date such as 2026-05-12, or a "
+                     "time such as 2026-05-12T18:30 that the clocks here do not skip"_s;
         *time = named.value_or(QDateTime());
     }
     call.day = journal::dayNamed(parser.value(dayOption)).value_or(QDate());
