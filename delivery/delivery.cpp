@@ -52,10 +52,8 @@ public:
                     continue;
                 }
             }
-            if (patience.hasExpired())
+            if (patience.hasExpired() || (order.waiting && !order.waiting(reason)))
                 return giveUp();
-            if (order.waiting)
-                order.waiting(reason);
             std::this_thread::sleep_for(
                 std::min(pause, std::chrono::milliseconds(patience.remainingTime())));
         }
@@ -132,13 +130,13 @@ private:
     /// Takes the lease of the device, and opens it; otherwise says why not.
     Attempt reach()
     {
-        const Places places = placesOf(order.device, QDeadlineTimer(order.timeout), reason);
+        const Places places = placesOf(order.device, QDeadlineTimer(order.connecting), reason);
         for (const auto &place : places) {
             auto lease = Lease::take(place->leaseName(), reason);
             if (!lease)
                 continue;
             doubtThoseOf(place->leaseName());
-            auto connection = place->connect(QDeadlineTimer(order.timeout), reason);
+            auto connection = place->connect(QDeadlineTimer(order.connecting), reason);
             if (connection && connection->isAlive(reason))
                 return {std::move(lease), std::move(connection)};
         }

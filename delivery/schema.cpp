@@ -129,8 +129,8 @@ void makeFolders(const QByteArray &path)
     }
 }
 
-/// Makes an empty file for its owner alone, unless there is one.
-void makeFile(const QString &path)
+/// Makes an empty file of a mode, unless there is one.
+void makeFile(const QString &path, mode_t mode)
 {
     const QByteArray bytes = korvel::path::toBytes(path);
     if (path == Journal::userPath())
@@ -141,6 +141,7 @@ void makeFile(const QString &path)
             return;
         throw JournalError(path + u": "_s + qt_error_string());
     }
+    ::fchmod(descriptor, mode);
     ::close(descriptor);
     syncFolderOf(bytes);
 }
@@ -157,11 +158,11 @@ QString Journal::userPath()
 
 std::unique_ptr<sqlite::Database> openJournal(const QString &path, Journal::Access access)
 {
-    const bool write = access == Journal::Access::Write;
+    const bool write = access != Journal::Access::Read;
     if (path.isEmpty())
         throw JournalError(u"a journal needs the name of a file"_s);
     if (write)
-        makeFile(path);
+        makeFile(path, access == Journal::Access::WriteForGroup ? 0640 : 0600);
     else if (korvel::path::kindOf(path) == korvel::path::Kind::Nothing)
         throw JournalError(path + u": there is no journal yet"_s);
     auto database = std::make_unique<sqlite::Database>(path);

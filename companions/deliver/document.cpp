@@ -124,7 +124,10 @@ Status Document::send(const Contents &contents)
     Progress progress;
     const Outcome outcome =
         delivery::deliver(*journal, {id, origin, task.device, contents, task.timeout, task.wait,
-                                     [&](const QString &reason) { progress.show(reason); }});
+                                     [&](const QString &reason) {
+                                         progress.show(reason);
+                                         return true;
+                                     }});
     progress.clear();
     return told(outcome, id);
 }
