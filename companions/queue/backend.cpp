@@ -108,9 +108,12 @@ private:
         const Prepared ready = deliver::prepared(std::move(contents), charset, request.file(), {});
         for (const QString &remark : ready.remarks)
             tell(Level::Debug, remark);
-        if (ready.end == Prepared::End::Ready)
-            return send(ready.contents);
-        return refused(ready.contents, ready.reason);
+        if (ready.end != Prepared::End::Ready)
+            return refused(ready.contents, ready.reason);
+        // Nobody else marks where one raw file ends and the next begins.
+        if (documentsIn(ready.contents.rendered) > 1)
+            return refused(ready.contents, tooManyFiles);
+        return send(ready.contents);
     }
 
     int send(const Contents &contents)

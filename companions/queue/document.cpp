@@ -28,6 +28,17 @@ QString nameOf(const QString &place)
     return isLine ? u"serial:"_s + path : path;
 }
 
+/// How many commands of a stream are of some kind.
+template<typename Is>
+int commandsIn(const QByteArray &stream, const Is &is)
+{
+    int count = 0;
+    preview::Decoder decoder(stream);
+    while (const auto command = decoder.next())
+        count += is(*command) ? 1 : 0;
+    return count;
+}
+
 } // namespace
 
 std::optional<delivery::DeviceName> deviceOf(const QString &uri, QString &error)
@@ -46,14 +57,21 @@ std::optional<delivery::DeviceName> deviceOf(const QString &uri, QString &error)
 bool isFiscal(const QByteArray &stream)
 {
     using preview::Command;
-    preview::Decoder decoder(stream);
-    while (const auto command = decoder.next()) {
-        if (command->kind == Command::Kind::SaleRow || command->kind == Command::Kind::Deduction
-            || (command->kind == Command::Kind::SectionOpened
-                && command->section == preview::Section::Fiscal))
-            return true;
-    }
-    return false;
+    return commandsIn(stream,
+                      [](const Command &command) {
+                          return command.kind == Command::Kind::SaleRow
+                                 || command.kind == Command::Kind::Deduction
+                                 || (command.kind == Command::Kind::SectionOpened
+                                     && command.section == preview::Section::Fiscal);
+                      })
+           > 0;
+}
+
+int documentsIn(const QByteArray &stream)
+{
+    return commandsIn(stream, [](const preview::Command &command) {
+        return command.kind == preview::Command::Kind::SectionOpened;
+    });
 }
 
 QString misuseOf(const Request &request, const QByteArray &stream)

@@ -27,6 +27,9 @@ std::optional<delivery::DeviceName> deviceOf(const QString &uri, QString &error)
 /// Whether a stream registers anything with the printer.
 bool isFiscal(const QByteArray &stream);
 
+/// How many sections a stream opens.
+int documentsIn(const QByteArray &stream);
+
 /// What nobody may ask for with a stream: why, in one line; empty where all is well.
 QString misuseOf(const Request &request, const QByteArray &stream);
 
