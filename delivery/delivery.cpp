@@ -46,14 +46,18 @@ public:
                 // Meanwhile another one may have sent it.
                 if (auto outcome = settle())
                     return *outcome;
+                if (isCalledOff())
+                    return giveUp();
                 if (!isElsewhere) {
                     if (auto outcome = send(*attempt.connection))
                         return *outcome;
                     continue;
                 }
             }
-            if (patience.hasExpired() || (order.waiting && !order.waiting(reason)))
+            if (patience.hasExpired() || isCalledOff())
                 return giveUp();
+            if (order.waiting)
+                order.waiting(reason);
             std::this_thread::sleep_for(
                 std::min(pause, std::chrono::milliseconds(patience.remainingTime())));
         }
@@ -196,6 +200,15 @@ private:
             throw JournalError(u"the journal no longer has what is to be sent as "_s + order.id
                                + u"; run \"korvel-journal verify\""_s);
         return bytes;
+    }
+
+    bool isCalledOff()
+    {
+        if (!order.isCalledOff || !order.isCalledOff())
+            return false;
+        if (reason.isEmpty())
+            reason = u"it was called off"_s;
+        return true;
     }
 
     /// The printer was not to be had in time.

@@ -124,10 +124,7 @@ Status Document::send(const Contents &contents)
     Progress progress;
     const Outcome outcome =
         delivery::deliver(*journal, {id, origin, task.device, contents, task.timeout, task.wait,
-                                     [&](const QString &reason) {
-                                         progress.show(reason);
-                                         return true;
-                                     }});
+                                     [&](const QString &reason) { progress.show(reason); }});
     progress.clear();
     return told(outcome, id);
 }

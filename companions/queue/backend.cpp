@@ -161,8 +161,8 @@ private:
                 tell(Level::Info, u"waiting: "_s + reason);
                 said = reason;
             }
-            return !isToldToEnd();
         };
+        order.isCalledOff = isToldToEnd;
         const Outcome outcome = delivery::deliver(journal, order);
         tellWaiting(false);
         return told(outcome, id);

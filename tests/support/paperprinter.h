@@ -24,6 +24,7 @@ public:
     /// Switches it on, with a fault or without.
     void on(const QStringList &fault = {})
     {
+        off();
         simulator = std::make_unique<Simulator>(
             QStringList{"--listen", "127.0.0.1:" + QString::number(port), "--paper", folder.path()}
             + fault);
