@@ -15,6 +15,7 @@
 
 #include <cups/cups.h>
 
+#include <algorithm>
 #include <csignal>
 #include <functional>
 #include <memory>
@@ -28,7 +29,7 @@
 #include <unistd.h>
 
 // What hangs is given up; nothing that works waits for it.
-inline constexpr int queuePatience = 6000; // milliseconds
+inline constexpr int queuePatience = 20000; // milliseconds
 
 /// Waits until something holds; whether it did in time.
 inline bool waitUntil(const std::function<bool()> &holds)
@@ -152,6 +153,15 @@ public:
             qFatal("no queue: %s", added.standardError.constData());
     }
 
+    /// Makes a queue that hands jobs on to another server as they are.
+    void addRawQueue(const QString &name, const QString &target) const
+    {
+        const Run added = run("lpadmin", {"-p", name, "-E", "-v", target, "-m", "raw", "-o",
+                                          "printer-error-policy=retry-current-job"});
+        if (added.status != 0)
+            qFatal("no queue: %s", added.standardError.constData());
+    }
+
     /// Prints by lp; the job as CUPS calls it, empty where it did not take it.
     [[nodiscard]] QString print(const QString &queue, const QStringList &arguments) const
     {
@@ -224,7 +234,19 @@ public:
         return id;
     }
 
-    /// Makes a folder, or all in it, the user's whom filters and backends run as.
+    /// The processes of one of its programs, such as "bin/backend/korvel", each behind its parent.
+    [[nodiscard]] QList<pid_t> processesOf(const QString &program) const
+    {
+        QList<pid_t> all;
+        for (const QString &id : QDir("/proc").entryList({"[1-9]*"}, QDir::Dirs)) {
+            if (QFile::symLinkTarget("/proc/" + id + "/exe") == path(program))
+                all.append(id.toInt());
+        }
+        std::sort(all.begin(), all.end());
+        return all;
+    }
+
+    /// Makes a folder the user's whom filters and backends run as.
     void giveToServer(const QString &name) const
     {
         if (const passwd *const lp = ::geteuid() == 0 ? ::getpwnam("lp") : nullptr)
