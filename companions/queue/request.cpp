@@ -61,6 +61,8 @@ QString charsetOfQueue()
 
 } // namespace
 
+QString Request::origin() const { return name() + u' ' + user + u": "_s + title; }
+
 std::optional<Request> requestOf(const QStringList &arguments, QString &error)
 {
     if (arguments.size() < 6) {

@@ -29,7 +29,7 @@ struct Request
     [[nodiscard]] QString file() const { return title.isEmpty() ? name() : title; }
 
     /// Who asks, for the journal.
-    [[nodiscard]] QString origin() const { return name() + u' ' + user + u": " + title; }
+    [[nodiscard]] QString origin() const;
 };
 
 /**

@@ -29,7 +29,7 @@
 #include <unistd.h>
 
 // What hangs is given up; nothing that works waits for it.
-inline constexpr int queuePatience = 20000; // milliseconds
+inline constexpr int queuePatience = 60000; // milliseconds
 
 /// Waits until something holds; whether it did in time.
 inline bool waitUntil(const std::function<bool()> &holds)
@@ -288,9 +288,6 @@ private:
         text += "SetEnv KORVEL_SETTINGS_DIR " + path("settings").toUtf8() + '\n';
         if (::geteuid() == 0)
             text += "User lp\nGroup lp\nSystemGroup root\n";
-        else
-            text += "Group " + QByteArray::number(::getegid()) + "\nSystemGroup "
-                    + QByteArray::number(::getegid()) + '\n';
         return text;
     }
 
