@@ -101,7 +101,7 @@ korvel_package(queue printer-driver-korvel
     DESCRIPTION
 "With this driver a till prints its jobs by lp to a queue of CUPS. Each job is
 checked, rendered with korvel-print, and sent to the printer at most once. A
-queue waits for a printer that is off; a job that may have been printed, and may
+queue waits for a printer that is off. A job that may have been printed, and may
 not, is held until a person has looked at the paper.
 
 Each queue has settings and a code page of its own, and a journal says what
