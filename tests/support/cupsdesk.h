@@ -91,7 +91,12 @@ public:
         writeFile(path("cups-files.conf"), placesConfiguration());
         writeFile(path("cupsd.conf"), serverConfiguration());
     }
-    ~CupsDesk() { stop(); }
+    ~CupsDesk()
+    {
+        stop();
+        for (const pid_t left : processesOf("bin/backend/korvel"))
+            ::kill(left, SIGKILL);
+    }
     Q_DISABLE_COPY_MOVE(CupsDesk)
 
     /// Why there can be no server here; empty where there can.

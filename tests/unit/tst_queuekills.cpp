@@ -93,6 +93,24 @@ private slots:
         QCOMPARE(desk->stateOf(job), QByteArray("sent"));
     }
 
+    /// Nobody is left to tell CUPS, which goes on; the journal tells who asks it.
+    void aBackendThatIsKilledWithItsDeliveryIsInDoubt()
+    {
+        printer->on({"--fault", "stall=64", "--first", "1"});
+        writeFile(desk->path("long.out"),
+                  "=o\n" + QByteArray("=\"/(row )\n").repeated(9000) + "=o\n");
+        const QString job = lp({desk->path("long.out")});
+        printer->waitFor("fault stall");
+        for (const pid_t process : backends())
+            ::kill(process, SIGKILL);
+        QVERIFY(waitUntil([&] { return desk->job(job).state > IPP_JSTATE_PROCESSING; }));
+        QCOMPARE(desk->stateOf(job), QByteArray("sending"));
+        VERIFY_JOB(*desk, lp({sample("receipt.xml")}), IPP_JSTATE_COMPLETED, "");
+        QCOMPARE(printer->documents(1).constLast(), receipt());
+        QCOMPARE(copiesOf(bytesOf(desk->path("long.out"))), 0);
+        QCOMPARE(desk->stateOf(job), QByteArray("in-doubt"));
+    }
+
     void aFilterThatIsKilledPrintsNothing()
     {
         replaceRenderer("#!/bin/sh\nexec sleep 60\n");
