@@ -18,7 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 using korvel::deliver::Prepared;
 using korvel::delivery::Contents;
-using korvel::delivery::Document;
 using korvel::delivery::End;
 using korvel::delivery::Journal;
 using korvel::delivery::JournalError;

@@ -100,7 +100,7 @@ private:
                                              + settingsFile + u": "_s + error);
             contents.settings = *settings;
         }
-        const Prepared ready = prepare(std::move(contents));
+        const Prepared ready = prepare(contents);
         const QString reason = ready.end == Prepared::End::Refused
                                    ? ready.reason
                                    : misuseOf(request, ready.contents.rendered);
@@ -115,7 +115,7 @@ private:
     }
 
     /// Until the renderer can work: what keeps it from that is no fault of the job's.
-    Prepared prepare(Contents contents) const
+    [[nodiscard]] Prepared prepare(const Contents &contents) const
     {
         for (;;) {
             Prepared ready = deliver::prepared(contents, charset, request.file(), settingsFile);
