@@ -5,6 +5,7 @@
 
 #include <cerrno>
 #include <iterator>
+#include <optional>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -83,6 +84,9 @@ qint64 numberOf(sqlite::Database &database, const char *sql)
 /// The version of the schema in a file; complains of a file that is no journal, or a newer one.
 qint64 versionOf(sqlite::Database &database)
 {
+    std::optional<sqlite::Transaction> transaction; // another process may be migrating it
+    if (!database.inTransaction())
+        transaction.emplace(database, sqlite::Transaction::Kind::Read);
     const qint64 application = numberOf(database, "PRAGMA application_id");
     const qint64 version = numberOf(database, "PRAGMA user_version");
     const bool empty = numberOf(database, "SELECT count(*) FROM sqlite_schema") == 0;
