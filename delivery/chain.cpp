@@ -17,7 +17,7 @@ Record recordAt(const sqlite::Statement &statement)
     for (QByteArray *field :
          {&record.time, &record.document, &record.name, &record.device, &record.detail, &record.job,
           &record.settings, &record.catalogue, &record.rendered, &record.sent, &record.charset,
-          &record.origin, &record.previous, &record.hash})
+          &record.origin, &record.lease, &record.previous, &record.hash})
         *field = statement.bytes(++column);
     return record;
 }
@@ -35,7 +35,7 @@ QByteArray hashOf(const Record &record)
     for (const QByteArray *field :
          {&record.time, &record.document, &record.name, &record.device, &record.detail, &record.job,
           &record.settings, &record.catalogue, &record.rendered, &record.sent, &record.charset,
-          &record.origin, &record.previous})
+          &record.origin, &record.lease, &record.previous})
         add(*field);
     return hash.result().toHex();
 }
@@ -61,6 +61,7 @@ Event eventOf(const Record &record)
             record.sent,
             fromBytes(record.charset),
             fromBytes(record.origin),
+            record.lease,
             record.previous,
             record.hash};
 }

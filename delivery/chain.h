@@ -17,7 +17,7 @@ struct Record
     qint64 number = 0;
     QByteArray time, document, name, device, detail;
     QByteArray job, settings, catalogue, rendered, sent; // hashes of contents
-    QByteArray charset, origin;
+    QByteArray charset, origin, lease;
     QByteArray previous; // hash of the event before; empty for the first
     QByteArray hash;
 };

@@ -25,6 +25,30 @@ bool isHashOf(const QByteArray &hash, const QByteArray &bytes)
     return bytes.isEmpty() ? hash.isEmpty() : hash == hashOf(bytes);
 }
 
+/// Why a document that is made of something else may not have an id, and what to do so that nothing
+/// comes out twice.
+QString takenBy(const Document &document, const Contents &contents)
+{
+    const bool isSameJob = contents.job.isEmpty()
+                               ? isHashOf(document.renderedHash, contents.rendered)
+                               : isHashOf(document.jobHash, contents.job);
+    const QString other = !isSameJob ? u"another document"_s
+                          : isHashOf(document.settingsHash, contents.settings)
+                              ? u"this document in the code page "_s + document.charset
+                              : u"this document with other settings"_s;
+    QString advice;
+    if (!isSameJob)
+        advice = u"give this one an id of its own"_s;
+    else if (nothingLeft(document.state))
+        advice = u"call with what it was given to, or leave that alone and take a new id"_s;
+    else if (document.state == State::Sent || document.state == State::Printed)
+        advice = u"with a new id it comes out once more"_s;
+    else
+        advice = u"look at the paper before it is sent under a new id"_s;
+    return u"the id "_s + document.id + u" was given to "_s + other + u", which is "_s
+           + infoOf(document.state).name + u": "_s + advice;
+}
+
 /// One delivery, from step to step.
 class Delivery
 {
@@ -49,7 +73,7 @@ public:
                 if (isCalledOff())
                     return giveUp();
                 if (!isElsewhere) {
-                    if (auto outcome = send(*attempt.connection))
+                    if (auto outcome = send(attempt))
                         return *outcome;
                     continue;
                 }
@@ -68,6 +92,7 @@ private:
     struct Attempt
     {
         std::optional<Lease> lease = {};
+        QByteArray leaseName = {};
         std::unique_ptr<Connection> connection = nullptr;
     };
 
@@ -76,10 +101,8 @@ private:
     {
         Document document = takenIn();
         if (!isMadeOf(document, order.contents))
-            return Outcome{End::Refused, u"the id "_s + order.id
-                                             + u" is another document's: give this one an id of "
-                                               "its own"_s};
-        isElsewhere = document.state == State::Sending && isHeld(document.device);
+            return Outcome{End::Refused, takenBy(document, order.contents)};
+        isElsewhere = document.state == State::Sending && Lease::isHeld(document.lease);
         if (isElsewhere) {
             reason = u"another process is sending it"_s;
             return {};
@@ -104,7 +127,7 @@ private:
     {
         auto document = journal.find(order.id);
         while (!document || document->state == State::Refused) {
-            journal.accept(order.id, order.contents, order.device.text, order.origin);
+            journal.accept(order.id, order.contents, order.device.text, order.origin, order.remark);
             document = journal.find(order.id);
         }
         return *document;
@@ -117,14 +140,12 @@ private:
                        u"the process that was sending it ended before its end was known"_s);
     }
 
-    /// The same of all documents that were being sent to a device, by whatever name: its lease is
-    /// ours.
+    /// The same of all documents that were being sent under a lease, which is now ours.
     void doubtThoseOf(const QByteArray &lease)
     {
         QList<Document> left;
         journal.eachDocument(State::Sending, {}, [&](const Document &document) {
-            if (document.device == order.device.text
-                || leasesOf(document.device).value_or(QByteArrayList()).contains(lease))
+            if (document.lease == lease)
                 left.append(document);
         });
         for (const Document &document : left)
@@ -139,24 +160,25 @@ private:
             auto lease = Lease::take(place->leaseName(), reason);
             if (!lease)
                 continue;
-            doubtThoseOf(place->leaseName());
+            const QByteArray name = place->leaseName();
+            doubtThoseOf(name);
             auto connection = place->connect(QDeadlineTimer(order.connecting), reason);
             if (connection && connection->isAlive(reason))
-                return {std::move(lease), std::move(connection)};
+                return {std::move(lease), name, std::move(connection)};
         }
         return {};
     }
 
     /// Sends it; nothing, when another one came first.
-    std::optional<Outcome> send(Connection &connection)
+    std::optional<Outcome> send(const Attempt &attempt)
     {
         const QByteArray bytes = toSend();
-        const auto before = beginSending();
+        const auto before = beginSending(attempt.leaseName);
         if (!before)
             return Outcome{End::InDoubt, reason};
         if (!mayFollow(*before, State::Sending))
             return {};
-        const bool isTaken = connection.send(bytes, order.timeout, reason);
+        const bool isTaken = attempt.connection->send(bytes, order.timeout, reason);
         try {
             if (!isTaken)
                 journal.change(order.id, State::InDoubt, order.device.text, reason);
@@ -174,10 +196,10 @@ private:
 
     /// Writes down that it is being sent; the state before, or nothing where nobody can tell
     /// whether that is written.
-    std::optional<State> beginSending()
+    std::optional<State> beginSending(const QByteArray &lease)
     {
         try {
-            return journal.change(order.id, State::Sending, order.device.text, {});
+            return journal.change(order.id, State::Sending, order.device.text, {}, lease);
         } catch (const JournalError &error) {
             reason = error.text();
         }

@@ -30,6 +30,7 @@ struct Order
 {
     QString id;
     QString origin; // who asks: user, queue, title; for the journal
+    QString remark; // what is odd about it, in one line; for the journal
     DeviceName device;
     Contents contents;                                       // see deliver()
     std::chrono::seconds timeout{30};                        // for each byte

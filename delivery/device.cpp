@@ -82,26 +82,4 @@ Places placesOf(const DeviceName &device, const QDeadlineTimer &deadline, QStrin
                                                     : filePlaces(device, error);
 }
 
-std::optional<QByteArrayList> leasesOf(const QString &device)
-{
-    QString error;
-    const auto name = deviceNamed(device, error);
-    if (!name)
-        return QByteArrayList();
-    QByteArrayList leases;
-    for (const auto &place : placesOf(*name, QDeadlineTimer(2s), error))
-        leases.append(place->leaseName());
-    if (leases.isEmpty() && name->kind == DeviceName::Kind::Network)
-        return {};
-    return leases;
-}
-
-bool isHeld(const QString &device)
-{
-    const auto leases = leasesOf(device);
-    return !leases || std::any_of(leases->begin(), leases->end(), [](const QByteArray &lease) {
-        return Lease::isHeld(lease);
-    });
-}
-
 } // namespace korvel::delivery

@@ -5,14 +5,12 @@
 #include "delivery/devicename.h"
 
 #include <QByteArray>
-#include <QByteArrayList>
 #include <QByteArrayView>
 #include <QDeadlineTimer>
 #include <QString>
 
 #include <chrono>
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace korvel::delivery {
@@ -86,22 +84,6 @@ using Places = std::vector<std::unique_ptr<Place>>;
 /// All places where a device may be, to be tried in their order; none, with the reason in one line,
 /// when it is nowhere.
 Places placesOf(const DeviceName &device, const QDeadlineTimer &deadline, QString &error);
-
-/**
- * The names of the leases of a device, one for each place; nothing where a host's address cannot be
- * found out.
- *
- * @param device as deviceNamed() takes it
- */
-std::optional<QByteArrayList> leasesOf(const QString &device);
-
-/**
- * Whether a living process holds the lease of a device: for those who read in the journal that a
- * document is being sent to it. True, too, where a host's address cannot be found out.
- *
- * @param device as deviceNamed() takes it
- */
-bool isHeld(const QString &device);
 
 /// What an error of the system says of a device, in one line.
 QString reasonFor(const QString &device, int error);

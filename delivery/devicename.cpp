@@ -4,6 +4,7 @@
 #include "companions/shared/oneline.h"
 #include "config/path.h"
 
+#include <sys/stat.h>
 #include <termios.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -110,6 +111,12 @@ std::optional<DeviceName> deviceNamed(const QString &text, QString &error)
     }
     if (isFile && kind == path::Kind::Other) {
         error = path + u" is no file: leave out file: for a device or a FIFO"_s;
+        return {};
+    }
+    struct stat status = {};
+    if (kind == path::Kind::Other && ::stat(path::toBytes(path).constData(), &status) == 0
+        && !S_ISCHR(status.st_mode) && !S_ISFIFO(status.st_mode)) {
+        error = path + u" is no device of characters and no FIFO"_s;
         return {};
     }
     return DeviceName{isFile ? DeviceName::Kind::File : DeviceName::Kind::Path, text, {}, 0, path};

@@ -162,7 +162,8 @@ public:
 class FileConnection : public Connection
 {
 public:
-    FileConnection(Descriptor file, QByteArray itsFolder)
+    /// @param itsFolder that names it
+    FileConnection(Descriptor file, Descriptor itsFolder)
         : Connection(std::move(file))
         , folder(std::move(itsFolder))
     {
@@ -172,16 +173,14 @@ public:
     {
         if (!handOver(bytes, patience, false, error))
             return false;
-        const Descriptor open(
-            ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)); // that names the file
-        if (::fsync(descriptor.number()) == 0 && open.isOpen() && ::fsync(open.number()) == 0)
+        if (::fsync(descriptor.number()) == 0 && ::fsync(folder.number()) == 0)
             return true;
         error = qt_error_string();
         return false;
     }
 
 private:
-    const QByteArray folder;
+    const Descriptor folder;
 };
 
 /// The line as printers take it: every byte as it is.
@@ -234,8 +233,7 @@ public:
             return nullptr;
         }
         if (name.kind == DeviceName::Kind::File)
-            return std::make_unique<FileConnection>(std::move(opened),
-                                                    path.first(path.lastIndexOf('/') + 1));
+            return inFolder(std::move(opened), error);
         if (S_ISFIFO(status.st_mode))
             return std::make_unique<FifoConnection>(std::move(opened));
         if (name.kind == DeviceName::Kind::Path && ::isatty(opened.number()) == 0)
@@ -247,6 +245,17 @@ public:
     }
 
 private:
+    /// A file with its folder, which must be there to be synced before a byte is written.
+    std::unique_ptr<Connection> inFolder(Descriptor file, QString &error) const
+    {
+        const QByteArray named = path.first(path.lastIndexOf('/') + 1);
+        Descriptor folder(::open(named.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        if (folder.isOpen())
+            return std::make_unique<FileConnection>(std::move(file), std::move(folder));
+        error = reasonFor(korvel::path::fromBytes(named), errno);
+        return nullptr;
+    }
+
     [[nodiscard]] Descriptor open() const
     {
         const auto with = [&](int how) {

@@ -9,7 +9,7 @@ namespace {
 using sqlite::Statement;
 using sqlite::Transaction;
 
-constexpr qsizetype batch = 100; // documents in a transaction, so that deliveries wait little
+constexpr qsizetype forgottenAtOnce = 100; // in a transaction, so that deliveries wait little
 
 /// Whether nothing more is to become of a document. One that was not sent, or not printed, may be
 /// sent later, from what is stored.
@@ -63,9 +63,9 @@ Journal::Forgotten Journal::forget(const QDateTime &before)
                 ++result.kept;
         }
     }
-    for (qsizetype start = 0; start < rows.size(); start += batch) {
+    for (qsizetype start = 0; start < rows.size(); start += forgottenAtOnce) {
         Transaction transaction(*database, Transaction::Kind::Write);
-        for (const Row &row : rows.mid(start, batch)) {
+        for (const Row &row : rows.mid(start, forgottenAtOnce)) {
             if (rowOf(*database, row.id) != row) // it was taken in again meanwhile
                 continue;
             forgetDocument(*database, row.id);

@@ -17,18 +17,18 @@ using sqlite::Transaction;
 
 // Read at once. Between two batches the file is free: a reader that waits for its terminal must
 // not keep a delivery waiting.
-constexpr qsizetype batch = 256;
+constexpr qsizetype readAtOnce = 256;
 
 /// Works through a list in batches, each in one transaction; what was read is taken outside.
 template<typename Key, typename Load, typename Take>
 void inBatches(sqlite::Database &database, const QList<Key> &keys, const Load &load,
                const Take &take, const Progress &progress)
 {
-    for (qsizetype start = 0; start < keys.size(); start += batch) {
+    for (qsizetype start = 0; start < keys.size(); start += readAtOnce) {
         QList<typename std::invoke_result_t<Load, Key>::value_type> loaded;
         {
             const Transaction transaction(database, Transaction::Kind::Read);
-            for (const Key &key : keys.mid(start, batch)) {
+            for (const Key &key : keys.mid(start, readAtOnce)) {
                 if (auto one = load(key))
                     loaded.append(std::move(*one));
             }
@@ -36,7 +36,7 @@ void inBatches(sqlite::Database &database, const QList<Key> &keys, const Load &l
         for (const auto &one : loaded)
             take(one);
         if (progress)
-            progress(std::min(start + batch, keys.size()), keys.size());
+            progress(std::min(start + readAtOnce, keys.size()), keys.size());
     }
 }
 
@@ -55,7 +55,8 @@ QByteArray boundOf(const QDateTime &time) { return time.isValid() ? textOf(time)
 
 std::optional<Document> Journal::find(const QString &id)
 {
-    Statement row(*database, "SELECT documents.*, first.time, last.time, last.device, last.detail"
+    Statement row(*database, "SELECT documents.*, first.time, last.time, last.device, last.detail,"
+                             " last.lease"
                              " FROM documents"
                              " JOIN events AS first ON first.number = documents.first"
                              " JOIN events AS last ON last.number = documents.last"
@@ -76,6 +77,7 @@ std::optional<Document> Journal::find(const QString &id)
                     timeOf(row.bytes(7)),
                     fromBytes(row.bytes(8)),
                     fromBytes(contents.origin),
+                    row.bytes(10),
                     fromBytes(row.bytes(9)),
                     contents.job,
                     contents.settings,

@@ -63,10 +63,10 @@ Journal::~Journal() = default;
 Journal::Journal(Journal &&) noexcept = default;
 
 bool Journal::accept(const QString &id, const Contents &contents, const QString &device,
-                     const QString &origin)
+                     const QString &origin, const QString &detail)
 {
     Transaction transaction(*database, Transaction::Kind::Write);
-    Record record = eventFor(id, State::Accepted, device, {});
+    Record record = eventFor(id, State::Accepted, device, detail);
     const auto row = rowOf(*database, record.document);
     if (row && !mayFollow(stateOf(*database, *row), State::Accepted))
         return false;
@@ -76,10 +76,12 @@ bool Journal::accept(const QString &id, const Contents &contents, const QString 
     return true;
 }
 
-State Journal::change(const QString &id, State to, const QString &device, const QString &detail)
+State Journal::change(const QString &id, State to, const QString &device, const QString &detail,
+                      const QByteArray &lease)
 {
     Transaction transaction(*database, Transaction::Kind::Write);
-    const Record record = eventFor(id, to, device, detail);
+    Record record = eventFor(id, to, device, detail);
+    record.lease = lease;
     const auto row = rowOf(*database, record.document);
     if (!row)
         database->fail(u"there is no document "_s + id);

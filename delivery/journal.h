@@ -53,6 +53,7 @@ struct Event
     QByteArray jobHash, settingsHash, catalogueHash, renderedHash, sentHash; // hex, or empty
     QString charset;
     QString origin;
+    QByteArray lease;    // of the device, where it is being sent: see Lease; else empty
     QByteArray previous; // hash of the event before
     QByteArray hash;     // of all above
 };
@@ -76,6 +77,7 @@ struct Document
     QDateTime changed;  // last
     QString device;     // that the last event names
     QString origin;     // who asked: user, queue, title, as the caller had it; may be empty
+    QByteArray lease;   // that the sender holds while it is being sent; else empty
     QString detail;
     QByteArray jobHash, settingsHash, catalogueHash, renderedHash, sentHash; // hex, or empty
     QString charset;
@@ -117,19 +119,22 @@ public:
      * Takes a document in, or in again after it was refused: stores the contents and appends the
      * event "accepted".
      *
+     * @param detail what is odd about it, in one line
      * @return false, with nothing changed, when there is one of that id that was not refused
      */
     bool accept(const QString &id, const Contents &contents, const QString &device,
-                const QString &origin);
+                const QString &origin, const QString &detail = {});
 
     /**
      * Appends an event that brings a document into a state, if the state that it is in allows it:
      * looked up and written in one transaction.
      *
+     * @param lease of the device, for Sending: as long as it is held, somebody sends
      * @return the state that it was in; when that does not allow it, nothing is changed (see
      *         mayFollow())
      */
-    State change(const QString &id, State to, const QString &device, const QString &detail);
+    State change(const QString &id, State to, const QString &device, const QString &detail,
+                 const QByteArray &lease = {});
 
     /// Notes a document as refused that was never accepted: contents as far as there are any.
     void refuse(const QString &id, const Contents &contents, const QString &device,

@@ -139,6 +139,8 @@ std::optional<Lease> Lease::take(const QByteArray &name, QString &error,
 
 bool Lease::isHeld(const QByteArray &name, const QByteArrayList &folders)
 {
+    if (name.isEmpty())
+        return false;
     for (const QByteArray &folder : folders) {
         const QByteArray path = folder + '/' + name;
         const Descriptor file(uninterrupted([&] {

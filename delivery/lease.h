@@ -30,8 +30,8 @@ public:
     static std::optional<Lease> take(const QByteArray &name, QString &error,
                                      const QByteArrayList &folders = Lease::folders());
 
-    /// Whether somebody, this process included, holds the lease of that name. Takes nothing, makes
-    /// nothing.
+    /// Whether somebody, this process included, holds the lease of that name; nobody does of none.
+    /// Takes nothing, makes nothing.
     static bool isHeld(const QByteArray &name, const QByteArrayList &folders = Lease::folders());
 
 private:

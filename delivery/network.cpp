@@ -132,21 +132,25 @@ public:
             return ::ioctl(descriptor.number(), SIOCOUTQ, &count) == 0 ? count : -1;
         };
         return handOver(bytes, patience, true, error)
-               && waitUntilNone(unacknowledged, patience, error) && close(error);
+               && waitUntilNone(unacknowledged, patience, error) && close(patience, error);
     }
 
 private:
-    /// Closes our half, and waits a moment for a reset that is on its way.
-    bool close(QString &error) const
+    /// Closes our half, and waits a moment for a reset that is on its way. A printer that talks is
+    /// at work: were we gone, its next word would fail, and it might give up.
+    bool close(std::chrono::seconds patience, QString &error) const
     {
         int failed = pendingError(descriptor);
         if (failed == 0 && ::shutdown(descriptor.number(), SHUT_WR) != 0)
             failed = errno;
         Heard heard = Heard::Nothing;
-        for (const QDeadlineTimer moment(1s);
-             failed == 0 && heard != Heard::End && !moment.hasExpired();) {
+        QDeadlineTimer moment(1s);
+        for (const QDeadlineTimer last(patience);
+             failed == 0 && heard != Heard::End && !moment.hasExpired() && !last.hasExpired();) {
             waitFor(descriptor, POLLIN, moment);
             heard = dropInput();
+            if (heard == Heard::Something)
+                moment.setRemainingTime(1s);
             if (heard == Heard::Error)
                 failed = errno;
         }

@@ -80,10 +80,12 @@ void append(sqlite::Database &database, Record record)
     ++record.number;
     record.time = textOf(QDateTime::currentDateTimeUtc());
     record.hash = hashOf(record);
-    Statement(database, "INSERT INTO events VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")
+    Statement(database,
+              "INSERT INTO events VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")
         .with(record.number, record.time, record.document, record.name, record.device,
               record.detail, record.job, record.settings, record.catalogue, record.rendered,
-              record.sent, record.charset, record.origin, record.previous, record.hash)
+              record.sent, record.charset, record.origin, record.lease, record.previous,
+              record.hash)
         .run();
 
     const auto row = after(rowOf(database, record.document), record);

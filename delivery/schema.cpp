@@ -46,6 +46,7 @@ constexpr const char *steps[] = {
         sent TEXT NOT NULL,
         charset TEXT NOT NULL,
         origin TEXT NOT NULL,
+        lease TEXT NOT NULL,
         previous TEXT NOT NULL,
         hash TEXT NOT NULL
     ) STRICT;

@@ -15,13 +15,13 @@ namespace {
 using sqlite::Statement;
 using sqlite::Transaction;
 
-constexpr int batch = 256; // events looked at before a delivery may write
+constexpr int lookedAtAtOnce = 256; // events looked at before a delivery may write
 
 // A value of another type than its column's compares unlike, whatever its bytes are.
 constexpr char textsOnly[] =
     "typeof(time) || typeof(document) || typeof(event) || typeof(device) || typeof(detail)"
     " || typeof(job) || typeof(settings) || typeof(catalogue) || typeof(rendered) || typeof(sent)"
-    " || typeof(charset) || typeof(origin) || typeof(previous) || typeof(hash)";
+    " || typeof(charset) || typeof(origin) || typeof(lease) || typeof(previous) || typeof(hash)";
 
 class Verifier
 {
@@ -126,7 +126,7 @@ void Verifier::lookAtContents()
                 ++done;
             }
         }
-        if (!flaws.isEmpty() || done % batch == 0)
+        if (!flaws.isEmpty() || done % lookedAtAtOnce == 0)
             tellFlaws();
     }
 }
@@ -135,16 +135,16 @@ void Verifier::lookAtContents()
 bool Verifier::lookAtEvents()
 {
     int seen = 0;
-    events.with(last.number, qint64(batch));
+    events.with(last.number, qint64(lookedAtAtOnce));
     while (events.step()) {
         const Record record = recordAt(events);
-        if (events.bytes(15) != QByteArray("text").repeated(14))
+        if (events.bytes(16) != QByteArray("text").repeated(15))
             flaw(eventName(record.number) + u": was changed"_s);
         lookAt(record);
         ++done;
         ++seen;
     }
-    return seen == batch;
+    return seen == lookedAtAtOnce;
 }
 
 void Verifier::lookAt(const Record &record)

@@ -5,8 +5,10 @@
 #include "companions/shared/files.h"
 #include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
+#include "companions/shared/progress.h"
 #include "config/path.h"
 
+#include <QElapsedTimer>
 #include <QUuid>
 
 #include <cstdio>
@@ -92,7 +94,7 @@ Status Document::run()
     case Prepared::End::Ready:
         break;
     }
-    return task.isDry ? reportReady(subject(id)) : send(ready.contents);
+    return task.isDry ? reportReady(subject(id)) : send(ready.contents, ready.remark());
 }
 
 QString Document::settingsPath() const
@@ -119,12 +121,16 @@ std::optional<Status> Document::readSettings(QByteArray &settings, const QByteAr
     return {};
 }
 
-Status Document::send(const Contents &contents)
+Status Document::send(const Contents &contents, const QString &remark)
 {
-    Progress progress;
-    const Outcome outcome =
-        delivery::deliver(*journal, {id, origin, task.device, contents, task.timeout, task.wait,
-                                     [&](const QString &reason) { progress.show(reason); }});
+    shared::ProgressLine progress(u"waiting"_s);
+    QElapsedTimer since;
+    since.start();
+    const auto waiting = [&](const QString &reason) {
+        progress.show(QString::number(since.elapsed() / 1000) + u" s: "_s + reason);
+    };
+    const Outcome outcome = delivery::deliver(
+        *journal, {id, origin, remark, task.device, contents, task.timeout, task.wait, waiting});
     progress.clear();
     return told(outcome, id);
 }
@@ -138,8 +144,7 @@ Status Document::refused(const Contents &contents, const QString &reason)
 
 Subject Document::subject(const QString &named) const
 {
-    return {file, named, task.device.text,
-            task.journal.isEmpty() ? QString() : u" --journal "_s + task.journal};
+    return {file, named, task.device.text, task.journal};
 }
 
 /// @param named the id that the journal, or the caller, has of it

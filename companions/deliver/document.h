@@ -39,7 +39,7 @@ public:
 private:
     Status run();
     std::optional<Status> readSettings(QByteArray &settings, const QByteArray &job);
-    Status send(const delivery::Contents &contents);
+    Status send(const delivery::Contents &contents, const QString &remark = {});
     Status refused(const delivery::Contents &contents, const QString &reason);
     [[nodiscard]] Status told(const delivery::Outcome &outcome, const QString &named = {}) const;
     [[nodiscard]] Subject subject(const QString &named) const;

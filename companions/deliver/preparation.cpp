@@ -113,6 +113,13 @@ void judgeStream(Prepared &prepared, const QString &name)
 
 } // namespace
 
+QString Prepared::remark() const
+{
+    if (remarks.size() < 2)
+        return remarks.value(0);
+    return remarks.constFirst() + u" (and "_s + QString::number(remarks.size() - 1) + u" more)"_s;
+}
+
 delivery::Contents madeFrom(const QByteArray &file, const QByteArray &settings,
                             const recode::CodePage &charset)
 {

@@ -28,6 +28,9 @@ struct Prepared
     QString reason = {};      // why it is not ready, in one line
     QStringList remarks = {}; // the first 1000 of all that was found, warnings too, and of what the
                               // code page lacks; a line each
+
+    /// The first remark, and how many more there are; empty when there is none.
+    [[nodiscard]] QString remark() const;
 };
 
 /// What a document is made from, before it is prepared: a stream when it begins with "=", else a

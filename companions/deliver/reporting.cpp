@@ -4,10 +4,9 @@
 #include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
 
-#include <cstdio>
+#include <QRegularExpression>
 
-#include <sys/ioctl.h>
-#include <unistd.h>
+#include <cstdio>
 
 using namespace Qt::Literals::StringLiterals;
 using korvel::delivery::End;
@@ -26,9 +25,27 @@ void tell(const QString &line)
 
 void complain(const QString &line) { static_cast<void>(shared::trouble(line)); }
 
+/// A text as one word of a command to type.
+QString typed(const QString &text)
+{
+    static const QRegularExpression plain(u"^[A-Za-z0-9@%+:,./_][A-Za-z0-9@%+:,./_-]*$"_s);
+    if (plain.match(text).hasMatch())
+        return text;
+    return u'\'' + QString(text).replace(u'\'', u"'\\''"_s) + u'\'';
+}
+
 QString toCallAgain(const Subject &subject)
 {
-    return subject.id.isEmpty() ? u"call again"_s : u"call again with --id "_s + subject.id;
+    return subject.id.isEmpty() ? u"call again"_s : u"call again with --id "_s + typed(subject.id);
+}
+
+/// The command that answers what is in doubt.
+QString toResolve(const Subject &subject)
+{
+    const QString journal =
+        subject.journal.isEmpty() ? QString() : u" --journal "_s + typed(subject.journal);
+    const QString end = subject.id.startsWith(u'-') ? u" --"_s : QString();
+    return u"korvel-journal"_s + journal + u" resolve"_s + end + u' ' + typed(subject.id);
 }
 
 } // namespace
@@ -55,9 +72,8 @@ Status report(const Subject &subject, const delivery::Outcome &outcome)
     case End::InDoubt:
         break;
     }
-    complain(of + u"in doubt: "_s + outcome.reason
-             + u"; look at the paper, then run \"korvel-journal"_s + subject.journal
-             + u" resolve "_s + subject.id + u" printed\", or not-printed to send it again"_s);
+    complain(of + u"in doubt: "_s + outcome.reason + u"; look at the paper, then run \""_s
+             + toResolve(subject) + u" printed\", or not-printed to send it again"_s);
     return Doubtful;
 }
 
@@ -65,27 +81,6 @@ Status reportReady(const Subject &subject)
 {
     tell(subject.file + u": would be sent to "_s + subject.device);
     return Delivered;
-}
-
-void Progress::show(const QString &reason)
-{
-    if (isatty(STDERR_FILENO) != 1)
-        return;
-    winsize size = {};
-    const bool isKnown = ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
-    const qsizetype most = (isKnown ? size.ws_col : 80) - 1; // a full line would begin another
-    const QString line = u"waiting, "_s + QString::number(since.elapsed() / 1000) + u" s: "_s
-                         + shared::inOneLine(reason);
-    const QByteArray bytes = '\r' + line.left(most).toUtf8() + "\x1b[K";
-    std::fputs(bytes.constData(), stderr);
-    isShown = true;
-}
-
-void Progress::clear()
-{
-    if (isShown)
-        std::fputs("\r\x1b[K", stderr);
-    isShown = false;
 }
 
 } // namespace korvel::deliver

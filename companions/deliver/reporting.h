@@ -3,8 +3,6 @@
 
 #include "delivery/delivery.h"
 
-#include <QElapsedTimer>
-
 namespace korvel::deliver {
 
 /// How the program ends; callers rely on these numbers.
@@ -22,7 +20,7 @@ struct Subject
     QString file;
     QString id;      // empty where there is none yet
     QString device;  // its name
-    QString journal; // the option that names it, for commands to type; empty for the usual one
+    QString journal; // its file, for commands to type; empty for the usual one
 };
 
 /// Says in one line what became of a document, on standard output when it was sent, else on
@@ -31,22 +29,5 @@ Status report(const Subject &subject, const delivery::Outcome &outcome);
 
 /// Says on standard output that a document would be sent.
 Status reportReady(const Subject &subject);
-
-/// One line of a terminal on standard error, written over as long as something is waited for.
-class Progress
-{
-public:
-    Progress() { since.start(); }
-    ~Progress() { clear(); }
-    Progress(const Progress &) = delete;
-    Progress &operator=(const Progress &) = delete;
-
-    void show(const QString &reason);
-    void clear();
-
-private:
-    QElapsedTimer since;
-    bool isShown = false;
-};
 
 } // namespace korvel::deliver

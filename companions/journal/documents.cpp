@@ -2,7 +2,7 @@
 #include "companions/journal/documents.h"
 
 #include "companions/shared/output.h"
-#include "delivery/device.h"
+#include "delivery/lease.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -10,7 +10,7 @@ namespace korvel::journal {
 
 bool isAbandoned(const delivery::Document &document)
 {
-    return document.state == delivery::State::Sending && !delivery::isHeld(document.device);
+    return document.state == delivery::State::Sending && !delivery::Lease::isHeld(document.lease);
 }
 
 int noDocument(const QString &id)

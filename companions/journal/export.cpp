@@ -27,6 +27,7 @@ QString jsonOf(const delivery::Event &event)
         {u"sent"_s, QString::fromLatin1(event.sentHash)},
         {u"charset"_s, event.charset},
         {u"origin"_s, event.origin},
+        {u"lease"_s, QString::fromLatin1(event.lease)},
         {u"previous"_s, QString::fromLatin1(event.previous)},
         {u"hash"_s, QString::fromLatin1(event.hash)},
     });

@@ -4,6 +4,7 @@
 #include "companions/journal/words.h"
 #include "companions/paper/amounts.h"
 #include "companions/paper/decoder.h"
+#include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
 #include "companions/shared/progress.h"
 

@@ -1,4 +1,4 @@
-// Times, heads and counts as texts.
+// Times and heads as texts.
 #include "companions/journal/words.h"
 
 #include "delivery/chain.h"
@@ -42,11 +42,6 @@ std::optional<delivery::Head> headNamed(const QString &text)
     if (!match.hasMatch())
         return {};
     return delivery::Head{match.captured(2).toLongLong(), match.captured(3).toLatin1()};
-}
-
-QString counted(qint64 number, const QString &thing)
-{
-    return QString::number(number) + u' ' + thing + (number == 1 ? u""_s : u"s"_s);
 }
 
 QString abandonedText() { return u"no process sends it any more: in doubt, look at the paper"_s; }

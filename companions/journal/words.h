@@ -1,4 +1,4 @@
-// Times as people write them, here and now, and documents in a line.
+// Times as people write them, here and now, and heads.
 #pragma once
 
 #include "delivery/journal.h"
@@ -20,9 +20,6 @@ std::optional<QDateTime> timeNamed(const QString &text);
 /// An event's number and hash as "number:hash", and back.
 QString textOf(const delivery::Head &head);
 std::optional<delivery::Head> headNamed(const QString &text);
-
-/// "1 document", "2 documents".
-QString counted(qint64 number, const QString &thing);
 
 /// What is to be known of a document that is being sent by nobody.
 QString abandonedText();

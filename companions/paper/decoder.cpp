@@ -52,9 +52,6 @@ constexpr Form forms[] = {
     {Kind::Deduction, deductionParts, std::size(deductionParts)},
 };
 
-// Every command begins with this byte.
-constexpr char commandStart = '=';
-
 /// A command without a text. The bytes that open a document close it too: sortSection() tells them
 /// apart.
 struct Mark

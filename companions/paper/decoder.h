@@ -9,6 +9,9 @@
 
 namespace korvel::preview {
 
+/// Every command begins with this byte.
+inline constexpr char commandStart = '=';
+
 /// What a section of the stream is to the printer.
 enum class Section { Fiscal, Receipt, Document };
 

@@ -9,6 +9,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::preview {
 
+namespace {
+
+/// The hexadecimal digit of the last four bits.
+QLatin1Char digitOf(int bits) { return QLatin1Char("0123456789abcdef"[bits & 0xf]); }
+
+} // namespace
+
 bool isReadable(QByteArrayView text, const CodePage &page)
 {
     if (page.isUnicode())
@@ -39,7 +46,6 @@ QString escaped(QByteArrayView bytes, const CodePage &page)
         }
         const qsizetype length = page.characterLength(bytes);
         const QByteArrayView character = bytes.first(length > 0 ? length : 1);
-        const QString shown = page.decode(character);
         const char first = character.front();
         if (first == '\n')
             text += "\\n"_L1;
@@ -49,11 +55,12 @@ QString escaped(QByteArrayView bytes, const CodePage &page)
             text += "\\t"_L1;
         else if (first == '\\')
             text += "\\\\"_L1;
-        else if (length > 0 && shared::isPrintable(shown.toUcs4().front()))
+        else if (const QString shown = length > 0 ? page.decode(character) : QString();
+                 !shown.isEmpty() && shared::isPrintable(shown.toUcs4().front()))
             text += shown;
         else
             for (const char byte : character)
-                text += "\\x"_L1 + QString::fromLatin1(QByteArray(1, byte).toHex());
+                text += "\\x"_L1 + digitOf(byte >> 4) + digitOf(byte);
         bytes = bytes.sliced(character.size());
     }
     return text;

@@ -3,6 +3,7 @@
 
 #include "companions/check/checks.h"
 #include "companions/check/settingsfile.h"
+#include "companions/paper/decoder.h"
 #include "companions/shared/files.h"
 #include "companions/shared/rendering.h"
 #include "config/path.h"
@@ -54,7 +55,8 @@ void addErrors(Input &input, const QString &file, const QList<check::Finding> &f
     }
 }
 
-/// Whether bytes are a job: XML, in whatever encoding. All else counts as a stream.
+} // namespace
+
 bool isJob(QByteArrayView bytes)
 {
     for (const QByteArrayView mark :
@@ -68,7 +70,7 @@ bool isJob(QByteArrayView bytes)
     return bytes.startsWith('<');
 }
 
-} // namespace
+bool isStream(QByteArrayView bytes) { return bytes.startsWith(commandStart); }
 
 std::optional<Input> readInput(const QString &path, InputKind kind, const recode::CodePage &page,
                                const QString &settingsPath, const QList<check::Code> &ignored,

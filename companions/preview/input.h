@@ -35,6 +35,12 @@ struct Input
     std::optional<QString> said = {};
 };
 
+/// Whether bytes are a job: XML, in whatever encoding. All else counts as a stream.
+bool isJob(QByteArrayView bytes);
+
+/// Whether bytes begin as every command of a stream does.
+bool isStream(QByteArrayView bytes);
+
 /**
  * Reads a stream or a job. A job is checked, and rendered by the settings of this file; of this
  * user, when the path is empty; or by those of the sample shop when there are none.

@@ -3,6 +3,10 @@
 
 #include "companions/paper/text.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::preview {
@@ -15,29 +19,29 @@ struct KindNames
 {
     Kind kind;
     QLatin1StringView name;
-    QLatin1StringView key; // in JSON
+    QByteArrayView key; // in JSON
 };
 
 constexpr KindNames kinds[] = {
-    {Kind::Line, "text line"_L1, "line"_L1},
-    {Kind::SectionOpened, "section opening"_L1, "section-opened"_L1},
-    {Kind::SectionClosed, "section closing"_L1, "section-closed"_L1},
-    {Kind::SaleRow, "sale row"_L1, "sale-row"_L1},
-    {Kind::Deduction, "deduction"_L1, "deduction"_L1},
-    {Kind::Unknown, "unknown command"_L1, "unknown"_L1},
+    {Kind::Line, "text line"_L1, "line"},
+    {Kind::SectionOpened, "section opening"_L1, "section-opened"},
+    {Kind::SectionClosed, "section closing"_L1, "section-closed"},
+    {Kind::SaleRow, "sale row"_L1, "sale-row"},
+    {Kind::Deduction, "deduction"_L1, "deduction"},
+    {Kind::Unknown, "unknown command"_L1, "unknown"},
 };
 
 struct SectionNames
 {
     Section section;
     QLatin1StringView name;
-    QLatin1StringView key; // in JSON
+    QByteArrayView key; // in JSON
 };
 
 constexpr SectionNames sections[] = {
-    {Section::Fiscal, "fiscal section"_L1, "fiscal"_L1},
-    {Section::Receipt, "receipt section"_L1, "receipt"_L1},
-    {Section::Document, "document section"_L1, "document"_L1},
+    {Section::Fiscal, "fiscal section"_L1, "fiscal"},
+    {Section::Receipt, "receipt section"_L1, "receipt"},
+    {Section::Document, "document section"_L1, "document"},
 };
 
 const KindNames &namesOf(Kind kind)
@@ -55,6 +59,29 @@ const SectionNames &namesOf(Section section)
         ++row;
     return *row;
 }
+
+/// A number in decimal that takes no memory from the heap: there may be millions.
+class Digits
+{
+public:
+    explicit Digits(qsizetype number)
+        : end(std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr)
+    {
+    }
+    [[nodiscard]] QByteArrayView bytes() const { return {digits.data(), end}; }
+    [[nodiscard]] QLatin1StringView text() const { return {digits.data(), end}; }
+
+    /// The blanks that make it so wide.
+    [[nodiscard]] QLatin1StringView before(qsizetype width) const
+    {
+        constexpr auto blanks = "        "_L1;
+        return blanks.first(std::clamp<qsizetype>(width - text().size(), 0, blanks.size()));
+    }
+
+private:
+    std::array<char, 20> digits = {}; // of a qsizetype, with its sign
+    const char *end;
+};
 
 QString meaning(const Command &command)
 {
@@ -89,45 +116,51 @@ QString kindName(Kind kind) { return namesOf(kind).name; }
 
 QString listed(const Command &command)
 {
-    return QString::number(command.offset).rightJustified(8) + u' '
-           + QString::number(command.line).rightJustified(6) + u"  "_s + meaning(command);
+    const Digits offset(command.offset);
+    const Digits line(command.line);
+    return offset.before(8) + offset.text() + u' ' + line.before(6) + line.text() + "  "_L1
+           + meaning(command);
 }
 
-QJsonObject toJson(const Command &command)
+QByteArray jsonOf(const Command &command)
 {
-    QJsonObject object{
-        {u"command"_s, namesOf(command.kind).key},
-        {u"offset"_s, command.offset},
-        {u"line"_s, command.line},
-    };
-    const auto text = [&](const QString &key, const QByteArray &bytes) {
-        object.insert(key, command.codePage->decode(bytes));
+    // There may be millions of commands: the toolkit's objects would take ten times as long.
+    constexpr qsizetype usual = 160;
+    QByteArray object;
+    object.reserve(usual);
+    object.append("{\"command\":\"").append(namesOf(command.kind).key);
+    object.append("\",\"offset\":").append(Digits(command.offset).bytes());
+    object.append(",\"line\":").append(Digits(command.line).bytes());
+    bool readable = true;
+    const auto text = [&](QByteArrayView key, const QByteArray &bytes) {
+        readable = readable && isReadable(bytes, *command.codePage);
+        object.append(",\"").append(key).append("\":");
+        object.append(shared::jsonText(command.codePage->decode(bytes)));
     };
     switch (command.kind) {
     case Kind::Line:
-        object.insert(u"spaces"_s, command.spaces);
-        text(u"text"_s, command.content);
+        object.append(",\"spaces\":").append(Digits(command.spaces).bytes());
+        text("text", command.content);
         break;
     case Kind::SectionOpened:
     case Kind::SectionClosed:
-        object.insert(u"section"_s, namesOf(command.section).key);
+        object.append(",\"section\":\"").append(namesOf(command.section).key).append('"');
         break;
     case Kind::SaleRow:
-        text(u"department"_s, command.department);
-        text(u"amount"_s, command.amount);
-        text(u"quantity"_s, command.quantity);
-        text(u"description"_s, command.description);
+        text("department", command.department);
+        text("amount", command.amount);
+        text("quantity", command.quantity);
+        text("description", command.description);
         break;
     case Kind::Deduction:
-        text(u"amount"_s, command.amount);
+        text("amount", command.amount);
         break;
     case Kind::Unknown:
-        object.insert(u"badByte"_s, command.badByte);
+        object.append(",\"badByte\":").append(Digits(command.badByte).bytes());
         break;
     }
-    const QByteArray bytes = encode(command);
-    if (command.kind == Kind::Unknown || !isReadable(bytes, *command.codePage))
-        object.insert(u"bytes"_s, QString::fromLatin1(bytes.toHex()));
+    if (command.kind == Kind::Unknown || !readable)
+        object.append(",\"bytes\":\"").append(encode(command).toHex()).append('"');
     return object;
 }
 

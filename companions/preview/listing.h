@@ -19,11 +19,11 @@ QString kindName(Command::Kind kind);
 QString listed(const Command &command);
 
 /**
- * A command as a JSON object, in keys that stay as they are; docs/preview.schema.json has them all.
- * An unknown command, and one with bytes that are no characters, which are replaced in its texts,
- * also has its exact "bytes", in hexadecimal.
+ * A command as a JSON object without its closing brace, in keys that stay as they are;
+ * docs/preview.schema.json has them all. An unknown command, and one with bytes that are no
+ * characters, which are replaced in its texts, also has its exact "bytes", in hexadecimal.
  */
-QJsonObject toJson(const Command &command);
+QByteArray jsonOf(const Command &command);
 
 /// A finding in the keys of the same schema.
 QJsonObject toJson(const Finding &finding);

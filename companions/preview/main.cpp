@@ -1,11 +1,9 @@
 // korvel-preview: what a job or a command stream puts on paper, without the printer.
 #include "companions/check/explain.h"
-#include "companions/paper/ledger.h"
-#include "companions/preview/findings.h"
-#include "companions/preview/input.h"
-#include "companions/preview/listing.h"
+#include "companions/preview/folders.h"
 #include "companions/preview/pictures.h"
 #include "companions/preview/terminal.h"
+#include "companions/preview/writer.h"
 #include "companions/recode/codepage.h"
 #include "companions/shared/commandline.h"
 #include "companions/shared/oneline.h"
@@ -17,6 +15,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 
 using korvel::recode::CodePage;
 using namespace korvel::shared;
@@ -54,79 +53,6 @@ const QCommandLineOption schemaOption(u"schema"_s, u"Write the schema of the JSO
 const QCommandLineOption listOption(u"list"_s, u"Write a line for each command instead."_s);
 const QCommandLineOption quietOption({u"q"_s, u"quiet"_s},
                                      u"Do not say what is wrong; the exit status still does."_s);
-
-/// Writes each command, behind it what is wrong with it, and the sum of each fiscal section.
-void writeJson(Output &out, const preview::Input &input, const QList<preview::Finding> &found,
-               const CodePage &page)
-{
-    for (const preview::Input::CheckError &error : input.errors)
-        out << jsonLine(toJson(error.file, error.finding));
-    if (input.said)
-        out << jsonLine({{u"said"_s, *input.said}});
-    auto next = found.begin();
-    const auto writeSum = [&](const std::optional<preview::Sum> &sum) {
-        if (sum)
-            out << jsonLine(toJson(*sum));
-    };
-    preview::Ledger ledger;
-    preview::Decoder decoder(input.stream, page);
-    while (const auto command = decoder.next()) {
-        for (; next != found.end() && next->offset < command->offset; ++next)
-            out << jsonLine(toJson(*next));
-        out << jsonLine(toJson(*command));
-        writeSum(ledger.take(*command));
-    }
-    for (; next != found.end(); ++next)
-        out << jsonLine(toJson(*next));
-    writeSum(ledger.end());
-}
-
-/// Writes what the options ask for; the status to end with.
-int write(const QCommandLineParser &parser, const preview::Input &input,
-          const QList<preview::Finding> &found, int columns, const CodePage &page, int status)
-{
-    Output out;
-    preview::Decoder decoder(input.stream, page);
-    if (parser.isSet(jsonOption)) {
-        writeJson(out, input, found, page);
-    } else if (parser.isSet(listOption)) {
-        while (const auto command = decoder.next())
-            out << listed(*command) + u'\n';
-    } else {
-        const preview::Box box(columns, preview::wantsColours());
-        out << box.top();
-        preview::Roll roll(columns, [&](const preview::PaperRow &row) { out << box.line(row); });
-        while (const auto command = decoder.next())
-            roll.print(*command);
-        roll.end();
-        out << box.bottom();
-    }
-    return out.end(status);
-}
-
-/// Says what was found, the job's errors first.
-void tell(const preview::Input &input, const QList<preview::Finding> &found)
-{
-    QString lines;
-    if (!input.note.isEmpty())
-        lines += programName() + u": "_s + inOneLine(input.note) + u'\n';
-    for (const preview::Input::CheckError &error : input.errors)
-        lines += lineOf(error.file, error.finding);
-    if (input.said)
-        lines += inOneLine(input.path) + u": "_s + *input.said + u'\n';
-    for (const preview::Finding &finding : found)
-        lines += lineOf(input.path, input.isJob, finding);
-    std::fputs(lines.toUtf8().constData(), stderr);
-}
-
-/// The status that findings make.
-int statusOf(const preview::Input &input, const QList<preview::Finding> &found, bool strict)
-{
-    const bool isWrong = std::any_of(found.begin(), found.end(), [&](const auto &finding) {
-        return strict || infoOf(finding.code).level == Level::Error;
-    });
-    return isWrong || input.said || !input.errors.isEmpty() ? Findings : Clean;
-}
 
 /// Codes that are left out: the preview's own, and those of the checker.
 struct Ignored
@@ -178,8 +104,10 @@ std::optional<int> tellAbout(const QCommandLineParser &parser)
 /// Why the options do not fit; empty when they do.
 QString misuseOf(const QCommandLineParser &parser)
 {
-    if (parser.positionalArguments().size() != 1)
-        return u"one job or stream is needed; see --help"_s;
+    if (parser.positionalArguments().isEmpty())
+        return u"a job or a stream is needed; see --help"_s;
+    if (parser.positionalArguments().count(u"-"_s) > 1)
+        return u"standard input can be shown once"_s;
     if (parser.isSet(streamOption) && parser.isSet(jobOption))
         return u"--stream and --job exclude each other"_s;
     if (parser.isSet(settingsOption) && parser.value(settingsOption).isEmpty())
@@ -192,12 +120,113 @@ void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(
         u"Shows what a job or a command stream puts on paper, and says what is wrong with it."_s);
-    parser.addPositionalArgument(u"FILE"_s,
-                                 u"A job, or what korvel-print wrote; - for standard input."_s);
+    parser.addPositionalArgument(u"FILE..."_s,
+                                 u"Jobs, or what korvel-print wrote, or folders of them; - for "
+                                 "standard input."_s);
     parser.addOptions({settingsOption, jobOption, streamOption, columnsOption, charsetOption});
     preview::addPictureOptions(parser);
     parser.addOptions({jsonOption, listOption, quietOption, ignoreOption, strictOption,
                        listCodesOption, explainOption, schemaOption});
+}
+
+/// What is the same for each file.
+struct Request
+{
+    preview::InputKind kind = preview::InputKind::ByContent;
+    QString settings;
+    preview::Reading reading;
+    Ignored ignored;
+    bool strict = false;
+    bool quiet = false;
+};
+
+/// Reads those; the status to end with when one of them is wrong.
+std::optional<int> readRequest(const QCommandLineParser &parser, Request &request)
+{
+    bool isNumber = false;
+    const int columns = parser.value(columnsOption).toInt(&isNumber);
+    if (!isNumber || columns < 1 || columns > mostColumns)
+        return trouble(u"--columns takes a number from 1 to "_s + QString::number(mostColumns));
+    static const auto page = CodePage::named(parser.value(charsetOption).toUtf8());
+    if (!page)
+        return trouble(korvel::recode::noCodePage(parser.value(charsetOption)));
+    request.reading = {columns, &*page};
+    if (parser.isSet(jobOption))
+        request.kind = preview::InputKind::Job;
+    if (parser.isSet(streamOption))
+        request.kind = preview::InputKind::Stream;
+    request.settings = parser.value(settingsOption);
+    request.strict = parser.isSet(strictOption);
+    request.quiet = parser.isSet(quietOption);
+    return readIgnored(parser, request.ignored);
+}
+
+/// Shows files one after the other, and keeps the status that they make.
+class Show
+{
+public:
+    Show(const Request &what, const preview::Files &ofFiles)
+        : request(what)
+        , files(ofFiles)
+    {
+        for (const QString &path : files.passedOver)
+            say(programName() + u": "_s
+                + inOneLine(path + u" is neither a job nor a stream: passed over"_s) + u'\n');
+    }
+
+    /// Hands each on that can be read, and says what was found.
+    void forEach(const std::function<void(preview::Shown)> &take)
+    {
+        for (const QString &path : files.paths) {
+            QString error;
+            const auto input = preview::readInput(path, request.kind, *request.reading.page,
+                                                  request.settings, request.ignored.inJobs, error);
+            if (!input) {
+                status = trouble(error);
+                continue;
+            }
+            preview::Shown shown{*input, {}};
+            shown.found = preview::findings(input->stream, request.reading.columns,
+                                            request.ignored.inStreams, *request.reading.page);
+            if (!input->note.isEmpty())
+                say(programName() + u": "_s + inOneLine(input->note) + u'\n');
+            for (const QString &line : told(shown))
+                say(line);
+            if (isWrong(shown, request.strict))
+                status = std::max<int>(status, Findings);
+            take(std::move(shown));
+        }
+    }
+
+    int status = Clean;
+
+private:
+    /// Says a line once: several jobs have the same settings.
+    void say(const QString &line)
+    {
+        if (!request.quiet && !said.contains(line))
+            std::fputs(line.toUtf8().constData(), stderr);
+        said.insert(line);
+    }
+
+    const Request &request;
+    const preview::Files &files;
+    QSet<QString> said;
+};
+
+/// Writes one picture of all files.
+int writePictureOf(preview::PictureRequest &picture, Show &show, const Request &request,
+                   const preview::Files &files)
+{
+    const bool isForOne = picture.format == preview::PictureRequest::Format::Png
+                          || picture.format == preview::PictureRequest::Format::Svg;
+    if (isForOne && files.paths.size() > 1)
+        return trouble(u"a .png or .svg shows one job or stream; write a .pdf or .html"_s);
+    QList<preview::Shown> all;
+    show.forEach([&](preview::Shown shown) { all.append(std::move(shown)); });
+    picture.title = files.title;
+    return all.isEmpty() ? show.status
+                         : preview::writePicture(picture, all, request.reading, show.status);
 }
 
 int run(QCommandLineParser &parser, const QStringList &arguments)
@@ -214,34 +243,27 @@ int run(QCommandLineParser &parser, const QStringList &arguments)
         return trouble(error);
     if (picture.has_value() + parser.isSet(jsonOption) + parser.isSet(listOption) > 1)
         return trouble(u"--output, --json and --list exclude each other"_s);
-    bool isNumber = false;
-    const int columns = parser.value(columnsOption).toInt(&isNumber);
-    if (!isNumber || columns < 1 || columns > mostColumns)
-        return trouble(u"--columns takes a number from 1 to "_s + QString::number(mostColumns));
-    const auto page = CodePage::named(parser.value(charsetOption).toUtf8());
-    if (!page)
-        return trouble(korvel::recode::noCodePage(parser.value(charsetOption)));
-    Ignored ignored;
-    if (const auto status = readIgnored(parser, ignored))
+    Request request;
+    if (const auto status = readRequest(parser, request))
         return *status;
-
-    const auto kind = parser.isSet(jobOption)      ? preview::InputKind::Job
-                      : parser.isSet(streamOption) ? preview::InputKind::Stream
-                                                   : preview::InputKind::ByContent;
-    const auto input = preview::readInput(parser.positionalArguments().constFirst(), kind, *page,
-                                          parser.value(settingsOption), ignored.inJobs, error);
-    if (!input)
+    const auto files = preview::filesOf(parser.positionalArguments(), error);
+    if (!files)
         return trouble(error);
-    const QList<preview::Finding> found =
-        preview::findings(input->stream, columns, ignored.inStreams, *page);
-    if (!parser.isSet(quietOption))
-        tell(*input, found);
-    const int status = statusOf(*input, found, parser.isSet(strictOption));
-    if (!picture)
-        return write(parser, *input, found, columns, *page, status);
-    picture->title =
-        input->path == "-"_L1 ? u"Standard input"_s : inOneLine(input->path.section(u'/', -1));
-    return writePicture(*picture, preview::paperOf(input->stream, columns, *page), columns, status);
+
+    Show show(request, *files);
+    if (picture)
+        return writePictureOf(*picture, show, request, *files);
+    using Format = preview::Writer::Format;
+    std::optional<preview::Writer> writer;
+    show.forEach([&](const preview::Shown &shown) {
+        if (!writer)
+            writer.emplace(parser.isSet(jsonOption)   ? Format::Json
+                           : parser.isSet(listOption) ? Format::List
+                                                      : Format::Paper,
+                           request.reading, !files->isOneOfOne, preview::wantsColours());
+        writer->write(shown);
+    });
+    return writer ? writer->end(show.status) : show.status;
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// Paper, rows and torn edges, on an image or on the pages of a PDF.
+// Paper, rows and torn edges, on an image or a page.
 #include "companions/preview/picture.h"
 
 #include "companions/preview/dotpdf.h"
@@ -6,11 +6,9 @@
 #include "companions/preview/svg.h"
 
 #include <QBitmap>
-#include <QBuffer>
 #include <QFontInfo>
 #include <QImage>
 #include <QPainter>
-#include <QPdfWriter>
 #include <QPolygon>
 
 #include <algorithm>
@@ -24,9 +22,7 @@ namespace {
 
 using Row = PaperRow::Kind;
 
-constexpr int dotsPerInch = 203;
 constexpr qsizetype mostColumns = 2600; // of a row; what is further out is a single "…"
-constexpr int dotsOfPage = 31'200;      // of rows; a PDF page has at most 200 inches
 
 const QColor red(0xc0, 0x20, 0x20); // what is beyond the paper or unknown
 
@@ -58,17 +54,26 @@ int depthOfTear(int tooth, const Look &look)
 
 } // namespace
 
-Picture::Picture(const QList<PaperRow> &paperRows, int paperColumns, const Look &paperLook)
+Picture::Picture(const QList<PaperRow> &paperRows, int paperColumns, const Look &paperLook,
+                 qsizetype widestRow)
     : look(paperLook)
     , rows(paperRows)
     , columns(paperColumns)
-    , widest(paperColumns)
+    , widest(std::max<qsizetype>(paperColumns, widestRow))
 {
-    if (look.dots)
-        rows.removeIf([](const PaperRow &row) { return row.kind == Row::Computed; });
+    rows.removeIf([&](const PaperRow &row) { return !shows(look, row); });
     for (const PaperRow &row : std::as_const(rows))
-        widest =
-            std::max(widest, std::min(row.text.size(), std::max<qsizetype>(mostColumns, columns)));
+        widest = std::max(widest, widthOf(row, columns));
+}
+
+bool Picture::shows(const Look &look, const PaperRow &row)
+{
+    return !look.dots || row.kind != Row::Computed;
+}
+
+qsizetype Picture::widthOf(const PaperRow &row, int columns)
+{
+    return std::min(row.text.size(), std::max<qsizetype>(mostColumns, columns));
 }
 
 bool Picture::fitsImage() const
@@ -187,63 +192,16 @@ QByteArray Picture::toSvg(const QString &title, const QColor &around) const
     return svg.end();
 }
 
-/// Goes through the pages of a PDF, one of which there is at least.
-void Picture::forEachPage(const std::function<void(const Picture &)> &take) const
+void Picture::addTo(DotPdf &pdf) const
 {
-    const qsizetype rowsOfPage = dotsOfPage / look.cell.height();
-    qsizetype first = 0;
-    do {
-        const qsizetype count = std::min(rowsOfPage, rows.size() - first);
-        Picture page(rows.sliced(first, count), columns, look);
-        page.widest = widest;
-        take(page);
-        first += rowsOfPage;
-    } while (first < rows.size());
-}
-
-QByteArray Picture::toPdf(const QString &title) const
-{
-    return look.dots ? toDotPdf(title) : toTextPdf(title);
-}
-
-QByteArray Picture::toDotPdf(const QString &title) const
-{
-    DotPdf pdf(title, look.dotsPerMetre);
+    pdf.beginPage(size());
+    pdf.addPaper(outline(), look.paper, look.edge);
     const auto takeDots = [&](const QImage &dots, int top, const QColor &colour) {
         pdf.addDots(dots, top, colour);
     };
-    forEachPage([&](const Picture &page) {
-        pdf.beginPage(page.size());
-        pdf.addPaper(page.outline(), look.paper, look.edge);
-        const auto ink = dotInk(takeDots, look.cell, size().width());
-        page.printRows(
-            *ink, [&](int middle) { pdf.addCut(middle, paperWidth(), colourOf(Row::Cut, look)); });
-        pdf.endPage();
-    });
-    return pdf.end();
-}
-
-QByteArray Picture::toTextPdf(const QString &title) const
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setResolution(dotsPerInch);
-    writer.setPageMargins(QMarginsF());
-    writer.setCreator(u"korvel-preview"_s);
-    writer.setTitle(title);
-    QPainter painter;
-    forEachPage([&](const Picture &page) {
-        const QSizeF inches = QSizeF(page.size()) / dotsPerInch;
-        writer.setPageSize(QPageSize(inches, QPageSize::Inch, {}, QPageSize::ExactMatch));
-        if (painter.isActive())
-            writer.newPage();
-        else
-            painter.begin(&writer);
-        page.paint(painter);
-    });
-    painter.end();
-    return buffer.data();
+    printRows(*dotInk(takeDots, look.cell, size().width()),
+              [&](int middle) { pdf.addCut(middle, paperWidth(), colourOf(Row::Cut, look)); });
+    pdf.endPage();
 }
 
 } // namespace korvel::preview

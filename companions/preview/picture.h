@@ -15,6 +15,7 @@ class QPolygon;
 
 namespace korvel::preview {
 
+class DotPdf;
 class Ink;
 
 /**
@@ -27,8 +28,14 @@ public:
     /**
      * @param columns characters in a line of the paper
      * @param look    one of whole dots shows what the printer prints, and not what the preview adds
+     * @param widest  characters of a row that the picture is at least as wide as
      */
-    Picture(const QList<PaperRow> &paperRows, int columns, const Look &look = Look::plain());
+    Picture(const QList<PaperRow> &paperRows, int columns, const Look &look = Look::plain(),
+            qsizetype widest = 0);
+
+    /// Whether a look shows a row, and the characters that one takes at most.
+    static bool shows(const Look &look, const PaperRow &row);
+    static qsizetype widthOf(const PaperRow &row, int columns);
 
     /// Whether the machine has a font to write with.
     static bool hasFont();
@@ -55,15 +62,12 @@ public:
     /// fit an image.
     [[nodiscard]] QByteArray toSvg(const QString &title, const QColor &around = Qt::white) const;
 
-    /// A PDF in the paper's own size, on as many pages as a long roll needs.
-    [[nodiscard]] QByteArray toPdf(const QString &title = {}) const;
+    /// Adds it as a page, dot by dot; the look must be one of whole dots.
+    void addTo(DotPdf &pdf) const;
 
 private:
     [[nodiscard]] int paperWidth() const; // without what is beside it
     [[nodiscard]] QPolygon outline() const;
-    [[nodiscard]] QByteArray toDotPdf(const QString &title) const;
-    [[nodiscard]] QByteArray toTextPdf(const QString &title) const;
-    void forEachPage(const std::function<void(const Picture &)> &take) const;
     void paintPaper(QPainter &painter) const;
     void printRows(Ink &ink, const std::function<void(int middle)> &cut) const;
     void printRow(Ink &ink, const PaperRow &row, int top) const;

@@ -1,7 +1,7 @@
-// Pictures as the command line asks for them.
+// Pictures and pages as the command line asks for them.
 #pragma once
 
-#include "companions/paper/paper.h"
+#include "companions/preview/shown.h"
 
 #include <QCommandLineParser>
 #include <QString>
@@ -10,10 +10,10 @@
 
 namespace korvel::preview {
 
-/// A picture that is asked for.
+/// A picture, or a page for a browser, that is asked for.
 struct PictureRequest
 {
-    enum class Format { Png, Svg, Pdf };
+    enum class Format { Png, Svg, Pdf, Html };
 
     QString path; // "-" for standard output
     Format format = Format::Png;
@@ -35,8 +35,11 @@ bool wantsPicture(const QCommandLineParser &parser);
  */
 std::optional<PictureRequest> pictureRequest(const QCommandLineParser &parser, QString &error);
 
-/// Makes the picture and writes it; the status to end with, which is the one given if all is well.
-int writePicture(const PictureRequest &request, const QList<PaperRow> &rows, int columns,
+/**
+ * Makes the picture of what is shown and writes it; the status to end with, which is the one given
+ * if all is well. A PDF has pages for each file, HTML a paper for each; all else holds one.
+ */
+int writePicture(const PictureRequest &request, const QList<Shown> &shown, const Reading &reading,
                  int status);
 
 } // namespace korvel::preview

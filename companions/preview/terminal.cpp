@@ -26,14 +26,6 @@ int cellsOf(QStringView text)
     return cells;
 }
 
-/// Where a text crosses the paper's edge: no character is taken apart.
-qsizetype crossing(const QString &text, int columns)
-{
-    if (text.size() <= columns)
-        return text.size();
-    return text.at(columns).isLowSurrogate() && columns > 0 ? columns - 1 : columns;
-}
-
 struct Colours
 {
     Row kind;
@@ -65,6 +57,13 @@ bool wantsColours()
 {
     return isatty(STDOUT_FILENO) == 1 && qEnvironmentVariableIsEmpty("NO_COLOR")
            && qgetenv("TERM") != "dumb";
+}
+
+qsizetype crossing(const QString &text, int columns)
+{
+    if (text.size() <= columns)
+        return text.size();
+    return text.at(columns).isLowSurrogate() && columns > 0 ? columns - 1 : columns;
 }
 
 Box::Box(int paperColumns, bool isColoured)

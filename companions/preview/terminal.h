@@ -8,6 +8,8 @@ namespace korvel::preview {
 /// Whether standard output is a terminal that wants colours: NO_COLOR is not set, or empty, and
 /// TERM is not "dumb".
 bool wantsColours();
+/// Where a text crosses the paper's edge; its size when it does not. No character is taken apart.
+qsizetype crossing(const QString &text, int columns);
 
 /**
  * The paper as a box of text, line by line; each ends in a line feed. What is wider than the paper

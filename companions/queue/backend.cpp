@@ -112,10 +112,10 @@ private:
         // Nobody else marks where one raw file ends and the next begins.
         if (documentsIn(ready.contents.rendered) > 1)
             return refused(ready.contents, tooManyFiles);
-        return send(ready.contents);
+        return send(ready.contents, ready.remark());
     }
 
-    int send(const Contents &contents)
+    int send(const Contents &contents, const QString &remark = {})
     {
         const QString misuse = misuseOf(request, contents.rendered);
         if (!misuse.isEmpty())
@@ -126,7 +126,7 @@ private:
                 return held(u"not sent: it was begun for "_s + other
                             + u", and a fiscal document goes to no other printer of a class; "
                               "move it to that printer's queue with lpmove"_s);
-            const int status = deliverCopy(id, contents);
+            const int status = deliverCopy(id, contents, remark);
             if (status != CUPS_BACKEND_OK)
                 return status;
         }
@@ -143,12 +143,13 @@ private:
         return isBound ? document->device : QString();
     }
 
-    int deliverCopy(const QString &id, const Contents &contents)
+    int deliverCopy(const QString &id, const Contents &contents, const QString &remark)
     {
         QString said;
         Order order;
         order.id = id;
         order.origin = request.origin();
+        order.remark = remark;
         order.device = device;
         order.contents = contents;
         order.timeout = forByte;

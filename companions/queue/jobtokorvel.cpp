@@ -109,7 +109,7 @@ private:
         inJournal([&](Journal &journal) {
             QString error;
             journal.accept(request.id, ready.contents, deviceOf(request.device, error)->text,
-                           request.origin());
+                           request.origin(), ready.remark());
         });
         return write(ready.contents.rendered);
     }

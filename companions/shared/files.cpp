@@ -5,6 +5,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -36,9 +37,10 @@ std::optional<QByteArray> readUpTo(const QString &path, qint64 limit, QString &e
         error = reasonOf(file);
         return {};
     }
+    constexpr qint64 chunk = 65'536; // room is made for what is asked for, whatever there is
     QByteArray bytes;
     while (bytes.size() <= limit) {
-        const QByteArray more = file.read(limit + 1 - bytes.size());
+        const QByteArray more = file.read(std::min(chunk, limit + 1 - bytes.size()));
         if (more.isEmpty())
             break;
         bytes += more;

@@ -20,7 +20,13 @@ QString inOneLine(const QString &text, QChar substitute = QChar::ReplacementChar
 /// A value in quotes, cut when it is long, with blanks for what does not print.
 QString quoted(const QString &value);
 
+/// A text as a string of JSON, in its quotes, as UTF-8; what does not print as escapes.
+QByteArray jsonText(const QString &text);
+
 /// A character in quotes and by its number, "è" (U+00E8), or by that alone where it does not print.
 QString characterName(char32_t character);
+
+/// "1 document", "2 documents".
+QString counted(qint64 number, const QString &thing);
 
 } // namespace korvel::shared

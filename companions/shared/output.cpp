@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <QStringEncoder>
 
 #include <algorithm>
 #include <cstdio>
@@ -33,8 +34,22 @@ Output::Output() { failed = !file.open(stdout, QIODevice::WriteOnly); }
 
 Output &Output::operator<<(const QString &text)
 {
+    QStringEncoder utf8(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
+    const qsizetype before = pending.size();
+    pending.resize(before + utf8.requiredSpace(text.size()));
+    pending.truncate(utf8.appendToBuffer(pending.data() + before, text) - pending.constData());
+    return added();
+}
+
+Output &Output::operator<<(const QByteArray &utf8)
+{
+    pending += utf8;
+    return added();
+}
+
+Output &Output::added()
+{
     constexpr qsizetype block = 32'768;
-    pending += text;
     if (pending.size() >= block)
         writePending();
     return *this;
@@ -43,14 +58,19 @@ Output &Output::operator<<(const QString &text)
 void Output::writePending()
 {
     if (!pending.isEmpty())
-        failed = failed || file.write(pending.toUtf8()) < 0;
+        failed = failed || file.write(pending) != pending.size();
     pending.resize(0);
+}
+
+void Output::flush()
+{
+    writePending();
+    failed = failed || !file.flush();
 }
 
 int Output::end(int status)
 {
-    writePending();
-    failed = failed || !file.flush();
+    flush();
     return failed ? trouble(unwritable) : status;
 }
 

@@ -26,16 +26,21 @@ class Output
 public:
     Output();
     Output &operator<<(const QString &text);
+    Output &operator<<(const QByteArray &utf8);
+
+    /// Writes what was not written yet.
+    void flush();
 
     /// The status to end with: the one given, or Trouble, with its reason said, when something
     /// could not be written.
     int end(int status);
 
 private:
+    Output &added();
     void writePending();
 
     QFile file;
-    QString pending; // is converted and written a block at a time
+    QByteArray pending; // is written a block at a time
     bool failed = false;
 };
 

@@ -3,6 +3,7 @@
 
 #include "companions/preview/listing.h"
 #include "companions/preview/terminal.h"
+#include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
 #include "printer/company/commands.h"
 
@@ -63,12 +64,6 @@ const ClosingNames &namesOf(Closing by)
     return *row;
 }
 
-/// "1 document", "2 documents".
-QString counted(qint64 number, const QString &what)
-{
-    return QString::number(number) + u' ' + what + (number == 1 ? QString() : u"s"_s);
-}
-
 /// "fiscal section"; a section's first word is its key.
 QString nameOf(const Document &document)
 {
@@ -86,9 +81,10 @@ QString remarkOn(const Document &document)
 
 QString sumOf(const Day &day)
 {
-    QString text = day.registered.toString() + u" in "_s + counted(day.fiscal, u"fiscal receipt"_s);
+    QString text =
+        day.registered.toString() + u" in "_s + shared::counted(day.fiscal, u"fiscal receipt"_s);
     if (day.uncounted > 0)
-        text += u", "_s + counted(day.uncounted, u"row"_s) + u" not counted"_s;
+        text += u", "_s + shared::counted(day.uncounted, u"row"_s) + u" not counted"_s;
     return text;
 }
 
@@ -111,7 +107,7 @@ QString paperOf(const Print &print, bool coloured)
         text += box.line(row);
     text += box.bottom();
     if (print.rowsLeftOut > 0)
-        text += counted(print.rowsLeftOut, u"more row"_s) + u" left out\n"_s;
+        text += shared::counted(print.rowsLeftOut, u"more row"_s) + u" left out\n"_s;
     if (const QString remark = remarkOn(print.document); !remark.isEmpty())
         text += remark + u'\n';
     return text;
@@ -154,7 +150,7 @@ void Report::printed(const Print &print)
     for (const preview::PaperRow &row : print.paper)
         rows.append(row.text);
     write(u"document "_s + QString::number(print.number) + u": "_s + nameOf(document) + u", "_s
-              + counted(document.size, u"byte"_s) + u'\n' + paperOf(print, coloured),
+              + shared::counted(document.size, u"byte"_s) + u'\n' + paperOf(print, coloured),
           {
               {u"event"_s, u"document"_s},
               {u"document"_s, print.number},
@@ -191,7 +187,7 @@ void Report::faulted(qint64 connection, const Fault &fault, qint64 bytes)
         object.insert(u"connection"_s, connection);
         object.insert(u"bytes"_s, bytes);
         line = u"connection "_s + QString::number(connection) + u": "_s + line + u", "_s
-               + counted(bytes, u"byte"_s) + u" read"_s;
+               + shared::counted(bytes, u"byte"_s) + u" read"_s;
     }
     write(line + u'\n', object);
 }
@@ -199,8 +195,8 @@ void Report::faulted(qint64 connection, const Fault &fault, qint64 bytes)
 void Report::closed(qint64 connection, Closing by, qint64 bytes, qint64 documents)
 {
     write(u"connection "_s + QString::number(connection) + u' ' + QString(namesOf(by).words)
-              + u": "_s + counted(bytes, u"byte"_s) + u", "_s
-              + counted(documents, u"whole document"_s) + u'\n',
+              + u": "_s + shared::counted(bytes, u"byte"_s) + u", "_s
+              + shared::counted(documents, u"whole document"_s) + u'\n',
           {
               {u"event"_s, u"closed"_s},
               {u"connection"_s, connection},
@@ -214,7 +210,7 @@ void Report::ended(const Day &day)
 {
     QJsonObject object = sumsOf(day);
     object.insert(u"event"_s, u"ended"_s);
-    QString line = u"end of the day: "_s + counted(day.documents, u"document"_s);
+    QString line = u"end of the day: "_s + shared::counted(day.documents, u"document"_s);
     if (day.others > 0)
         line += u", "_s + QString::number(day.others) + u" not whole"_s;
     write(line + u"; registered "_s + sumOf(day) + u'\n', object);

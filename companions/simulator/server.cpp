@@ -26,7 +26,7 @@ void noteSignal(int /*number*/)
 {
     const int before = errno;
     const eventfd_t one = 1;
-    static_cast<void>(::write(signalled, &one, sizeof one));
+    [[maybe_unused]] const auto told = ::write(signalled, &one, sizeof one); // full: told before
     errno = before;
 }
 

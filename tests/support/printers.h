@@ -267,7 +267,8 @@ public:
 
     void say(const QByteArray &bytes) const
     {
-        static_cast<void>(::write(descriptor, bytes.constData(), size_t(bytes.size())));
+        if (::write(descriptor, bytes.constData(), size_t(bytes.size())) != bytes.size())
+            qFatal("the line takes no answer");
     }
 
 private:

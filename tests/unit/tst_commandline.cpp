@@ -12,7 +12,7 @@ constexpr auto settings = R"(korvel:
 };
 )";
 
-constexpr auto job = R"(<job>
+constexpr auto sampleJob = R"(<job>
 <method name="printPartialOrder"/>
 <receipe number="2" name="Caff&#232;"/>
 </job>
@@ -35,7 +35,7 @@ void writeFile(const QString &path, const QByteArray &bytes)
 class Shop
 {
 public:
-    Shop() { writeFile(path("job.xml"), job); }
+    Shop() { writeFile(path("job.xml"), sampleJob); }
 
     [[nodiscard]] QString path(const QString &name) const { return home.path() + '/' + name; }
     [[nodiscard]] Run run(const QStringList &arguments, const QStringList &variables = {}) const
@@ -107,17 +107,18 @@ private slots:
         QTest::addColumn<QByteArray>("job");
         QTest::addColumn<QString>("said");
 
-        QTest::newRow("end tag missing") << QByteArray(job).replace("</job>", "") << QString();
+        QTest::newRow("end tag missing")
+            << QByteArray(sampleJob).replace("</job>", "") << QString();
         QTest::newRow("end tag of another element")
-            << QByteArray(job).replace("</job>", "</other>") << QString();
+            << QByteArray(sampleJob).replace("</job>", "</other>") << QString();
         QTest::newRow("attribute without quotes")
-            << QByteArray(job).replace("</job>", "<receipe number=3/></job>") << QString();
-        QTest::newRow("a second root element") << QByteArray(job) + "<job/>" << QString();
+            << QByteArray(sampleJob).replace("</job>", "<receipe number=3/></job>") << QString();
+        QTest::newRow("a second root element") << QByteArray(sampleJob) + "<job/>" << QString();
         QTest::newRow("unknown method")
-            << QByteArray(job).replace("</job>", R"(<method name="printFullorder"/></job>)")
+            << QByteArray(sampleJob).replace("</job>", R"(<method name="printFullorder"/></job>)")
             << "File Format Not Supported\\n";
         QTest::newRow("method without a name")
-            << QByteArray(job).replace("</job>", "<method/></job>")
+            << QByteArray(sampleJob).replace("</job>", "<method/></job>")
             << "File Format Not Supported\\n";
     }
 
@@ -220,7 +221,7 @@ private slots:
     {
         const Shop shop;
         const QString name = QString::fromUtf8("caffè del mattino.xml");
-        writeFile(shop.path(name), job);
+        writeFile(shop.path(name), sampleJob);
         VERIFY_SOUND(shop.run({name, "stream.out"}));
         QCOMPARE(shop.output(), stream);
     }
@@ -235,7 +236,7 @@ private slots:
         const Shop shop;
         const Sweeper sweeper(shop.home.path());
         const QByteArray folder = shop.home.path().toUtf8();
-        writeNamed(folder + '/' + name, job);
+        writeNamed(folder + '/' + name, sampleJob);
         for (const QByteArray &path : {name, folder + '/' + name}) {
             const Run run = runWithBytes(KORVEL_PRINT, {path, "stream.out"}, folder);
             VERIFY_SOUND(run);
@@ -321,7 +322,7 @@ private slots:
         const Sweeper sweeper(shop.home.path());
         const QByteArray folder = shop.home.path().toUtf8() + '/' + name;
         std::filesystem::create_directory(folder.toStdString());
-        writeNamed(folder + "/:in", job);
+        writeNamed(folder + "/:in", sampleJob);
         const Run run = runWithBytes(KORVEL_PRINT, {":in", ":out"}, folder);
         VERIFY_SOUND(run);
         QCOMPARE(linesOf(run.standardOutput), QStringList());

@@ -59,6 +59,18 @@ private slots:
         QCOMPARE(desk.paper().count("Serial Number"), 1);
     }
 
+    /// What the code page lacks is not lost in silence.
+    void whatIsLostIsInTheJournal()
+    {
+        const DeliverDesk desk;
+        writeFile(desk.path("odd.out"), "=o\n=\"/(\xE6\x97\xA5\xE6\x9C\xAC )\n=o\n");
+        VERIFY_DELIVERY(desk.run({"--id", "a", "--charset", "cp858", "odd.out"}), 0, "sent");
+        const QByteArray shown = desk.journal({"show", "a"}).standardOutput;
+        QVERIFY2(shown.contains("accepted: odd.out:2:5: \"\xE6\x97\xA5\" is not in cp858: \"?\" is "
+                                "sent in its place (and 1 more)\n"),
+                 shown.constData());
+    }
+
     void otherInputUnderAnIdIsRefused()
     {
         const DeliverDesk desk;
@@ -66,11 +78,15 @@ private slots:
                   bytesOf(desk.path("home/.korvel/conf/korvel.conf")) + "\n");
         VERIFY_DELIVERY(desk.run({"--id", "a", "receipt.xml"}), 0, "sent");
         const QByteArray paper = desk.paper();
-        const char *const refusal = "the id a is another document's";
-        VERIFY_DELIVERY(desk.run({"--id", "a", "fiscal.xml"}), 1, refusal);
-        VERIFY_DELIVERY(desk.run({"--id", "a", "--charset", "cp858", "receipt.xml"}), 1, refusal);
+        VERIFY_DELIVERY(desk.run({"--id", "a", "fiscal.xml"}), 1,
+                        "the id a was given to another document, which is sent: give this one an "
+                        "id of its own");
+        VERIFY_DELIVERY(desk.run({"--id", "a", "--charset", "cp858", "receipt.xml"}), 1,
+                        "the id a was given to this document in the code page utf-8, which is "
+                        "sent: with a new id it comes out once more");
         VERIFY_DELIVERY(desk.run({"--id", "a", "--settings", "other.conf", "receipt.xml"}), 1,
-                        refusal);
+                        "the id a was given to this document with other settings, which is sent: "
+                        "with a new id it comes out once more");
         QCOMPARE(desk.paper(), paper);
     }
 

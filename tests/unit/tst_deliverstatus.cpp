@@ -173,6 +173,31 @@ private slots:
         QCOMPARE(desk.journal({"verify"}).status, 0);
     }
 
+    /// The command that it names can be typed as it stands.
+    void theAnswerIsACommand_data()
+    {
+        QTest::addColumn<QString>("id");
+        for (const char *id : {"118", "till 1: it's 118", "$(exit 1)", "-118", "\"a\";\\"})
+            QTest::newRow(id) << id;
+    }
+
+    void theAnswerIsACommand()
+    {
+        QFETCH(QString, id);
+        PrinterFault fault;
+        fault.resetsAfter = 64;
+        NetworkPrinter printer(fault);
+        const DeliverDesk desk;
+        const Run run = desk.runTo(printer.device(), {"--id=" + id, "receipt.xml"});
+        VERIFY_DELIVERY(run, 4, "in doubt");
+        static const QRegularExpression named("then run \"korvel-journal (.*) printed\"");
+        const auto match = named.match(QString::fromUtf8(run.standardError));
+        QVERIFY2(match.hasMatch(), run.standardError.constData());
+        const QString command = QString(KORVEL_JOURNAL) + ' ' + match.captured(1) + " printed";
+        QCOMPARE(QProcess::execute("sh", {"-c", command}), 0);
+        VERIFY_DELIVERY(desk.runTo(printer.device(), {"--id=" + id, "receipt.xml"}), 0, "already");
+    }
+
     void thePrinterIsWaitedFor()
     {
         const DeliverDesk desk;

@@ -4,6 +4,7 @@
 #include "delivery/lease.h"
 #include "support/bytes.h"
 #include "support/files.h"
+#include "support/ordinaryuser.h"
 #include "support/printers.h"
 #include "support/test.h"
 
@@ -52,7 +53,7 @@ public:
                     std::chrono::seconds wait = 0s) const
     {
         Journal open = journal();
-        Order order{id, "test", named(to), contentsOf(stream)};
+        Order order{id, "test", {}, named(to), contentsOf(stream)};
         order.timeout = 2s;
         order.wait = wait;
         return korvel::delivery::deliver(open, order);
@@ -77,7 +78,15 @@ public:
             {State::NotPrinted, {State::Sending, State::InDoubt, State::NotPrinted}},
         };
         for (const State next : ways.value(state))
-            open.change(id, next, device(), "before");
+            open.change(id, next, device(), "before",
+                        next == State::Sending ? lease() : QByteArray());
+    }
+
+    /// The name of the lease of the shop's printer.
+    [[nodiscard]] QByteArray lease() const
+    {
+        QString error;
+        return placesOf(named(device()), QDeadlineTimer(1s), error).at(0)->leaseName();
     }
 
 private:
@@ -183,7 +192,7 @@ private slots:
         const Shop shop;
         shop.bring(State::NotSent);
         Journal journal = shop.journal();
-        Order order{id, "test", named(shop.device()), contentsOf(document)};
+        Order order{id, "test", {}, named(shop.device()), contentsOf(document)};
         order.contents.sent = "of another day";
         QCOMPARE(int(deliver(journal, order).end), int(End::Sent));
         QCOMPARE(shop.paper(), document);
@@ -215,8 +224,7 @@ private slots:
     {
         const Shop shop;
         QString error;
-        const auto place = std::move(placesOf(named(shop.device()), QDeadlineTimer(1s), error)[0]);
-        const auto lease = Lease::take(place->leaseName(), error);
+        const auto lease = Lease::take(shop.lease(), error);
         QVERIFY2(lease, qPrintable(error));
         const Outcome outcome = shop.deliver();
         QCOMPARE(int(outcome.end), int(End::NotSent));
@@ -231,17 +239,58 @@ private slots:
         shop.bring(State::Sending);
         QString error;
         {
-            const auto place =
-                std::move(placesOf(named(shop.device()), QDeadlineTimer(1s), error)[0]);
-            const auto lease = Lease::take(place->leaseName(), error);
+            const auto lease = Lease::take(shop.lease(), error);
             const Outcome outcome = shop.deliver();
             QCOMPARE(int(outcome.end), int(End::NotSent));
             QCOMPARE(outcome.reason, QString("another process is sending it"));
             QCOMPARE(shop.state(), State::Sending);
-            QVERIFY(isHeld(shop.device()));
         }
-        QVERIFY(!isHeld(shop.device()));
         QCOMPARE(int(shop.deliver().end), int(End::InDoubt));
+    }
+
+    /// A living sender is known by the lease that it took, wherever the name of its device leads
+    /// meanwhile.
+    void aSenderLivesAsLongAsItsLease()
+    {
+        const Shop shop;
+        shop.bring(State::Sending);
+        QString error;
+        const auto lease = Lease::take(shop.lease(), error);
+        QVERIFY(QFile::rename(shop.path("paper"), shop.path("paper.old")));
+        Journal journal = shop.journal();
+        const Order another{"another", "test", {}, named(shop.device()), contentsOf("=o\n")};
+        QCOMPARE(int(deliver(journal, another).end), int(End::Sent)); // to the file made anew
+        QCOMPARE(shop.state(), State::Sending);
+        QCOMPARE(int(shop.deliver().end), int(End::NotSent));
+        QCOMPARE(shop.state(), State::Sending);
+    }
+
+    /// The folder must be synced too: where it cannot be, no byte is written.
+    void aFileWhoseFolderCannotBeReadIsNotWritten()
+    {
+        const Shop shop;
+        QVERIFY(QDir().mkdir(shop.path("closed")));
+        writeFile(shop.path("closed/paper"), {});
+        const QFile::Permissions enter = QFile::WriteOwner | QFile::ExeOwner;
+        QVERIFY(QFile::setPermissions(shop.path("closed"), enter));
+        {
+            const OrdinaryUser user;
+            QCOMPARE(int(shop.deliver("file:" + shop.path("closed/paper")).end), int(End::NotSent));
+        }
+        QVERIFY(QFile::setPermissions(shop.path("closed"), enter | QFile::ReadOwner));
+        QCOMPARE(shop.state(), State::NotSent);
+        QCOMPARE(bytesOf(shop.path("closed/paper")), QByteArray());
+    }
+
+    void whatIsOddIsInTheJournal()
+    {
+        const Shop shop;
+        Journal journal = shop.journal();
+        const Order order{id, "test", "receipt.xml:3:1: warning: x", named(shop.device()),
+                          contentsOf(document)};
+        QCOMPARE(int(deliver(journal, order).end), int(End::Sent));
+        QCOMPARE(journal.events(id).constFirst().name, QString("accepted"));
+        QCOMPARE(journal.events(id).constFirst().detail, QString("receipt.xml:3:1: warning: x"));
     }
 
     void theNextHolderRecordsTheDoubt_data()
@@ -263,7 +312,7 @@ private slots:
         shop.bring(State::Sending);
         Journal journal = shop.journal();
         const QString to = shop.path(name);
-        const Order order{"another", "test", named("file:" + to), contentsOf("=o\n")};
+        const Order order{"another", "test", {}, named("file:" + to), contentsOf("=o\n")};
         QCOMPARE(int(deliver(journal, order).end), int(End::Sent));
         QCOMPARE(shop.state(), state);
         QCOMPARE(bytesOf(to), QByteArray("=o\n"));
@@ -275,7 +324,7 @@ private slots:
         const QString path = shop.path("fifo");
         QStringList reasons;
         Journal journal = shop.journal();
-        Order order{id, "test", named(path), contentsOf(document)};
+        Order order{id, "test", {}, named(path), contentsOf(document)};
         order.wait = 30s;
         std::unique_ptr<FifoPrinter> printer;
         order.waiting = [&](const QString &reason) {

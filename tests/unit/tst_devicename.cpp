@@ -86,6 +86,7 @@ private slots:
         row("serial:/dev/ttyS0?baud=", "9600, 19200");
         row("serial:/dev/ttyS0?parity=even", "write serial:/dev/ttyS0?baud=9600");
         row("/dev/\x1b[2J", "does not print");
+        row("/tmp", "/tmp is no device of characters and no FIFO");
         row("tcp://cassa\n", "does not print");
     }
 

@@ -278,7 +278,6 @@ private slots:
     {
         QTest::addColumn<QString>("error");
         QTest::newRow("/dev/no-such-printer") << "cannot be reached: " + qt_error_string(ENOENT);
-        QTest::newRow("/tmp") << QString("it is no device of characters and no FIFO");
         QTest::newRow("serial:/tmp") << QString("it is no serial line");
         QTest::newRow("serial:/dev/null") << "cannot be reached: " + qt_error_string(ENOTTY);
         QTest::newRow("file:/no/such/folder/paper")

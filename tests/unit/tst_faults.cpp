@@ -13,7 +13,7 @@ const QByteArray stream =
     "=o\n" + ("=\"/(  2 X" + QByteArray(25, ' ') + " )\n").repeated(items) + "=o\n";
 
 constexpr int failingWriteCalls = 20;
-constexpr int step = sanitized ? 4 : 1; // runs are slow there
+constexpr int stride = sanitized ? 4 : 1; // runs are slow there
 
 Launch withFault(const QString &kind, int call)
 {
@@ -98,7 +98,7 @@ private slots:
         QFETCH(bool, whole);
         const Shop shop(settingsFile(documentGroup("doc", "quantityFieldWidth = 3;")));
         qsizetype before = 0;
-        for (int call = 1; call <= failingWriteCalls; call += step) {
+        for (int call = 1; call <= failingWriteCalls; call += stride) {
             const auto run = shop.render(job, withFault(kind, call));
             VERIFY_QUIET(run);
             const QByteArray output = shop.output();

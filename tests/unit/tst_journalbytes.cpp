@@ -94,7 +94,8 @@ private slots:
         QCOMPARE(flawsOf(journal), {});
         for (const QByteArrayList &row : values) {
             for (qsizetype i = 0; i < columns.size(); ++i) {
-                const auto &[name, type] = columns[i];
+                const QByteArray &name = columns[i].name;
+                const auto &type = columns[i].type;
                 for (const QByteArray &value : neighboursOf(type, row[i])) {
                     const auto change = [&](const QByteArray &from, const QByteArray &to) {
                         QByteArray place;

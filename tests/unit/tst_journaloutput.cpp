@@ -197,8 +197,8 @@ private slots:
             const QJsonObject event = QJsonDocument::fromJson(lines[i]).object();
             QCOMPARE(event.keys(),
                      QStringList({"catalogue", "charset", "detail", "device", "document", "event",
-                                  "hash", "job", "number", "origin", "previous", "sent", "settings",
-                                  "stream", "time"}));
+                                  "hash", "job", "lease", "number", "origin", "previous", "sent",
+                                  "settings", "stream", "time"}));
             QCOMPARE(event["number"].toInt(), i + 1);
             QCOMPARE(event["previous"].toString().toUtf8(), previous);
             previous = event["hash"].toString().toUtf8();

@@ -1,11 +1,12 @@
 // korvel-journal as a user meets it: arguments, options, exit statuses and errors.
-#include "delivery/device.h"
 #include "delivery/lease.h"
 #include "support/anyuser.h"
 #include "support/journaldesk.h"
 #include "support/test.h"
 
 #include <QRegularExpression>
+
+#include <unistd.h>
 
 namespace tst_journalprogram {
 
@@ -149,19 +150,14 @@ private slots:
     void whatIsBeingSentIsNotResolved()
     {
         const JournalDesk desk;
-        const QString device = "file:" + desk.filePath("printer");
+        const QByteArray name = "of-a-test-" + QByteArray::number(::getpid());
         {
             Journal journal = desk.writer();
-            journal.accept("a", contentsFor("a"), device, {});
-            journal.change("a", State::Sending, device, {});
+            journal.accept("a", contentsFor("a"), till, {});
+            journal.change("a", State::Sending, till, {}, name);
         }
         QString error;
-        const auto name = deviceNamed(device, error);
-        QVERIFY2(name, qPrintable(error));
-        writeFile(desk.filePath("printer"), {});
-        const Places places = placesOf(*name, QDeadlineTimer(1000), error);
-        QVERIFY2(!places.empty(), qPrintable(error));
-        auto lease = Lease::take(places.front()->leaseName(), error);
+        auto lease = Lease::take(name, error);
         QVERIFY2(lease, qPrintable(error));
         VERIFY_SAID(desk.run({"resolve", "a", "printed"}), 1, QStringList(),
                     "korvel-journal: document a is being sent; wait for its end");

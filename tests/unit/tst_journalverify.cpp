@@ -31,8 +31,8 @@ QByteArray appended(const QString &path, const QByteArray &name)
     last.with().step();
     record.previous = last.bytes(0);
     return "INSERT INTO events VALUES (6, '" + record.time + "', 'a', '" + name
-           + "', '', '', '', '', '', '', '', '', '', '" + record.previous + "', '" + hashOf(record)
-           + "')";
+           + "', '', '', '', '', '', '', '', '', '', '', '" + record.previous + "', '"
+           + hashOf(record) + "')";
 }
 
 class TestJournalVerify : public QObject

@@ -92,8 +92,8 @@ private slots:
         if (holder == 0) {
             QString error;
             const auto lease = desk.take(error);
-            static_cast<void>(::write(ready[1], lease ? "y" : "n", 1));
-            ::pause();
+            if (::write(ready[1], lease ? "y" : "n", 1) == 1)
+                ::pause();
             ::_exit(0);
         }
         char said = 0;

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 
 namespace tst_manpages {
 
@@ -308,6 +309,14 @@ private slots:
         const QList<Example> examples = examplesOf(pageOf(QTest::currentDataTag()));
         QVERIFY(examples.size() >= 3);
 
+        // They find what is installed, and nothing else.
+        const QTemporaryDir installed;
+        const Run install = runProgram(
+            "cmake",
+            {"--install", KORVEL_BINARY_DIR, "--component", "print", "--prefix", installed.path()},
+            {});
+        QVERIFY2(install.status == 0, install.standardError.constData());
+
         // One folder and one HOME for all examples of a page: a later one may build on an earlier.
         const TemporaryHome home(bytesOf(top + "examples/korvel.conf"));
         QString path = QString::fromLocal8Bit(qgetenv("PATH"));
@@ -315,8 +324,8 @@ private slots:
             path.prepend(QFileInfo(program.path).path() + ':');
         const QStringList variables = {
             "PATH=" + path,
-            "EXAMPLES=" + top + "examples",
-            "CATALOGUES=" KORVEL_BINARY_DIR "/translations",
+            "EXAMPLES=" + installed.filePath("share/doc/korvel-print/examples"),
+            "CATALOGUES=" + installed.filePath("share/korvel-print/translations"),
         };
         for (const Example &example : examples) {
             QString script = example.script;

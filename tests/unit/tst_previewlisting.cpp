@@ -152,7 +152,7 @@ private slots:
         QCOMPARE(error.error, QJsonParseError::NoError);
         object.insert("offset", 1234);
         object.insert("line", 56);
-        QCOMPARE(toJson(command), object);
+        QCOMPARE(QJsonDocument::fromJson(jsonOf(command) + "}").object(), object);
     }
 };
 

@@ -119,7 +119,7 @@ private slots:
         QTest::addColumn<QStringList>("arguments");
 
         QTest::newRow("no argument") << QStringList{};
-        QTest::newRow("two streams") << QStringList{"x.out", "x.out"};
+        QTest::newRow("standard input twice") << QStringList{"-", "-"};
         QTest::newRow("an option alone") << QStringList{"--json"};
         QTest::newRow("an option that it does not know") << QStringList{"--colour", "x.out"};
         QTest::newRow("a letter that it does not know") << QStringList{"-z", "x.out"};
@@ -128,7 +128,6 @@ private slots:
         QTest::newRow("a style") << QStringList{"-style", "fusion", "x.out"};
         QTest::newRow("a missing file") << QStringList{"missing.out"};
         QTest::newRow("a missing file whose name has two lines") << QStringList{"missing\nfile"};
-        QTest::newRow("a folder") << QStringList{"."};
         QTest::newRow("a file in place of a folder") << QStringList{"x.out/y.out"};
         QTest::newRow("an empty name") << QStringList{""};
         QTest::newRow("an option behind --") << QStringList{"--", "--json"};
@@ -151,6 +150,10 @@ private slots:
         QTest::newRow("look: no output") << QStringList{"--look", "thermal", "x.out"};
         QTest::newRow("transparent: no output") << QStringList{"--transparent", "x.out"};
         QTest::newRow("transparent: PDF") << QStringList{"-o", "y.pdf", "--transparent", "x.out"};
+        QTest::newRow("look: HTML") << QStringList{"-o", "y.html", "--look=plain", "x.out"};
+        QTest::newRow("transparent: HTML") << QStringList{"-o", "y.html", "--transparent", "x.out"};
+        QTest::newRow("PNG of two") << QStringList{"-o", "y.png", "x.out", "x.out"};
+        QTest::newRow("SVG of two") << QStringList{"-o", "y.svg", "x.out", "x.out"};
         QTest::newRow("output: no value") << QStringList{"x.out", "-o"};
 
         QTest::newRow("output and JSON") << QStringList{"-o", "y.png", "--json", "x.out"};

@@ -114,7 +114,7 @@ private slots:
                 if (names.contains("const"))
                     all.append(names["const"]);
                 for (const QJsonValue &name : all)
-                    if (key != "command" && key != "offset" && key != "line")
+                    if (!QStringList{"command", "offset", "line", "file"}.contains(key))
                         inTheSchema.append(name.toString() + ' ' + key);
             }
         }

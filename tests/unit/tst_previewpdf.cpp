@@ -1,5 +1,6 @@
 // The paper as a PDF: its pages, and the rows on them.
 #include "companions/preview/picture.h"
+#include "companions/preview/rollpdf.h"
 #include "support/files.h"
 #include "support/pictures.h"
 #include "support/program.h"
@@ -14,6 +15,16 @@
 namespace tst_previewpdf {
 
 using namespace korvel::preview;
+
+/// A PDF of these rolls.
+QByteArray pdfOf(const QList<QList<PaperRow>> &rolls, const Look &look = Look::plain(),
+                 const QString &title = {})
+{
+    RollPdf pdf(columns, look, title);
+    for (const QList<PaperRow> &rows : rolls)
+        pdf.add([&](const Roll::TakeRow &take) { std::for_each(rows.begin(), rows.end(), take); });
+    return pdf.end();
+}
 
 class TestPreviewPdf : public QObject
 {
@@ -42,7 +53,7 @@ private slots:
         QFETCH(QList<int>, rowsOfPages);
         const QTemporaryDir folder;
         const QString path = folder.filePath("roll.pdf");
-        writeFile(path, Picture(roll(rows), columns).toPdf());
+        writeFile(path, pdfOf({roll(rows)}));
 
         const Run info = runProgram("pdfinfo", {"-l", "-1", path}, {});
         QCOMPARE(info.status, 0);
@@ -73,7 +84,7 @@ private slots:
         const QTemporaryDir folder;
         const QString path = folder.filePath("roll.pdf");
         for (const Look &look : {Look::plain(), Look::thermal(columns)}) {
-            writeFile(path, Picture(roll(1), columns, look).toPdf("Caffè 118.out"));
+            writeFile(path, pdfOf({roll(1)}, look, "Caffè 118.out"));
             const Run info = runProgram("pdfinfo", {path}, {});
             const QString text = QString::fromUtf8(info.standardOutput);
             QVERIFY2(text.contains(QRegularExpression("(?m)^Title: +Caffè 118.out$")),
@@ -98,7 +109,7 @@ private slots:
         QFETCH(QList<int>, rowsOfPages);
         const QTemporaryDir folder;
         const QString path = folder.filePath("roll.pdf");
-        writeFile(path, Picture(roll(rows), columns, Look::thermal(columns)).toPdf());
+        writeFile(path, pdfOf({roll(rows)}, Look::thermal(columns)));
         const Run info = runProgram("pdfinfo", {"-l", "-1", path}, {});
         QCOMPARE(info.status, 0);
         QCOMPARE(info.standardError, "");
@@ -124,7 +135,7 @@ private slots:
                                       {PaperRow::Kind::Cut, {}},
                                       {PaperRow::Kind::Unknown, QString(40, 'x')}};
         const Picture picture(rows, columns, Look::thermal(columns));
-        writeFile(path, picture.toPdf());
+        writeFile(path, pdfOf({rows}, Look::thermal(columns)));
         const Run run =
             runProgram("pdftoppm", {"-r", "203.2", "-aa", "no", "-aaVector", "no", "-png", path},
                        {folder.path(), {}, {}});
@@ -147,13 +158,38 @@ private slots:
         }
     }
 
+    /// Each roll begins on a page of its own, which is as long as it needs, and as wide.
+    void severalRolls()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("day.pdf");
+        const QList<QList<PaperRow>> rolls = {roll(2), {}, printed({QString(34, 'x')}), roll(1301)};
+        for (const Look &look : {Look::plain(), Look::thermal(columns)}) {
+            const bool isPlain = !look.dots;
+            writeFile(path, pdfOf(rolls, look));
+            const Run info = runProgram("pdfinfo", {"-l", "-1", path}, {});
+            QList<QList<int>> sizes; // in dots
+            for (const auto &page :
+                 QRegularExpression("(?m)^Page +\\d+ size: +([\\d.]+) x ([\\d.]+) pts")
+                     .globalMatch(QString::fromUtf8(info.standardOutput))) {
+                const double points = isPlain ? 203.0 / 72 : 203.2 / 72;
+                sizes.append({qRound(page.captured(1).toDouble() * points / 12),
+                              qRound(page.captured(2).toDouble() * points / 12)});
+            }
+            // In 12 dots: 464 or 640 wide, with 2 columns and the margin beyond 528 or 708.
+            const QList<QList<int>> plain = {{39, 8}, {39, 4}, {44, 6}, {39, 2604}, {39, 6}};
+            const QList<QList<int>> thermal = {{53, 14}, {53, 8}, {59, 11}, {53, 2606}, {53, 1313}};
+            QCOMPARE(sizes, isPlain ? plain : thermal);
+        }
+    }
+
     /// Every row is on a page once, in order.
     void rowsOfAPdf()
     {
         constexpr int rows = 1305;
         const QTemporaryDir folder;
         const QString path = folder.filePath("roll.pdf");
-        writeFile(path, Picture(roll(rows), columns).toPdf());
+        writeFile(path, pdfOf({roll(rows)}));
 
         const Run run = runProgram("pdftotext", {path, "-"}, {});
         QCOMPARE(run.status, 0);

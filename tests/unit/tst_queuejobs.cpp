@@ -203,7 +203,7 @@ private slots:
         for (int time = 0; time < 2; ++time)
             VERIFY_JOB(*desk, lp(arguments), IPP_JSTATE_COMPLETED, "");
         const QString other = lp({"-o", "job-uuid=till1-118", sample("kitchen-order.xml")});
-        VERIFY_JOB(*desk, other, IPP_JSTATE_CANCELED, "till1-118 is another document's");
+        VERIFY_JOB(*desk, other, IPP_JSTATE_CANCELED, "till1-118 was given to another document");
         VERIFY_JOB(*desk, lp({sample("kitchen-order.xml")}), IPP_JSTATE_COMPLETED, "");
         QCOMPARE(printer->documents(2),
                  QList<QByteArray>({receipt(), bytesOf(expected("kitchen-order.out"))}));

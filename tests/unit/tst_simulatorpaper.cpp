@@ -145,7 +145,7 @@ private slots:
         QTest::newRow("UTF-8") << "UTF-8" << QByteArray("Caff\xC3\xA8") << "Caffè"
                                << "";
         QTest::newRow("not UTF-8") << "utf-8" << QByteArray("Caff\xe8") << "Caff\uFFFD"
-                                   << "document 1:2: byte 11: warning: \"\\xe8\" is not UTF-8 "
+                                   << "document 1:2: byte 11: warning: \"\\xe8\" is not utf-8 "
                                       "[not-utf-8]";
         QTest::newRow("no character of it")
             << "cp1252" << QByteArray("\xe8\x81") << "è\uFFFD"
