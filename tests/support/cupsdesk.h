@@ -254,8 +254,9 @@ public:
     /// Makes a folder the user's whom filters and backends run as.
     void giveToServer(const QString &name) const
     {
-        if (const passwd *const lp = ::geteuid() == 0 ? ::getpwnam("lp") : nullptr)
-            static_cast<void>(::chown(qPrintable(path(name)), lp->pw_uid, lp->pw_gid));
+        const passwd *const lp = ::geteuid() == 0 ? ::getpwnam("lp") : nullptr;
+        if (lp && ::chown(qPrintable(path(name)), lp->pw_uid, lp->pw_gid) != 0)
+            qFatal("%s cannot be given away", qPrintable(name));
     }
 
 private:
