@@ -98,6 +98,9 @@ private:
             tell(Level::Error, refusal(document->detail));
             return CUPS_BACKEND_CANCEL;
         }
+        if (document && !delivery::nothingLeft(document->state))
+            return held(u"its filter did not come to its end; the document itself is "_s
+                        + infoOf(document->state).name);
         return refused({}, u"nothing came of it: its filter did not come to its end"_s);
     }
 

@@ -181,6 +181,7 @@ private slots:
         printer.on({"--fault", "reset=40"});
         const Driver doubting;
         QCOMPARE(doubting.backend(printer.uri(), fiscal).status, int(CUPS_BACKEND_HOLD));
+        QCOMPARE(doubting.backend(printer.uri(), {}).status, int(CUPS_BACKEND_HOLD));
         QVERIFY(driver.journal({"list"}).contains("sent         till1-118"));
         QVERIFY(doubting.journal({"list"}).contains("in-doubt     till1-118"));
     }
