@@ -20,6 +20,8 @@ class Connection
 {
 public:
     virtual ~Connection() = default;
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
 
     /**
      * Whether the printer is still there, before a byte is sent.
@@ -43,12 +45,10 @@ protected:
         : descriptor(std::move(opened))
     {
     }
-    Connection(const Connection &) = delete;
-    Connection &operator=(const Connection &) = delete;
 
     /// What reading what the printer says came to.
     enum class Heard { Nothing, Something, End, Error };
-    Heard dropInput() const;
+    [[nodiscard]] Heard dropInput() const;
 
     /// Hands all bytes to the system.
     bool handOver(QByteArrayView bytes, std::chrono::seconds patience, bool reads,
@@ -66,6 +66,8 @@ class Place
 {
 public:
     virtual ~Place() = default;
+    Place(const Place &) = delete;
+    Place &operator=(const Place &) = delete;
 
     /// What the lease of the device is named by: the same, whatever name led here.
     [[nodiscard]] virtual QByteArray leaseName() const = 0;
@@ -75,8 +77,6 @@ public:
 
 protected:
     Place() = default;
-    Place(const Place &) = delete;
-    Place &operator=(const Place &) = delete;
 };
 
 using Places = std::vector<std::unique_ptr<Place>>;

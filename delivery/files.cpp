@@ -117,7 +117,7 @@ public:
         const bool reads = (flags & O_ACCMODE) == O_RDWR;
         while (!bytes.isEmpty()) {
             if (reads)
-                dropInput();
+                static_cast<void>(dropInput());
             const Watchdog watchdog(patience);
             const ssize_t count = watchdog.works()
                                       ? ::write(descriptor.number(), bytes.data(),

@@ -22,7 +22,7 @@ QByteArray store(sqlite::Database &database, const QByteArray &bytes)
 {
     if (bytes.isEmpty())
         return {};
-    const QByteArray hash = hashOf(bytes);
+    QByteArray hash = hashOf(bytes);
     Statement(database, "INSERT OR IGNORE INTO contents VALUES (?, ?)")
         .with(hash, sqlite::Blob{bytes})
         .run();

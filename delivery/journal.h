@@ -94,7 +94,8 @@ class Journal
 {
 public:
     enum class Access {
-        Write,         // made when it is not there, for its owner alone (0600)
+        Write,         // made when it is not there, for its owner alone (0600), as is
+                       // an empty one
         WriteForGroup, // the same, but his group may read it (0640)
         Read,          // nothing is changed, and nothing of the folder; rolls back what a killed
                        // writer left only where it may be written, and says so where not
@@ -104,9 +105,10 @@ public:
     /// migrated in one transaction or, with Read, read as it is.
     Journal(const QString &path, Access access);
     ~Journal();
-    Journal(Journal &&) noexcept;
+    Journal(Journal &&other) noexcept;
 
     /// Where a user's journal is unless another is named: below the folder for the user's data.
+    /// Empty where the environment does not say where that is, which is no journal's path.
     static QString userPath();
 
     /// A document by its id; nothing when there is none.

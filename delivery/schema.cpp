@@ -85,7 +85,7 @@ qint64 numberOf(sqlite::Database &database, const char *sql)
 /// The version of the schema in a file; complains of a file that is no journal, or a newer one.
 qint64 versionOf(sqlite::Database &database)
 {
-    std::optional<sqlite::Transaction> transaction; // another process may be migrating it
+    std::optional<sqlite::Transaction> transaction; // another process may be making the file
     if (!database.inTransaction())
         transaction.emplace(database, sqlite::Transaction::Kind::Read);
     const qint64 application = numberOf(database, "PRAGMA application_id");
@@ -134,6 +134,20 @@ void makeFolders(const QByteArray &path)
     }
 }
 
+/// Takes an empty file from all whom its mode does not name, before anything is written: what
+/// undoes a write that was cut short gets the same rights.
+void makePrivate(const QString &path, mode_t mode)
+{
+    const QByteArray bytes = korvel::path::toBytes(path);
+    struct stat status = {};
+    if (::stat(bytes.constData(), &status) != 0)
+        throw JournalError(path + u": it leads to a file that is not there; name another"_s);
+    if (status.st_size == 0 && (status.st_mode & 07777U) != mode
+        && ::chmod(bytes.constData(), mode) != 0)
+        throw JournalError(path + u": it is empty, and cannot be made its owner's alone: "_s
+                           + qt_error_string() + u"; remove it, or name another"_s);
+}
+
 /// Makes an empty file of a mode, unless there is one.
 void makeFile(const QString &path, mode_t mode)
 {
@@ -143,8 +157,9 @@ void makeFile(const QString &path, mode_t mode)
     const int descriptor = ::open(bytes.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (descriptor < 0) {
         if (errno == EEXIST)
-            return;
-        throw JournalError(path + u": "_s + qt_error_string());
+            return makePrivate(path, mode);
+        throw JournalError(path + u": it cannot be made: "_s + qt_error_string()
+                           + u"; see that its folder is there and may be written"_s);
     }
     ::fchmod(descriptor, mode);
     ::close(descriptor);
@@ -156,6 +171,8 @@ void makeFile(const QString &path, mode_t mode)
 QString Journal::userPath()
 {
     const QByteArray data = qgetenv("XDG_DATA_HOME");
+    if (!data.startsWith('/') && !qgetenv("HOME").startsWith('/'))
+        return {};
     const QString folder = data.startsWith('/') ? korvel::path::fromBytes(data)
                                                 : korvel::path::home() + u"/.local/share"_s;
     return folder + u"/korvel-print/journal.db"_s;
@@ -165,7 +182,11 @@ std::unique_ptr<sqlite::Database> openJournal(const QString &path, Journal::Acce
 {
     const bool write = access != Journal::Access::Read;
     if (path.isEmpty())
-        throw JournalError(u"a journal needs the name of a file"_s);
+        throw JournalError(
+            u"there is no place for the user's journal, as HOME names no folder from "
+            "the root on: set it, or name a file with --journal"_s);
+    if (korvel::path::kindOf(path) == korvel::path::Kind::Other)
+        throw JournalError(path + u": it is no regular file; name another"_s);
     if (write)
         makeFile(path, access == Journal::Access::WriteForGroup ? 0640 : 0600);
     else if (korvel::path::kindOf(path) == korvel::path::Kind::Nothing)

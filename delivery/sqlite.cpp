@@ -27,21 +27,30 @@ QString reasonOf(sqlite3 *database)
     case SQLITE_FULL:
         return u"the disk is full, nothing was written; make room"_s;
     case SQLITE_READONLY:
-        return u"it may only be read"_s;
+        return u"it may only be read; run this as someone who may write it"_s;
     case SQLITE_NOTADB:
         return u"it is no journal"_s;
     case SQLITE_NOMEM:
-        return u"not enough memory"_s;
+        return u"not enough memory; try again"_s;
     case SQLITE_CORRUPT:
-        return u"it is damaged; keep the file, and take up the last good copy"_s;
+        return u"it is damaged; keep the file. A copy from before does not know the ids delivered "
+               "since: call none of them again before somebody has looked at the paper"_s;
     default:
         break;
     }
-    const QString text = (code & 0xFF) == SQLITE_IOERR
-                             ? u"the disk could not be read or written"_s
-                             : QString::fromUtf8(sqlite3_errmsg(database));
     const int error = sqlite3_system_errno(database);
-    return error == 0 ? text : text + u": "_s + qt_error_string(error);
+    const QString reason = error == 0 ? QString() : u": "_s + qt_error_string(error);
+    switch (code & 0xFF) {
+    case SQLITE_IOERR:
+        return u"the disk could not be read or written"_s + reason
+               + u"; see whether it is full, or fails"_s;
+    case SQLITE_CANTOPEN:
+        return u"it cannot be opened"_s + reason
+               + u"; see that you may read it, and make files beside it"_s;
+    default:
+        return QString::fromUtf8(sqlite3_errmsg(database)) + reason
+               + u"; run \"korvel-journal verify\""_s;
+    }
 }
 
 } // namespace
@@ -68,7 +77,7 @@ Database::Database(const QString &path)
     sqlite3_busy_timeout(opened, longestWait);
 }
 
-void Database::run(const QByteArray &sql)
+void Database::run(const QByteArray &sql) const
 {
     if (sqlite3_exec(handle(), sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
         fail();

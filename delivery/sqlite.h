@@ -26,7 +26,7 @@ public:
     explicit Database(const QString &path);
 
     /// Runs statements that give nothing, parted by semicolons.
-    void run(const QByteArray &sql);
+    void run(const QByteArray &sql) const;
 
     /// Throws what went wrong last.
     [[noreturn]] void fail() const;
@@ -50,7 +50,7 @@ private:
 class Statement
 {
 public:
-    Statement(Database &database, const QByteArray &sql);
+    Statement(Database &of, const QByteArray &sql);
 
     /// Begins anew with these values in the place of the question marks.
     template<typename... Values>
@@ -104,7 +104,7 @@ public:
         Write, // no other writer from the start
     };
 
-    Transaction(Database &database, Kind kind);
+    Transaction(Database &of, Kind kind);
     ~Transaction();
     Transaction(const Transaction &) = delete;
     Transaction &operator=(const Transaction &) = delete;

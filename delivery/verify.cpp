@@ -23,6 +23,10 @@ constexpr char textsOnly[] =
     " || typeof(job) || typeof(settings) || typeof(catalogue) || typeof(rendered) || typeof(sent)"
     " || typeof(charset) || typeof(origin) || typeof(lease) || typeof(previous) || typeof(hash)";
 
+// Without these nothing can be looked at.
+constexpr const char *needed[] = {"contents",        "events",      "documents",      "uses",
+                                  "events_document", "events_time", "documents_state"};
+
 class Verifier
 {
 public:
@@ -46,6 +50,7 @@ public:
     {
         keptIsThere = kept && kept->number == 0; // of a journal without events
         lookAtContents();
+        lookInFront();
         bool more = true;
         while (more) {
             {
@@ -79,6 +84,7 @@ private:
     }
 
     void lookAtContents();
+    void lookInFront();
     bool lookAtEvents();
     void lookAt(const Record &record);
     void lookAtUses(const Record &record);
@@ -97,7 +103,8 @@ private:
     Head last;
     bool keptIsThere = false;
     QHash<QByteArray, Row> rows;
-    qint64 uses = 0; // that there are and should be
+    QHash<QByteArray, qint64> uses; // by documents: that there are and should be
+    qint64 allUses = 0;
 };
 
 QString eventName(qint64 number) { return u"event "_s + QString::number(number); }
@@ -129,6 +136,15 @@ void Verifier::lookAtContents()
         if (!flaws.isEmpty() || done % lookedAtAtOnce == 0)
             tellFlaws();
     }
+}
+
+/// Events begin at 1.
+void Verifier::lookInFront()
+{
+    Statement event(database, "SELECT number FROM events WHERE number < 1 ORDER BY number");
+    event.with();
+    while (event.step())
+        flaw(eventName(event.number(0)) + u": was put in"_s);
 }
 
 /// The next events; false when there are no more.
@@ -171,6 +187,9 @@ void Verifier::lookAt(const Record &record)
         flaw(eventName(record.number) + u": may not follow what its document was"_s);
     if (!byDocument.has(record.document, record.number) || !byTime.has(record.time, record.number))
         flaw(eventName(record.number) + u": is missing from an index"_s);
+    // Those that were looked at before somebody forgot them.
+    if (record.name == forgottenName)
+        allUses -= uses.take(record.document);
     lookAtUses(record);
 }
 
@@ -183,11 +202,13 @@ void Verifier::lookAtUses(const Record &record)
         if (!isStored.has(hash))
             flaw(eventName(record.number) + u": its contents "_s + QString::fromUtf8(hash)
                  + u" are missing"_s);
-        if (isUsed.has(hash, record.number))
-            ++uses;
-        else
+        if (isUsed.has(hash, record.number)) {
+            ++uses[record.document];
+            ++allUses;
+        } else {
             flaw(eventName(record.number) + u": its contents "_s + QString::fromUtf8(hash)
                  + u" are not held for it"_s);
+        }
     }
 }
 
@@ -214,7 +235,7 @@ void Verifier::lookAtDocuments()
     }
     if (known != rows.size())
         flaw(u"documents: "_s + QString::number(rows.size() - known) + u" are missing"_s);
-    if (count("SELECT count(*) FROM uses") != uses)
+    if (count("SELECT count(*) FROM uses") != allUses)
         flaw(u"contents: some are held for events that do not have them"_s);
     Statement unused(database, "SELECT hash FROM contents"
                                " WHERE hash NOT IN (SELECT hash FROM uses)");
@@ -228,7 +249,16 @@ void Verifier::lookAtDocuments()
 Head Journal::verify(const std::optional<Head> &kept,
                      const std::function<void(const QString &)> &found, const Progress &progress)
 {
-    return Verifier(*database, kept, found, progress).run();
+    bool isWhole = true;
+    Statement known(*database, "SELECT 1 FROM sqlite_schema WHERE name = ?");
+    for (const QByteArray name : needed) {
+        if (known.has(name))
+            continue;
+        isWhole = false;
+        found(u"the table or index "_s + QString::fromUtf8(name)
+              + u": is missing; nothing else was looked at"_s);
+    }
+    return isWhole ? Verifier(*database, kept, found, progress).run() : Head();
 }
 
 } // namespace korvel::delivery

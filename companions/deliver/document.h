@@ -36,6 +36,9 @@ public:
     /// Does all that the task asks for, and says in one line what came of it.
     Status deliver();
 
+    /// What the journal calls it; empty for a dry run without an id.
+    [[nodiscard]] const QString &name() const { return id; }
+
 private:
     Status run();
     std::optional<Status> readSettings(QByteArray &settings, const QByteArray &job);

@@ -6,6 +6,12 @@
 
 #include <QCoreApplication>
 
+#include <exception>
+#include <new>
+#include <string_view>
+
+#include <unistd.h>
+
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
 namespace delivery = korvel::delivery;
@@ -55,7 +61,7 @@ std::optional<std::chrono::seconds> secondsOf(const QCommandLineParser &parser,
 /// Why an id cannot be one; empty when it can.
 QString faultOf(const QString &id)
 {
-    if (id.isEmpty() || id.size() > longestId || id.trimmed() != id || inOneLine(id) != id)
+    if (id.isEmpty() || id.toUcs4().size() > longestId || id.trimmed() != id || inOneLine(id) != id)
         return u"--id takes from 1 to "_s + QString::number(longestId)
                + u" characters that print, without blanks around them"_s;
     return {};
@@ -106,6 +112,43 @@ std::optional<deliver::Task> taskOf(const QCommandLineParser &parser)
                          files};
 }
 
+/// Says without any memory that there is none.
+int withoutMemory(std::string_view line, deliver::Status status)
+{
+    static_cast<void>(!::write(STDERR_FILENO, line.data(), line.size()));
+    return status;
+}
+
+/// Says how far a document came for which memory ran out: the journal knows, or nobody.
+int reportWithoutMemory(const deliver::Task &task, const deliver::Document &document,
+                        const QString &file, Journal *journal)
+{
+    try {
+        const auto known = journal ? journal->find(document.name()) : std::nullopt;
+        const bool inDoubt = known
+                             && (known->state == delivery::State::Sending
+                                 || known->state == delivery::State::InDoubt);
+        return deliver::report(
+            {file, known ? document.name() : task.id, task.device.text, task.journal},
+            {inDoubt ? delivery::End::InDoubt : delivery::End::NotSent, u"not enough memory"_s});
+    } catch (const std::exception &) {
+        return withoutMemory(
+            "korvel-deliver: in doubt: not enough memory, nor to say more; look at "
+            "the paper, then see korvel-journal\n",
+            deliver::Doubtful);
+    }
+}
+
+int deliverFile(const deliver::Task &task, Journal *journal, const QString &file)
+{
+    deliver::Document document(task, journal, file);
+    try {
+        return document.deliver();
+    } catch (const std::bad_alloc &) {
+        return reportWithoutMemory(task, document, file, journal);
+    }
+}
+
 int run(const QStringList &arguments)
 {
     QCommandLineParser parser;
@@ -131,7 +174,7 @@ int run(const QStringList &arguments)
         return deliver::NotPossible;
     }
     for (const QString &file : task->files) {
-        const auto status = deliver::Document(*task, journal ? &*journal : nullptr, file).deliver();
+        const int status = deliverFile(*task, journal ? &*journal : nullptr, file);
         if (status != deliver::Delivered)
             return status;
     }
@@ -143,6 +186,11 @@ int run(const QStringList &arguments)
 int main(int argc, char *argv[])
 {
     prepareCompanion();
-    const QCoreApplication application(argc, argv);
-    return run(argumentsOf(argc, argv));
+    try {
+        const QCoreApplication application(argc, argv);
+        return run(argumentsOf(argc, argv));
+    } catch (const std::bad_alloc &) { // not of a delivery, see deliverFile()
+        return withoutMemory("korvel-deliver: not sent: not enough memory; call again\n",
+                             deliver::Undelivered);
+    }
 }

@@ -18,8 +18,6 @@ namespace korvel::deliver {
 
 namespace {
 
-using End = Prepared::End;
-
 constexpr qsizetype mostRemarks = 1000;
 
 void remark(Prepared &prepared, const QString &line)
@@ -45,7 +43,7 @@ public:
         if (level != shared::Level::Error)
             return;
         ++errors;
-        prepared.end = End::Refused;
+        prepared.end = Prepared::End::Refused;
         if (errors == 1)
             first = line;
         prepared.reason = first;
@@ -77,7 +75,8 @@ void render(Prepared &prepared)
     contents.rendered = rendered.stream;
     if (rendered.end == shared::Rendered::End::Complete)
         return;
-    prepared.end = rendered.end == shared::Rendered::End::Refused ? End::Refused : End::Failed;
+    prepared.end = rendered.end == shared::Rendered::End::Refused ? Prepared::End::Refused
+                                                                  : Prepared::End::Failed;
     prepared.reason = rendered.reason();
 }
 
@@ -105,7 +104,7 @@ void judgeStream(Prepared &prepared, const QString &name)
     for (const preview::Finding &finding : findings)
         judge.take(lineOf(name, isJob, finding), infoOf(finding.code).level);
     if (isJob && isCutOff(findings)) {
-        prepared.end = End::Failed;
+        prepared.end = Prepared::End::Failed;
         prepared.reason = u"the renderer did not come to the end of the document: look whether "
                           "the folder for temporary files is full"_s;
     }
@@ -140,16 +139,16 @@ Prepared prepared(delivery::Contents contents, const recode::CodePage &charset, 
     Prepared result;
     result.contents = std::move(contents);
     if (result.contents.job.isEmpty() && result.contents.rendered.isEmpty()) {
-        result.end = End::Refused;
+        result.end = Prepared::End::Refused;
         result.reason = u"it is empty: neither a job nor a stream"_s;
         return result;
     }
     if (!result.contents.job.isEmpty()) {
         check(result, charset, name, settingsName);
-        if (result.end == End::Ready)
+        if (result.end == Prepared::End::Ready)
             render(result);
     }
-    if (result.end != End::Ready)
+    if (result.end != Prepared::End::Ready)
         return result;
     judgeStream(result, name);
 

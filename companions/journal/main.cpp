@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 
-#include <csignal>
 #include <iterator>
 
 using namespace korvel::shared;
@@ -108,7 +107,7 @@ QString readOptions(const QCommandLineParser &parser, Call &call)
 {
     call.journal =
         parser.isSet(journalOption) ? parser.value(journalOption) : delivery::Journal::userPath();
-    if (call.journal.isEmpty())
+    if (parser.isSet(journalOption) && call.journal.isEmpty())
         return u"--journal takes the name of a file"_s;
     call.json = parser.isSet(jsonOption);
     if (parser.isSet(stateOption)) {
@@ -122,7 +121,9 @@ QString readOptions(const QCommandLineParser &parser, Call &call)
          {std::pair(&sinceOption, &call.since), std::pair(&beforeOption, &call.before)}) {
         const auto named = journal::timeNamed(parser.value(*option));
         if (parser.isSet(*option) && !named)
-            return u"--"_s + option->names().constFirst() + u" takes a date such as 2026-05-12"_s;
+            return u"--"_s + option->names().constFirst()
+                   + u" takes a date such as 2026-05-12, or a "
+                     "time such as 2026-05-12T18:30 that the clocks here do not skip"_s;
         *time = named.value_or(QDateTime());
     }
     call.day = journal::dayNamed(parser.value(dayOption)).value_or(QDate());
@@ -217,7 +218,6 @@ int run(const QStringList &arguments)
 int main(int argc, char *argv[])
 {
     prepareCompanion();
-    std::signal(SIGXFSZ, SIG_IGN); // a journal that may not grow is an error like others
     const QCoreApplication application(argc, argv);
     return run(argumentsOf(argc, argv));
 }

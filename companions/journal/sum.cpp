@@ -72,6 +72,17 @@ QString lineOf(const QString &name, qint64 documents, const QString &amount = {}
     return line + u'\n';
 }
 
+/// The day on which a document went out last; a person may answer for it days later.
+QDate dayOf(delivery::Journal &journal, const delivery::Document &document)
+{
+    QDate day;
+    for (const delivery::Event &event : journal.events(document.id)) {
+        if (event.name == infoOf(State::Sending).name)
+            day = event.time.toLocalTime().date();
+    }
+    return day;
+}
+
 } // namespace
 
 int sum(const Call &call)
@@ -86,7 +97,7 @@ int sum(const Call &call)
     journal.eachDocument(
         {}, call.day.isValid() ? call.day.startOfDay() : QDateTime(),
         [&](const delivery::Document &document) {
-            if (call.day.isValid() && document.changed.toLocalTime().date() != call.day)
+            if (call.day.isValid() && dayOf(journal, document) != call.day)
                 return;
             if (document.state == State::InDoubt || isAbandoned(document))
                 ++inDoubt;

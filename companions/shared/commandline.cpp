@@ -4,6 +4,8 @@
 #include "companions/shared/output.h"
 #include "config/path.h"
 
+#include <csignal>
+
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -22,6 +24,8 @@ void silence(QtMsgType /*type*/, const QMessageLogContext & /*context*/, const Q
 void prepareCompanion()
 {
     qInstallMessageHandler(silence);
+    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGCHLD, SIG_DFL); // else the system reaps children before they are asked
     // Opened the wrong way round: to read from it, or to write to it, is the error that it was.
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (fcntl(descriptor, F_GETFD) < 0)

@@ -11,7 +11,8 @@ namespace korvel::shared {
 /**
  * First thing of a companion's main: keeps what the toolkit has to say of locales and displays off
  * standard error, and closed standard streams closed, so that no file that is opened takes their
- * place.
+ * place. A file that may not grow is an error of its writer like others (SIGXFSZ), and how a child
+ * ended is known, whatever the caller ignores (SIGCHLD).
  */
 void prepareCompanion();
 

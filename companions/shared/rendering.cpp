@@ -10,6 +10,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QLoggingCategory>
 #include <QProcessEnvironment>
 #include <QStandardPaths>
 
@@ -64,6 +65,8 @@ Rendering::Rendering(QString program, QObject *parent)
     : QObject(parent)
     , renderer(std::move(program))
 {
+    // The toolkit's first warning looks for files, and so loses why there was one.
+    static_cast<void>(QLoggingCategory::defaultCategory()->isWarningEnabled());
     patience.setSingleShot(true);
     patience.setInterval(10s);
     connect(&patience, &QTimer::timeout, &process, &QProcess::kill);

@@ -36,6 +36,16 @@ private slots:
         // clang-format on
     }
 
+    /// Characters are counted, however many units they take.
+    void aLongId()
+    {
+        const DeliverDesk desk;
+        const QString longest = QString::fromUtf8("\xF0\x9F\x8D\xA8").repeated(200);
+        VERIFY_DELIVERY(desk.run({"--id", longest, "receipt.xml"}), 0, "sent");
+        VERIFY_DELIVERY(desk.run({"--id", longest + 'a', "receipt.xml"}), 2,
+                        "--id takes from 1 to 200");
+    }
+
     void wrongUsage()
     {
         QFETCH(QStringList, arguments);

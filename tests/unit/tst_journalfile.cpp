@@ -32,6 +32,17 @@ private slots:
         QCOMPARE(modeOf(folder.path() + "-journal"), 0600);
     }
 
+    void anEmptyOneIsMadeItsOwnersAlone()
+    {
+        const JournalFolder folder;
+        writeFile(folder.path(), {});
+        ::chmod(qPrintable(folder.path()), 0644);
+        Journal journal = folder.writer();
+        deliver(journal, "a", {State::Sending});
+        QCOMPARE(modeOf(folder.path()), 0600);
+        QCOMPARE(modeOf(folder.path() + "-journal"), 0600);
+    }
+
     void whatAGroupMayReadStaysSo()
     {
         const JournalFolder folder;
@@ -65,6 +76,32 @@ private slots:
         qputenv("HOME", home);
         qunsetenv("XDG_DATA_HOME");
         QCOMPARE(found, path + "/korvel-print/journal.db");
+    }
+
+    /// One below the folder that a program happens to work in would be another one each time.
+    void aHomeThatIsNoneHasNoJournal_data()
+    {
+        QTest::addColumn<QByteArray>("home");
+        QTest::newRow("relative") << QByteArray("home");
+        QTest::newRow("empty") << QByteArray("");
+        QTest::newRow("not there") << QByteArray();
+    }
+
+    void aHomeThatIsNoneHasNoJournal()
+    {
+        QFETCH(QByteArray, home);
+        const QByteArray before = qgetenv("HOME");
+        if (home.isNull())
+            qunsetenv("HOME");
+        else
+            qputenv("HOME", home);
+        const QString path = Journal::userPath();
+        qputenv("XDG_DATA_HOME", "/data/lucia");
+        const QString elsewhere = Journal::userPath();
+        qputenv("HOME", before);
+        qunsetenv("XDG_DATA_HOME");
+        QCOMPARE(path, QString());
+        QCOMPARE(elsewhere, "/data/lucia/korvel-print/journal.db");
     }
 
     void theFoldersOfTheUsersOwnAreMade()
@@ -142,12 +179,25 @@ private slots:
                  folder.path() + ": there is no journal yet");
         QVERIFY(!QFile::exists(folder.path()));
         const QString deep = folder.filePath("no/such/folder.db");
-        QCOMPARE(errorOf([&] { Journal(deep, Journal::Access::Write); }),
-                 deep + ": No such file or directory");
-        const QString self = folder.filePath("");
-        QVERIFY(!errorOf([&] { Journal(self, Journal::Access::Write); }).isEmpty());
-        QVERIFY(!errorOf([&] { Journal(self, Journal::Access::Read); }).isEmpty());
+        QCOMPARE(
+            errorOf([&] { Journal(deep, Journal::Access::Write); }),
+            deep
+                + ": it cannot be made: No such file or directory; see that its folder is there"
+                  " and may be written");
         QVERIFY(!errorOf([&] { Journal({}, Journal::Access::Read); }).isEmpty());
+        const QString link = folder.filePath("link.db");
+        QVERIFY(QFile::link(folder.filePath("gone.db"), link));
+        QCOMPARE(errorOf([&] { Journal(link, Journal::Access::Write); }),
+                 link + ": it leads to a file that is not there; name another");
+    }
+
+    void whatIsNoRegularFile()
+    {
+        const JournalFolder folder;
+        for (const QString &path : {folder.filePath(""), QString("/dev/null")})
+            for (const auto access : {Journal::Access::Write, Journal::Access::Read})
+                QCOMPARE(errorOf([&] { Journal(path, access); }),
+                         path + ": it is no regular file; name another");
     }
 
     /// An empty file is a journal of before the first schema.
@@ -204,6 +254,22 @@ private slots:
         QCOMPARE(bytesOf(folder.path()), before);
     }
 
+    /// A copy from before does not know what was sent since.
+    void aDamagedOneSaysWhatNotToDo()
+    {
+        const JournalFolder folder;
+        deliver(*std::make_unique<Journal>(folder.writer()), "a", {State::Sending});
+        QByteArray bytes = bytesOf(folder.path());
+        constexpr qsizetype page = 4096; // the first has the tables' names, and stays
+        QVERIFY(bytes.size() > 2 * page);
+        writeFile(folder.path(), bytes.first(page) + QByteArray(bytes.size() - page, '\xFF'));
+        QCOMPARE(errorOf([&] { static_cast<void>(folder.reader().head()); }),
+                 folder.path()
+                     + ": it is damaged; keep the file. A copy from before does not know the ids"
+                       " delivered since: call none of them again before somebody has looked at"
+                       " the paper");
+    }
+
     void whatMayOnlyBeReadIsRead()
     {
         const JournalFolder folder;
@@ -225,7 +291,8 @@ private slots:
         });
         folder.makeWritable();
         QCOMPARE(said, "found");
-        QCOMPARE(QString::fromUtf8(refused), folder.path() + ": it may only be read");
+        QCOMPARE(QString::fromUtf8(refused),
+                 folder.path() + ": it may only be read; run this as someone who may write it");
     }
 };
 

@@ -117,6 +117,28 @@ private slots:
                     "korvel-journal: one: its contents were forgotten");
     }
 
+    /// Another document, which is not finished, keeps the same contents.
+    void whatIsForgottenIsNotShown()
+    {
+        const JournalDesk desk;
+        {
+            Journal journal = desk.writer();
+            journal.accept("a", sampleContents("receipt"), till, {});
+            bring(journal, "a", {State::Sending, State::Sent});
+            journal.accept("b", sampleContents("receipt"), till, {});
+            journal.forget(QDateTime::currentDateTimeUtc().addDays(1));
+        }
+        for (const QString option : {"--job", "--settings", "--stream", "--sent"})
+            VERIFY_SAID(desk.run({"show", "a", option}), 1, QStringList(),
+                        "korvel-journal: a: its contents were forgotten");
+        QCOMPARE(shownLines(desk.run({"show", "a"}).standardOutput).constLast(),
+                 QString("Its contents were forgotten."));
+        VERIFY_SAID(desk.run({"replay"}), 0,
+                    "1 document rendered again: 1 the same, 0 different; 1 without a job",
+                    QStringList());
+        QCOMPARE(desk.run({"show", "b", "--job"}).status, 0);
+    }
+
     void showOfOneLeft()
     {
         QCOMPARE(shownLines(Filled().run({"show", "three"}).standardOutput).value(1),
@@ -252,6 +274,36 @@ private slots:
                     nothing
                         + QStringList({"2 documents in doubt, not counted",
                                        "6 documents forgotten, not counted"}),
+                    QStringList());
+    }
+
+    /// Sent on May 1, and what a person said of it on May 3; or sent again then.
+    void daysAreThoseOnWhichDocumentsWereSent()
+    {
+        const JournalDesk desk;
+        const auto add = [&](const QString &id, const QList<State> &states) {
+            Journal journal = desk.writer();
+            const QByteArray stream = fiscal("=R1/$2000/*1/(X)\n");
+            journal.accept(id, {{}, {}, {}, stream, stream, "utf-8"}, till, {});
+            bring(journal, id, states);
+        };
+        const QList<State> doubt = {State::Sending, State::InDoubt};
+        add("a", doubt + QList{State::Printed});                                 // 1 to 4
+        add("b", doubt + QList{State::NotPrinted, State::Sending, State::Sent}); // 5 to 10
+        add("c", doubt);                                                         // 11 to 13
+        tamper(desk.path(), "UPDATE events SET time = '2026-05-01T18:00:00.000Z';"
+                            "UPDATE events SET time = '2026-05-03T09:00:00.000Z'"
+                            " WHERE number IN (4, 8, 9, 10)");
+        const QStringList others = {"receipts               0", "other documents        0"};
+        VERIFY_SAID(desk.run({"sum", "--day", "2026-05-01"}), 0,
+                    QStringList("fiscal receipts        1           20.00") + others
+                        + QStringList("1 document in doubt, not counted"),
+                    QStringList());
+        VERIFY_SAID(desk.run({"sum", "--day", "2026-05-03"}), 0,
+                    QStringList("fiscal receipts        1           20.00") + others,
+                    QStringList());
+        VERIFY_SAID(desk.run({"sum", "--day", "2026-05-02"}), 0,
+                    QStringList("fiscal receipts        0            0.00") + others,
                     QStringList());
     }
 

@@ -63,6 +63,10 @@ private slots:
             {"event 2 to 3: are missing", "document a: is not what its events say"});
         row("the last event dropped", "DELETE FROM events WHERE number = 5",
             {"document b: is not what its events say"});
+        row("events put in in front of all",
+            "CREATE TEMPORARY TABLE copies AS SELECT * FROM events WHERE number < 3;"
+            "UPDATE copies SET number = number - 2; INSERT INTO events SELECT * FROM copies",
+            {"event -1: was put in", "event 0: was put in"});
         row("two events that changed places",
             "UPDATE events SET number = 100 WHERE number = 2;"
             "UPDATE events SET number = 2 WHERE number = 3;"
@@ -119,7 +123,9 @@ private slots:
         QTest::newRow("no event at all")
             << QByteArray("lost") << QStringList{"event 6: may not follow what its document was"};
         QTest::newRow("one that may, and is in the chain alone")
-            << QByteArray("forgotten") << QStringList{"document a: is not what its events say"};
+            << QByteArray("forgotten")
+            << QStringList{"document a: is not what its events say",
+                           "contents: some are held for events that do not have them"};
     }
 
     void whatIsAppendedByHand()
@@ -180,6 +186,53 @@ private slots:
         file.close();
         Journal journal = folder.reader();
         QCOMPARE(flawsOf(journal), QStringList("contents " + hash + ": were changed"));
+    }
+
+    /// More events than are looked at in one go, and their contents go behind the first go.
+    void whatIsForgottenMeanwhile()
+    {
+        const JournalFolder folder;
+        {
+            Journal journal = folder.writer();
+            for (int i = 0; i < 100; ++i)
+                deliver(journal, QString::number(i), {State::Sending, State::Sent});
+        }
+        Journal writer = folder.writer();
+        constexpr qint64 contents = 3 * 100 + 2; // settings and catalogue are shared
+        qint64 forgotten = 0;
+        QStringList flaws;
+        folder.reader().verify(
+            {}, [&](const QString &flaw) { flaws.append(flaw); },
+            [&](qint64 done, qint64) {
+                if (done > contents && forgotten == 0)
+                    forgotten = writer.forget(QDateTime::currentDateTimeUtc().addDays(1)).documents;
+            });
+        QCOMPARE(forgotten, 100);
+        QCOMPARE(flaws, {});
+        Journal journal = folder.reader();
+        QCOMPARE(flawsOf(journal), {});
+    }
+
+    void whatIsMissingOfTheFile_data()
+    {
+        QTest::addColumn<QByteArray>("statement");
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"contents", "events", "documents", "uses"})
+            QTest::newRow(name) << QByteArray("DROP TABLE ") + name << name;
+        for (const char *name : {"events_document", "events_time", "documents_state"})
+            QTest::newRow(name) << QByteArray("DROP INDEX ") + name << name;
+    }
+
+    void whatIsMissingOfTheFile()
+    {
+        QFETCH(QByteArray, statement);
+        QFETCH(QString, name);
+        const Filled folder;
+        tamper(folder.path(), statement);
+        Journal journal = folder.reader();
+        const QStringList flaws = flawsOf(journal);
+        QCOMPARE(flaws.value(0),
+                 "the table or index " + name + ": is missing; nothing else was looked at");
     }
 
     void progressReachesItsEnd()
