@@ -1,4 +1,4 @@
-# What cmake --install installs, in five components: print, tools, delivery, settings
+# What cmake --install installs, in six components: print, tools, delivery, queue, settings
 # and development.
 #
 #   korvel_install_program(target component)   a program and its manual page, docs/man/<target>.1.in

@@ -92,6 +92,24 @@ the printer is not sent again until a person has looked at the paper.
 korvel-journal says what became of each document, proves that nothing was
 changed since, and adds up what was registered.")
 
+korvel_package(queue printer-driver-korvel
+    SECTION text
+    DEPENDS cups "korvel-delivery (= ${KORVEL_DEBIAN_VERSION})"
+        "korvel-print (= ${KORVEL_DEBIAN_VERSION})"
+    SUGGESTS korvel-tools
+    SYNOPSIS "printer driver for CUPS: print jobs of tills on receipt printers"
+    DESCRIPTION
+"With this driver a till prints its jobs by lp to a queue of CUPS. Each job is
+checked, rendered with korvel-print, and sent to the printer at most once. A
+queue waits for a printer that is off. A job that may have been printed, and may
+not, is held until a person has looked at the paper.
+
+Each queue has settings and a code page of its own, and a journal says what
+became of each job.")
+set(CPACK_DEBIAN_QUEUE_PACKAGE_CONTROL_EXTRA
+    "${PROJECT_SOURCE_DIR}/packaging/queue/postinst"
+    "${PROJECT_SOURCE_DIR}/packaging/queue/postrm")
+
 korvel_package(settings korvel-settings
     SECTION utils
     DEPENDS "korvel-print (= ${KORVEL_DEBIAN_VERSION})"

@@ -70,13 +70,15 @@ public:
                 // Meanwhile another one may have sent it.
                 if (auto outcome = settle())
                     return *outcome;
+                if (isCalledOff())
+                    return giveUp();
                 if (!isElsewhere) {
                     if (auto outcome = send(attempt))
                         return *outcome;
                     continue;
                 }
             }
-            if (patience.hasExpired())
+            if (patience.hasExpired() || isCalledOff())
                 return giveUp();
             if (order.waiting)
                 order.waiting(reason);
@@ -153,14 +155,14 @@ private:
     /// Takes the lease of the device, and opens it; otherwise says why not.
     Attempt reach()
     {
-        const Places places = placesOf(order.device, QDeadlineTimer(order.timeout), reason);
+        const Places places = placesOf(order.device, QDeadlineTimer(order.connecting), reason);
         for (const auto &place : places) {
             auto lease = Lease::take(place->leaseName(), reason);
             if (!lease)
                 continue;
             const QByteArray name = place->leaseName();
             doubtThoseOf(name);
-            auto connection = place->connect(QDeadlineTimer(order.timeout), reason);
+            auto connection = place->connect(QDeadlineTimer(order.connecting), reason);
             if (connection && connection->isAlive(reason))
                 return {std::move(lease), name, std::move(connection)};
         }
@@ -220,6 +222,15 @@ private:
             throw JournalError(u"the journal no longer has what is to be sent as "_s + order.id
                                + u"; run \"korvel-journal verify\""_s);
         return bytes;
+    }
+
+    bool isCalledOff()
+    {
+        if (!order.isCalledOff || !order.isCalledOff())
+            return false;
+        if (reason.isEmpty())
+            reason = u"it was called off"_s;
+        return true;
     }
 
     /// The printer was not to be had in time.

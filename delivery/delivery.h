@@ -33,9 +33,11 @@ struct Order
     QString remark; // what is odd about it, in one line; for the journal
     DeviceName device;
     Contents contents;                                       // see deliver()
-    std::chrono::seconds timeout{30};                        // to connect, and for each byte
+    std::chrono::seconds timeout{30};                        // for each byte
     std::chrono::seconds wait{0};                            // for a printer that is off or busy
     std::function<void(const QString &reason)> waiting = {}; // called again and again meanwhile
+    std::function<bool()> isCalledOff = {};    // asked meanwhile, and last before a byte is sent
+    std::chrono::seconds connecting = timeout; // how long that may take
 };
 
 /// Whether a document was made of the same job, settings and code page, or of the same stream.

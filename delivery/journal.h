@@ -94,13 +94,15 @@ class Journal
 {
 public:
     enum class Access {
-        Write, // made when it is not there, for its owner alone (0600), as is an empty one
-        Read,  // nothing is changed, and nothing of the folder; rolls back what a killed writer
-               // left only where it may be written, and says so where not
+        Write,         // made when it is not there, for its owner alone (0600), as is
+                       // an empty one
+        WriteForGroup, // the same, but his group may read it (0640)
+        Read,          // nothing is changed, and nothing of the folder; rolls back what a killed
+                       // writer left only where it may be written, and says so where not
     };
 
     /// Opens the journal in a file. A newer schema than this program's is refused, an older one is
-    /// migrated in one transaction (Write) or read as it is.
+    /// migrated in one transaction or, with Read, read as it is.
     Journal(const QString &path, Access access);
     ~Journal();
     Journal(Journal &&other) noexcept;

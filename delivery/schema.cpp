@@ -134,22 +134,22 @@ void makeFolders(const QByteArray &path)
     }
 }
 
-/// Takes an empty file from all but its owner, before anything is written: what undoes a write that
-/// was cut short gets the same rights.
-void makePrivate(const QString &path)
+/// Takes an empty file from all whom its mode does not name, before anything is written: what
+/// undoes a write that was cut short gets the same rights.
+void makePrivate(const QString &path, mode_t mode)
 {
     const QByteArray bytes = korvel::path::toBytes(path);
     struct stat status = {};
     if (::stat(bytes.constData(), &status) != 0)
         throw JournalError(path + u": it leads to a file that is not there; name another"_s);
-    if (status.st_size == 0 && (status.st_mode & 07777U) != 0600
-        && ::chmod(bytes.constData(), 0600) != 0)
+    if (status.st_size == 0 && (status.st_mode & 07777U) != mode
+        && ::chmod(bytes.constData(), mode) != 0)
         throw JournalError(path + u": it is empty, and cannot be made its owner's alone: "_s
                            + qt_error_string() + u"; remove it, or name another"_s);
 }
 
-/// Makes an empty file for its owner alone, unless there is one.
-void makeFile(const QString &path)
+/// Makes an empty file of a mode, unless there is one.
+void makeFile(const QString &path, mode_t mode)
 {
     const QByteArray bytes = korvel::path::toBytes(path);
     if (path == Journal::userPath())
@@ -157,10 +157,11 @@ void makeFile(const QString &path)
     const int descriptor = ::open(bytes.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (descriptor < 0) {
         if (errno == EEXIST)
-            return makePrivate(path);
+            return makePrivate(path, mode);
         throw JournalError(path + u": it cannot be made: "_s + qt_error_string()
                            + u"; see that its folder is there and may be written"_s);
     }
+    ::fchmod(descriptor, mode);
     ::close(descriptor);
     syncFolderOf(bytes);
 }
@@ -179,7 +180,7 @@ QString Journal::userPath()
 
 std::unique_ptr<sqlite::Database> openJournal(const QString &path, Journal::Access access)
 {
-    const bool write = access == Journal::Access::Write;
+    const bool write = access != Journal::Access::Read;
     if (path.isEmpty())
         throw JournalError(
             u"there is no place for the user's journal, as HOME names no folder from "
@@ -187,7 +188,7 @@ std::unique_ptr<sqlite::Database> openJournal(const QString &path, Journal::Acce
     if (korvel::path::kindOf(path) == korvel::path::Kind::Other)
         throw JournalError(path + u": it is no regular file; name another"_s);
     if (write)
-        makeFile(path);
+        makeFile(path, access == Journal::Access::WriteForGroup ? 0640 : 0600);
     else if (korvel::path::kindOf(path) == korvel::path::Kind::Nothing)
         throw JournalError(path + u": there is no journal yet"_s);
     auto database = std::make_unique<sqlite::Database>(path);

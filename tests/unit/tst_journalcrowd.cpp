@@ -61,6 +61,35 @@ private slots:
         QCOMPARE(journal.head().number, processes * rounds * 3 + rounds * 2);
     }
 
+    /// Whoever opens a journal finds none, or a whole one.
+    void manyMakeTheSameJournal()
+    {
+        for (int round = 0; round < 40; ++round) {
+            const JournalFolder folder;
+            int gate[2] = {-1, -1};
+            QCOMPARE(::pipe(gate), 0);
+            QList<pid_t> children;
+            for (int process = 0; process < 6; ++process) {
+                const pid_t child = ::fork();
+                if (child == 0) {
+                    char open = 0;
+                    ::close(gate[1]);
+                    static_cast<void>(!::read(gate[0], &open, 1)); // until all are there
+                    ::_exit(errorOf([&] { const Journal made = folder.writer(); }).isEmpty() ? 0
+                                                                                             : 1);
+                }
+                children.append(child);
+            }
+            ::close(gate[0]);
+            ::close(gate[1]);
+            for (const pid_t child : children) {
+                int status = 0;
+                ::waitpid(child, &status, 0);
+                QVERIFY(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+            }
+        }
+    }
+
     void readersDoNotWait()
     {
         const JournalFolder folder;
