@@ -42,6 +42,12 @@ QString toResolve(const Request &request, const QString &id)
            + u"not-printed\", and \"lp -i "_s + request.name() + u" -H resume\""_s;
 }
 
+/// The document of a copy, counted from 1.
+QString idOfCopy(const Request &request, int copy)
+{
+    return copy == 1 ? request.id : request.id + u'/' + QString::number(copy);
+}
+
 /// Whether the job is being taken away: then its filters ended before they were done.
 bool isEndComing()
 {
@@ -124,7 +130,7 @@ private:
         if (!misuse.isEmpty())
             return refused(contents, misuse);
         for (int copy = 1; copy <= request.copies; ++copy) {
-            const QString id = copy == 1 ? request.id : request.id + u'/' + QString::number(copy);
+            const QString id = idOfCopy(request, copy);
             if (const QString other = begunElsewhere(id, contents); !other.isEmpty())
                 return held(u"not sent: it was begun for "_s + other
                             + u", and a fiscal document goes to no other printer of a class; "
@@ -216,6 +222,35 @@ private:
     Journal journal;
 };
 
+/// Refuses a job in a code page that is none, when its filters have ended: what they say would
+/// stand in the place of the reason.
+int withoutCodePage(const Request &request)
+{
+    Journal journal(journalPath(), Journal::Access::WriteForGroup);
+    const QString reason = recode::noCodePage(request.charset);
+    QString error;
+    shared::readUpTo(request.files.value(0, u"-"_s), deliver::largestDocument, error);
+    refuse(journal, request, {}, reason);
+    tell(Level::Error, refusal(reason));
+    return CUPS_BACKEND_CANCEL;
+}
+
+/// The id of the copy that may have reached the printer; empty where the journal says that none
+/// may.
+QString doubtfulCopy(const Request &request)
+{
+    Journal journal(journalPath(), Journal::Access::Read);
+    for (int copy = 1; copy <= request.copies; ++copy) {
+        const QString id = idOfCopy(request, copy);
+        const auto document = journal.find(id);
+        if (document
+            && (document->state == delivery::State::Sending
+                || document->state == delivery::State::InDoubt))
+            return id;
+    }
+    return {};
+}
+
 } // namespace
 
 int deliverJob(const Request &request)
@@ -227,11 +262,9 @@ int deliverJob(const Request &request)
         return CUPS_BACKEND_STOP;
     }
     const auto charset = recode::CodePage::named(request.charset.toUtf8());
-    if (!charset) {
-        tell(Level::Error, refusal(recode::noCodePage(request.charset)));
-        return CUPS_BACKEND_CANCEL;
-    }
     try {
+        if (!charset)
+            return withoutCodePage(request);
         return Delivery(request, *device, *charset).run();
     } catch (const JournalError &missing) {
         tell(Level::Error, u"nothing was printed: "_s + missing.text());
@@ -241,8 +274,17 @@ int deliverJob(const Request &request)
 
 int deliveryLost(const Request &request)
 {
-    tell(Level::Error,
-         u"in doubt: the delivery was ended from outside; "_s + toResolve(request, request.id));
+    QString id = request.id;
+    try {
+        id = doubtfulCopy(request);
+    } catch (const JournalError &) { // what cannot be looked up is in doubt
+    }
+    const QString ended = u"the delivery was ended from outside; "_s;
+    if (id.isEmpty())
+        tell(Level::Error,
+             u"not sent: "_s + ended + u"run \"lp -i "_s + request.name() + u" -H resume\""_s);
+    else
+        tell(Level::Error, u"in doubt: "_s + ended + toResolve(request, id));
     return CUPS_BACKEND_HOLD;
 }
 

@@ -23,6 +23,7 @@ using korvel::delivery::JournalError;
 namespace {
 
 constexpr std::chrono::seconds pause(2); // until what the renderer lacks may be there
+constexpr std::chrono::milliseconds untilBackendListens(500);
 
 enum Status { Written = 0, Failed = 1 };
 
@@ -146,15 +147,23 @@ private:
     bool isUnrecorded = false; // as the journal cannot be had
 };
 
+/// Fails when the backend has come so far that it says the same: CUPS would else only say that a
+/// filter failed.
+Status failedAtOnce(const QString &text)
+{
+    std::this_thread::sleep_for(untilBackendListens);
+    return failed(text);
+}
+
 int run(const QStringList &arguments)
 {
     QString error;
     const auto request = requestOf(arguments, error);
     if (!request)
-        return failed(error);
+        return failedAtOnce(error);
     const auto charset = recode::CodePage::named(request->charset.toUtf8());
     if (!charset)
-        return failed(refusal(recode::noCodePage(request->charset)));
+        return failedAtOnce(refusal(recode::noCodePage(request->charset)));
     return Filter(*request, *charset).run();
 }
 

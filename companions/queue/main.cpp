@@ -5,7 +5,6 @@
 #include "config/path.h"
 
 #include <QCoreApplication>
-#include <QUuid>
 
 #include <cups/backend.h>
 
@@ -43,10 +42,18 @@ bool becomeOwnerOfJournal()
            && ::setuid(status.st_uid) == 0;
 }
 
+/// Waits until the filters have ended: what they say would stand in the place of the reason.
+void ignoreStream()
+{
+    char bytes[4096];
+    while (::read(STDIN_FILENO, &bytes[0], sizeof bytes) > 0) { }
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    const pid_t caller = ::getppid();
     korvel::shared::prepareCompanion();
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN); // a journal that may not grow is an error like others
@@ -56,19 +63,19 @@ int main(int argc, char *argv[])
         return listDevices();
     }
     QString error;
-    auto request = requestOf(korvel::shared::argumentsOf(argc, argv), error);
+    const auto request = requestOf(korvel::shared::argumentsOf(argc, argv), error);
     if (!request) {
+        ignoreStream();
         tell(Level::Error, error);
         return CUPS_BACKEND_CANCEL;
     }
-    if (request->id.isEmpty()) // whoever calls it so wants a document of its own
-        request->id = QUuid::createUuid().toString(QUuid::WithoutBraces);
     if (!becomeOwnerOfJournal()) {
         tell(Level::Error,
              u"nothing was printed: the backend cannot become the owner of "_s + journalPath());
         return CUPS_BACKEND_STOP;
     }
     return supervised(
+        caller,
         [&] {
             const QCoreApplication application(none, argv);
             return deliverJob(*request);

@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstdlib>
 
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -30,6 +31,15 @@ void handOn(int signal)
     errno = error;
 }
 
+/// From now on the end of the process that started this one is told as a SIGTERM is: whoever would
+/// take the job away no longer can.
+void endWithParent(pid_t parent)
+{
+    ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+    if (::getppid() != parent)
+        ::raise(SIGTERM);
+}
+
 } // namespace
 
 bool isToldToEnd() { return toldToEnd != 0; }
@@ -39,7 +49,7 @@ void noteEnd()
     handle(SIGTERM, [](int) { toldToEnd = 1; });
 }
 
-int supervised(const std::function<int()> &work, const std::function<int()> &lost)
+int supervised(pid_t caller, const std::function<int()> &work, const std::function<int()> &lost)
 {
     // Until each process has its own answer to it, the signal waits.
     sigset_t end;
@@ -57,6 +67,7 @@ int supervised(const std::function<int()> &work, const std::function<int()> &los
         return lost();
     child = worker;
     handle(SIGTERM, handOn);
+    endWithParent(caller);
     ::sigprocmask(SIG_UNBLOCK, &end, nullptr);
     int status = 0;
     while (::waitpid(worker, &status, 0) < 0 && errno == EINTR) { }

@@ -60,6 +60,15 @@ private slots:
     {
         const QString job = lp({"-o", "charset=cp999999", sample("receipt.xml")});
         VERIFY_JOB(*desk, job, IPP_JSTATE_CANCELED, "cp999999");
+        QCOMPARE(desk->stateOf(job), QByteArray("refused"));
+        QCOMPARE(printer->documents(), QList<QByteArray>());
+    }
+
+    /// Without an id nothing keeps a job from being sent again.
+    void aJobWithoutAnIdIsRefused()
+    {
+        const QString job = lp({"-o", "job-uuid=", sample("receipt.xml")});
+        VERIFY_JOB(*desk, job, IPP_JSTATE_CANCELED, "has no job-uuid");
         QCOMPARE(printer->documents(), QList<QByteArray>());
     }
 

@@ -49,7 +49,7 @@ private slots:
         const QString job = lp({sample("fiscal-receipt.xml")});
         QVERIFY(shows("waiting: "));
         ::kill(backends().constLast(), SIGKILL);
-        VERIFY_JOB(*desk, job, IPP_JSTATE_HELD, "in doubt: the delivery was ended from outside");
+        VERIFY_JOB(*desk, job, IPP_JSTATE_HELD, "not sent: the delivery was ended from outside");
         printer->on();
         QCOMPARE(desk->run("lp", {"-i", job, "-H", "resume"}).status, 0);
         VERIFY_JOB(*desk, job, IPP_JSTATE_COMPLETED, "");
@@ -109,6 +109,25 @@ private slots:
         QCOMPARE(printer->documents(1).constLast(), receipt());
         QCOMPARE(copiesOf(bytesOf(desk->path("long.out"))), 0);
         QCOMPARE(desk->stateOf(job), QByteArray("in-doubt"));
+    }
+
+    /// What waited for the printer is left to the next server, where it can be taken away.
+    void aServerThatIsKilledTakesItsWaitingJobAlong()
+    {
+        printer->off();
+        const QString job = lp({sample("receipt.xml")});
+        QVERIFY(shows("waiting: "));
+        desk->stop(SIGKILL);
+        QVERIFY(areGone());
+        desk->start();
+        QCOMPARE(desk->stateOf(job), QByteArray("not-sent"));
+        QCOMPARE(desk->run("cancel", {job}).status, 0);
+        QVERIFY(areGone());
+        printer->on();
+        VERIFY_JOB(*desk, lp({sample("kitchen-order.xml")}), IPP_JSTATE_COMPLETED, "");
+        QCOMPARE(printer->documents(1),
+                 QList<QByteArray>({bytesOf(expected("kitchen-order.out"))}));
+        QCOMPARE(desk->stateOf(job), QByteArray("not-sent"));
     }
 
     void aFilterThatIsKilledPrintsNothing()
