@@ -4,6 +4,7 @@
 #include "companions/check/vocabulary.h"
 #include "companions/paper/paper.h"
 #include "companions/preview/findings.h"
+#include "companions/settings/expertpane.h"
 #include "companions/settings/hints.h"
 #include "companions/settings/paperview.h"
 #include "printer/company/commands.h"
@@ -15,7 +16,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
@@ -23,7 +23,6 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QTreeWidget>
-#include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
 #include <chrono>
@@ -62,13 +61,16 @@ SettingsWindow::SettingsWindow(const QString &file, const QString &renderer)
     pause.setInterval(50ms);
     connect(&pause, &QTimer::timeout, this, &SettingsWindow::refresh);
     connect(&rendering, &shared::Rendering::ended, this, &SettingsWindow::showRendered);
+    connect(&state, &State::changed, this, &SettingsWindow::edited);
+    connect(&state.history(), &QUndoStack::cleanChanged, this,
+            [this](bool clean) { setWindowModified(!clean); });
 }
 
 SettingsWindow::~SettingsWindow()
 {
-    // An editor that is still open would hand over its value.
-    if (view)
-        view->disconnect(this);
+    state.disconnect(this);
+    state.history().disconnect(this);
+    delete takeCentralWidget(); // before the state that it shows
 }
 
 void SettingsWindow::begin()
@@ -80,16 +82,7 @@ void SettingsWindow::begin()
 
 void SettingsWindow::buildPanes()
 {
-    auto *left = new QWidget;
-    treePane = new QVBoxLayout(left);
-    meaning = new QLabel;
-    meaning->setObjectName(u"meaning"_s);
-    meaning->setWordWrap(true);
-    meaning->setTextFormat(Qt::RichText);
-    meaning->setMinimumHeight(5 * meaning->fontMetrics().lineSpacing());
-    meaning->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    treePane->addWidget(meaning);
-
+    expert = new ExpertPane(state);
     auto *right = new QWidget;
     auto *paperPane = new QVBoxLayout(right);
     auto *label = new QLabel(tr("&Document:"));
@@ -119,7 +112,7 @@ void SettingsWindow::buildPanes()
     paperPane->addWidget(findings);
 
     panes = new QSplitter;
-    panes->addWidget(left);
+    panes->addWidget(expert);
     panes->addWidget(right);
     panes->setStretchFactor(0, 2);
     panes->setStretchFactor(1, 3);
@@ -147,6 +140,13 @@ void SettingsWindow::buildMenus()
     add(tr("&Revert"), QKeySequence::Refresh, &SettingsWindow::revert);
     file->addSeparator();
     add(tr("&Quit"), Qt::CTRL | Qt::Key_Q, [this] { close(); });
+
+    QMenu *edit = menuBar()->addMenu(tr("&Edit"));
+    QAction *undo = state.history().createUndoAction(this, tr("&Undo"));
+    undo->setShortcut(QKeySequence::Undo);
+    QAction *redo = state.history().createRedoAction(this, tr("&Redo"));
+    redo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
+    edit->addActions({undo, redo});
 }
 
 void SettingsWindow::open()
@@ -166,17 +166,10 @@ void SettingsWindow::load()
 {
     if (const QString error = document->readError(); !error.isEmpty())
         tell(error);
-    delete view;
-    view = document->read().release();
-    view->setObjectName(u"settings"_s);
-    view->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
-                          | QAbstractItemView::AnyKeyPressed);
-    view->expandToDepth(1);
+    state.begin(document->read(), document->path());
+    expert->showView();
     openGroup();
-    treePane->insertWidget(0, view, 1);
-    connect(view, &QTreeWidget::itemChanged, this, &SettingsWindow::edited);
-    connect(view, &QTreeWidget::currentItemChanged, this, &SettingsWindow::showMeaning);
-    view->setFocus();
+    state.view()->setFocus();
     setWindowModified(false);
     updateTitle();
     refresh();
@@ -184,19 +177,19 @@ void SettingsWindow::load()
 
 bool SettingsWindow::save()
 {
-    closeEditor();
+    expert->closeEditor();
     if (document->hasChanged()
         && !ask(tr("The file was changed by another program since it was opened."), {},
                 tr("Save all the same")))
         return false;
-    const QStringList losses = document->losses(*view);
+    const QStringList losses = document->losses(*state.view());
     if (!losses.isEmpty() && !ask(tr("Not everything can be saved."), losses, tr("Save the rest")))
         return false;
-    if (const QString error = document->save(*view); !error.isEmpty()) {
+    if (const QString error = document->save(*state.view()); !error.isEmpty()) {
         tell(error);
         return false;
     }
-    setWindowModified(false);
+    state.markSaved();
     updateTitle();
     if (!losses.isEmpty())
         load(); // so that the tree shows what was kept
@@ -209,23 +202,10 @@ void SettingsWindow::revert()
         load();
 }
 
-/// Takes over what stands in an open editor.
-void SettingsWindow::closeEditor()
-{
-    if (!view)
-        return;
-    for (QLineEdit *editor : view->viewport()->findChildren<QLineEdit *>()) {
-        QMetaObject::invokeMethod(view, "commitData", Q_ARG(QWidget *, editor));
-        QMetaObject::invokeMethod(
-            view, "closeEditor", Q_ARG(QWidget *, editor),
-            Q_ARG(QAbstractItemDelegate::EndEditHint, QAbstractItemDelegate::NoHint));
-    }
-}
-
 /// Whether unsaved edits may go: there are none, they were saved, or the user gave them up.
 bool SettingsWindow::mayDiscardEdits()
 {
-    closeEditor();
+    expert->closeEditor();
     if (!isWindowModified())
         return true;
     QMessageBox box(QMessageBox::Question, tr("Settings"),
@@ -277,12 +257,7 @@ void SettingsWindow::offerSample()
         tell(tr("%1 cannot be written: %2").arg(document->path(), file.errorString()));
 }
 
-void SettingsWindow::edited()
-{
-    setWindowModified(true);
-    updateTitle();
-    pause.start();
-}
+void SettingsWindow::edited() { pause.start(); }
 
 /// The method whose sample stands in a row of the chooser; null for the row of job files.
 const vocabulary::Method *SettingsWindow::methodAt(int row) const
@@ -296,21 +271,15 @@ void SettingsWindow::openGroup()
     const vocabulary::Method *method = methodAt(lastJob);
     if (!method)
         return; // the user's own job
-    for (QTreeWidgetItemIterator row(view); *row; ++row) {
-        if ((*row)->text(0) == method->group && (*row)->childCount() > 0) {
-            view->expandRecursively(view->indexFromItem(*row));
-            view->scrollToItem(*row, QAbstractItemView::PositionAtTop);
-            return;
-        }
-    }
+    expert->openGroup(method->group);
 }
 
 /// Brings the marks and the paper in line with the tree.
 void SettingsWindow::refresh()
 {
-    const QByteArray settings = SettingsDocument::writtenBy(*view);
-    hints::mark(*view, settings);
-    showMeaning();
+    const QByteArray settings = SettingsDocument::writtenBy(*state.view());
+    hints::mark(*state.view(), settings);
+    expert->showCurrent();
     rendering.render(job, settings);
 }
 
@@ -366,13 +335,11 @@ void SettingsWindow::showRendered(const shared::Rendered &rendered)
     findings->setText(lines.join(u'\n'));
 }
 
-void SettingsWindow::showMeaning() { meaning->setText(hints::meaningOf(view->currentItem())); }
-
 void SettingsWindow::updateTitle()
 {
     setWindowTitle(tr("%1[*] – Korvel settings").arg(QFileInfo(document->path()).fileName()));
     setWindowFilePath(document->path());
-    saveAction->setEnabled(view != nullptr);
+    saveAction->setEnabled(state.view() != nullptr);
 }
 
 void SettingsWindow::restoreSize()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "companions/settings/document.h"
+#include "companions/settings/state.h"
 #include "companions/shared/rendering.h"
 
 #include <QMainWindow>
@@ -13,8 +14,6 @@ class QAction;
 class QComboBox;
 class QLabel;
 class QSplitter;
-class QTreeWidget;
-class QVBoxLayout;
 
 namespace korvel::vocabulary {
 struct Method;
@@ -22,13 +21,14 @@ struct Method;
 
 namespace korvel::settings {
 
+class ExpertPane;
 class PaperView;
 
 /**
  * Edits one settings file, and shows what the renderer makes of it before anything is saved.
  *
- * The tree is the view that the settings store gives, values edited in place. Each edit starts the
- * renderer on the chosen job, and the paper follows.
+ * The tree is the view that the settings store gives, values edited in place. Each edit can be
+ * undone, and starts the renderer on the chosen job, and the paper follows.
  */
 class SettingsWindow : public QMainWindow
 {
@@ -58,7 +58,6 @@ private:
     void load();
     bool save();
     void revert();
-    void closeEditor();
     bool mayDiscardEdits();
     void tell(const QString &text);
     bool ask(const QString &question, const QStringList &details, const QString &goOn);
@@ -70,10 +69,10 @@ private:
     void chooseJob(int index);
     void chooseJobFile();
     void showRendered(const shared::Rendered &rendered);
-    void showMeaning();
     void updateTitle();
     void restoreSize();
 
+    State state; // outlives the panes
     std::unique_ptr<SettingsDocument> document;
     shared::Rendering rendering;
     QTimer pause; // gathers the edits of a moment into one run
@@ -81,9 +80,7 @@ private:
     QByteArray shown; // the stream of the paper
 
     QSplitter *panes = nullptr;
-    QVBoxLayout *treePane = nullptr;
-    QTreeWidget *view = nullptr; // owned by the tree pane
-    QLabel *meaning = nullptr;
+    ExpertPane *expert = nullptr;
     QComboBox *jobs = nullptr;
     PaperView *paper = nullptr;
     QLabel *findings = nullptr;

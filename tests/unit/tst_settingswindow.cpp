@@ -69,9 +69,9 @@ private slots:
         QVERIFY(downTo("paperWidth"));
         Editor::press(Qt::Key_Right);
         QVERIFY(downTo("32"));
-        QTest::keyClick(QApplication::focusWidget(), '4'); // typing is editing
+        Editor::press(Qt::Key_F2);
         QVERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
-        QTest::keyClick(QApplication::focusWidget(), '0');
+        Editor::type("40");
         Editor::press(Qt::Key_Return);
         QTRY_COMPARE_WITH_TIMEOUT(editor.stream(), receiptOf40(), longEnough);
         QCOMPARE(QApplication::focusWidget(), editor.tree());

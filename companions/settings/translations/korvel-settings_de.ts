@@ -57,6 +57,187 @@
     </message>
 </context>
 <context>
+    <name>fields</name>
+    <message>
+        <source>paper width</source>
+        <translation>Papierbreite</translation>
+    </message>
+    <message>
+        <source>quantity column</source>
+        <translation>Mengenspalte</translation>
+    </message>
+    <message>
+        <source>price column</source>
+        <translation>Preisspalte</translation>
+    </message>
+    <message>
+        <source>amount column</source>
+        <translation>Betragsspalte</translation>
+    </message>
+    <message>
+        <source>length of names</source>
+        <translation>Länge der Namen</translation>
+    </message>
+    <message>
+        <source>top margin</source>
+        <translation>oberer Rand</translation>
+    </message>
+    <message>
+        <source>lines of the top margin</source>
+        <translation>Zeilen des oberen Rands</translation>
+    </message>
+    <message>
+        <source>header lines</source>
+        <translation>Kopfzeilen</translation>
+    </message>
+    <message>
+        <source>company</source>
+        <translation>Firma</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>Tisch</translation>
+    </message>
+    <message>
+        <source>waiter</source>
+        <translation>Bedienung</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>credit</source>
+        <translation>Guthaben</translation>
+    </message>
+    <message>
+        <source>customer</source>
+        <translation>Kunde</translation>
+    </message>
+    <message>
+        <source>delivery address</source>
+        <translation>Lieferadresse</translation>
+    </message>
+    <message>
+        <source>billing address</source>
+        <translation>Rechnungsadresse</translation>
+    </message>
+    <message>
+        <source>telephone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>license number</source>
+        <translation>Lizenznummer</translation>
+    </message>
+    <message>
+        <source>fiscal code</source>
+        <translation>Steuernummer</translation>
+    </message>
+    <message>
+        <source>catalogue</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>folder of the catalogues</source>
+        <translation>Ordner der Kataloge</translation>
+    </message>
+    <message>
+        <source>rows of a page</source>
+        <translation>Zeilen einer Seite</translation>
+    </message>
+    <message>
+        <source>style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>logo</source>
+        <translation>Firmenlogo</translation>
+    </message>
+    <message>
+        <source>cash drawer</source>
+        <translation>Kassenschublade</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Top of the paper</source>
+        <translation>Oben auf dem Papier</translation>
+    </message>
+    <message>
+        <source>Order information</source>
+        <translation>Angaben zur Bestellung</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Kunde</translation>
+    </message>
+    <message>
+        <source>Language of the labels</source>
+        <translation>Sprache der Beschriftungen</translation>
+    </message>
+    <message>
+        <source>Read, without effect on the paper</source>
+        <translation>Gelesen, ohne Wirkung auf das Papier</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::AddDialog</name>
+    <message>
+        <source>Add a group</source>
+        <translation>Gruppe hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add a setting</source>
+        <translation>Einstellung hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Group:</source>
+        <translation>&amp;Gruppe:</translation>
+    </message>
+    <message>
+        <source>&amp;Setting:</source>
+        <translation>&amp;Einstellung:</translation>
+    </message>
+    <message>
+        <source>&amp;Value:</source>
+        <translation>&amp;Wert:</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::ExpertPane</name>
+    <message>
+        <source>Add a se&amp;tting …</source>
+        <translation>&amp;Einstellung hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add a &amp;group …</source>
+        <translation>&amp;Gruppe hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>E&amp;ntfernen</translation>
+    </message>
+    <message>
+        <source>Rows of the settings file</source>
+        <translation>Zeilen der Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>ConfigurationFile</source>
+        <translation>Einstellungsdatei</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperView</name>
     <message>
         <source>The renderer %1 cannot be started.</source>
@@ -221,6 +402,45 @@ Mit den Beispieleinstellungen beginnen?</translation>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>Der Ordner %1 lässt sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::State</name>
+    <message>
+        <source>%1 on</source>
+        <translation>%1 an</translation>
+    </message>
+    <message>
+        <source>%1 off</source>
+        <translation>%1 aus</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>group %1</source>
+        <translation>Gruppe %1</translation>
+    </message>
+    <message>
+        <source>%1 not set</source>
+        <translation>%1 nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>removal of %1</source>
+        <translation>Entfernen von %1</translation>
     </message>
 </context>
 <context>

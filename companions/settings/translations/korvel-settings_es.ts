@@ -57,6 +57,187 @@
     </message>
 </context>
 <context>
+    <name>fields</name>
+    <message>
+        <source>paper width</source>
+        <translation>ancho del papel</translation>
+    </message>
+    <message>
+        <source>quantity column</source>
+        <translation>columna de cantidad</translation>
+    </message>
+    <message>
+        <source>price column</source>
+        <translation>columna de precio</translation>
+    </message>
+    <message>
+        <source>amount column</source>
+        <translation>columna de importe</translation>
+    </message>
+    <message>
+        <source>length of names</source>
+        <translation>longitud de los nombres</translation>
+    </message>
+    <message>
+        <source>top margin</source>
+        <translation>margen superior</translation>
+    </message>
+    <message>
+        <source>lines of the top margin</source>
+        <translation>líneas del margen superior</translation>
+    </message>
+    <message>
+        <source>header lines</source>
+        <translation>líneas de cabecera</translation>
+    </message>
+    <message>
+        <source>company</source>
+        <translation>empresa</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>fecha</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>hora</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>mesa</translation>
+    </message>
+    <message>
+        <source>waiter</source>
+        <translation>camarero</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>nota</translation>
+    </message>
+    <message>
+        <source>credit</source>
+        <translation>crédito</translation>
+    </message>
+    <message>
+        <source>customer</source>
+        <translation>cliente</translation>
+    </message>
+    <message>
+        <source>delivery address</source>
+        <translation>dirección de entrega</translation>
+    </message>
+    <message>
+        <source>billing address</source>
+        <translation>dirección de facturación</translation>
+    </message>
+    <message>
+        <source>telephone</source>
+        <translation>teléfono</translation>
+    </message>
+    <message>
+        <source>license number</source>
+        <translation>número de licencia</translation>
+    </message>
+    <message>
+        <source>fiscal code</source>
+        <translation>código fiscal</translation>
+    </message>
+    <message>
+        <source>catalogue</source>
+        <translation>catálogo</translation>
+    </message>
+    <message>
+        <source>folder of the catalogues</source>
+        <translation>carpeta de los catálogos</translation>
+    </message>
+    <message>
+        <source>rows of a page</source>
+        <translation>filas de una página</translation>
+    </message>
+    <message>
+        <source>style</source>
+        <translation>estilo</translation>
+    </message>
+    <message>
+        <source>logo</source>
+        <translation>logotipo</translation>
+    </message>
+    <message>
+        <source>cash drawer</source>
+        <translation>cajón portamonedas</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columnas</translation>
+    </message>
+    <message>
+        <source>Top of the paper</source>
+        <translation>Parte superior del papel</translation>
+    </message>
+    <message>
+        <source>Order information</source>
+        <translation>Información del pedido</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Cliente</translation>
+    </message>
+    <message>
+        <source>Language of the labels</source>
+        <translation>Idioma de las etiquetas</translation>
+    </message>
+    <message>
+        <source>Read, without effect on the paper</source>
+        <translation>Se leen, sin efecto en el papel</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::AddDialog</name>
+    <message>
+        <source>Add a group</source>
+        <translation>Añadir un grupo</translation>
+    </message>
+    <message>
+        <source>Add a setting</source>
+        <translation>Añadir un ajuste</translation>
+    </message>
+    <message>
+        <source>&amp;Group:</source>
+        <translation>&amp;Grupo:</translation>
+    </message>
+    <message>
+        <source>&amp;Setting:</source>
+        <translation>&amp;Ajuste:</translation>
+    </message>
+    <message>
+        <source>&amp;Value:</source>
+        <translation>&amp;Valor:</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::ExpertPane</name>
+    <message>
+        <source>Add a se&amp;tting …</source>
+        <translation>Añadir un a&amp;juste …</translation>
+    </message>
+    <message>
+        <source>Add a &amp;group …</source>
+        <translation>Añadir un &amp;grupo …</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>Rows of the settings file</source>
+        <translation>Filas del archivo de ajustes</translation>
+    </message>
+    <message>
+        <source>ConfigurationFile</source>
+        <translation>Archivo de configuración</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperView</name>
     <message>
         <source>The renderer %1 cannot be started.</source>
@@ -221,6 +402,45 @@ Begin with the sample settings?</source>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>No se puede crear la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::State</name>
+    <message>
+        <source>%1 on</source>
+        <translation>%1 activado</translation>
+    </message>
+    <message>
+        <source>%1 off</source>
+        <translation>%1 desactivado</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vacío</translation>
+    </message>
+    <message>
+        <source>group %1</source>
+        <translation>grupo %1</translation>
+    </message>
+    <message>
+        <source>%1 not set</source>
+        <translation>%1 sin definir</translation>
+    </message>
+    <message>
+        <source>removal of %1</source>
+        <translation>eliminación de %1</translation>
     </message>
 </context>
 <context>

@@ -57,6 +57,187 @@
     </message>
 </context>
 <context>
+    <name>fields</name>
+    <message>
+        <source>paper width</source>
+        <translation>largeur du papier</translation>
+    </message>
+    <message>
+        <source>quantity column</source>
+        <translation>colonne des quantités</translation>
+    </message>
+    <message>
+        <source>price column</source>
+        <translation>colonne des prix</translation>
+    </message>
+    <message>
+        <source>amount column</source>
+        <translation>colonne des montants</translation>
+    </message>
+    <message>
+        <source>length of names</source>
+        <translation>longueur des noms</translation>
+    </message>
+    <message>
+        <source>top margin</source>
+        <translation>marge du haut</translation>
+    </message>
+    <message>
+        <source>lines of the top margin</source>
+        <translation>lignes de la marge du haut</translation>
+    </message>
+    <message>
+        <source>header lines</source>
+        <translation>lignes d&apos;en-tête</translation>
+    </message>
+    <message>
+        <source>company</source>
+        <translation>société</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>date de la commande</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>heure</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>numéro de table</translation>
+    </message>
+    <message>
+        <source>waiter</source>
+        <translation>serveur</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>remarque</translation>
+    </message>
+    <message>
+        <source>credit</source>
+        <translation>crédit</translation>
+    </message>
+    <message>
+        <source>customer</source>
+        <translation>client</translation>
+    </message>
+    <message>
+        <source>delivery address</source>
+        <translation>adresse de livraison</translation>
+    </message>
+    <message>
+        <source>billing address</source>
+        <translation>adresse de facturation</translation>
+    </message>
+    <message>
+        <source>telephone</source>
+        <translation>téléphone</translation>
+    </message>
+    <message>
+        <source>license number</source>
+        <translation>numéro de licence</translation>
+    </message>
+    <message>
+        <source>fiscal code</source>
+        <translation>code fiscal</translation>
+    </message>
+    <message>
+        <source>catalogue</source>
+        <translation>fichier de traduction</translation>
+    </message>
+    <message>
+        <source>folder of the catalogues</source>
+        <translation>dossier des catalogues</translation>
+    </message>
+    <message>
+        <source>rows of a page</source>
+        <translation>lignes d&apos;une page</translation>
+    </message>
+    <message>
+        <source>style</source>
+        <translation>style d&apos;écriture</translation>
+    </message>
+    <message>
+        <source>logo</source>
+        <translation>logotype</translation>
+    </message>
+    <message>
+        <source>cash drawer</source>
+        <translation>tiroir-caisse</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
+        <source>Top of the paper</source>
+        <translation>Haut du papier</translation>
+    </message>
+    <message>
+        <source>Order information</source>
+        <translation>Informations de commande</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Client</translation>
+    </message>
+    <message>
+        <source>Language of the labels</source>
+        <translation>Langue des libellés</translation>
+    </message>
+    <message>
+        <source>Read, without effect on the paper</source>
+        <translation>Lus, sans effet sur le papier</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::AddDialog</name>
+    <message>
+        <source>Add a group</source>
+        <translation>Ajouter un groupe</translation>
+    </message>
+    <message>
+        <source>Add a setting</source>
+        <translation>Ajouter un réglage</translation>
+    </message>
+    <message>
+        <source>&amp;Group:</source>
+        <translation>&amp;Groupe :</translation>
+    </message>
+    <message>
+        <source>&amp;Setting:</source>
+        <translation>&amp;Réglage :</translation>
+    </message>
+    <message>
+        <source>&amp;Value:</source>
+        <translation>&amp;Valeur :</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::ExpertPane</name>
+    <message>
+        <source>Add a se&amp;tting …</source>
+        <translation>Ajouter un &amp;réglage …</translation>
+    </message>
+    <message>
+        <source>Add a &amp;group …</source>
+        <translation>Ajouter un &amp;groupe …</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Rows of the settings file</source>
+        <translation>Lignes du fichier de réglages</translation>
+    </message>
+    <message>
+        <source>ConfigurationFile</source>
+        <translation>Fichier de configuration</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperView</name>
     <message>
         <source>The renderer %1 cannot be started.</source>
@@ -221,6 +402,45 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>Impossible de créer le dossier %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::State</name>
+    <message>
+        <source>%1 on</source>
+        <translation>%1 activé</translation>
+    </message>
+    <message>
+        <source>%1 off</source>
+        <translation>%1 désactivé</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vide</translation>
+    </message>
+    <message>
+        <source>group %1</source>
+        <translation>groupe %1</translation>
+    </message>
+    <message>
+        <source>%1 not set</source>
+        <translation>%1 non défini</translation>
+    </message>
+    <message>
+        <source>removal of %1</source>
+        <translation>suppression de %1</translation>
     </message>
 </context>
 <context>

@@ -57,6 +57,187 @@
     </message>
 </context>
 <context>
+    <name>fields</name>
+    <message>
+        <source>paper width</source>
+        <translation>larghezza della carta</translation>
+    </message>
+    <message>
+        <source>quantity column</source>
+        <translation>colonna delle quantità</translation>
+    </message>
+    <message>
+        <source>price column</source>
+        <translation>colonna dei prezzi</translation>
+    </message>
+    <message>
+        <source>amount column</source>
+        <translation>colonna degli importi</translation>
+    </message>
+    <message>
+        <source>length of names</source>
+        <translation>lunghezza dei nomi</translation>
+    </message>
+    <message>
+        <source>top margin</source>
+        <translation>margine superiore</translation>
+    </message>
+    <message>
+        <source>lines of the top margin</source>
+        <translation>righe del margine superiore</translation>
+    </message>
+    <message>
+        <source>header lines</source>
+        <translation>righe d&apos;intestazione</translation>
+    </message>
+    <message>
+        <source>company</source>
+        <translation>azienda</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>data</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>ora</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>tavolo</translation>
+    </message>
+    <message>
+        <source>waiter</source>
+        <translation>cameriere</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>nota dell&apos;ordine</translation>
+    </message>
+    <message>
+        <source>credit</source>
+        <translation>credito</translation>
+    </message>
+    <message>
+        <source>customer</source>
+        <translation>cliente</translation>
+    </message>
+    <message>
+        <source>delivery address</source>
+        <translation>indirizzo di consegna</translation>
+    </message>
+    <message>
+        <source>billing address</source>
+        <translation>indirizzo di fatturazione</translation>
+    </message>
+    <message>
+        <source>telephone</source>
+        <translation>telefono</translation>
+    </message>
+    <message>
+        <source>license number</source>
+        <translation>numero di licenza</translation>
+    </message>
+    <message>
+        <source>fiscal code</source>
+        <translation>codice fiscale</translation>
+    </message>
+    <message>
+        <source>catalogue</source>
+        <translation>catalogo</translation>
+    </message>
+    <message>
+        <source>folder of the catalogues</source>
+        <translation>cartella dei cataloghi</translation>
+    </message>
+    <message>
+        <source>rows of a page</source>
+        <translation>righe di una pagina</translation>
+    </message>
+    <message>
+        <source>style</source>
+        <translation>stile</translation>
+    </message>
+    <message>
+        <source>logo</source>
+        <translation>logo dell&apos;azienda</translation>
+    </message>
+    <message>
+        <source>cash drawer</source>
+        <translation>cassetto</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonne</translation>
+    </message>
+    <message>
+        <source>Top of the paper</source>
+        <translation>Parte alta della carta</translation>
+    </message>
+    <message>
+        <source>Order information</source>
+        <translation>Informazioni sull&apos;ordine</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Cliente</translation>
+    </message>
+    <message>
+        <source>Language of the labels</source>
+        <translation>Lingua delle etichette</translation>
+    </message>
+    <message>
+        <source>Read, without effect on the paper</source>
+        <translation>Lette, senza effetto sulla carta</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::AddDialog</name>
+    <message>
+        <source>Add a group</source>
+        <translation>Aggiungere un gruppo</translation>
+    </message>
+    <message>
+        <source>Add a setting</source>
+        <translation>Aggiungere un&apos;impostazione</translation>
+    </message>
+    <message>
+        <source>&amp;Group:</source>
+        <translation>&amp;Gruppo:</translation>
+    </message>
+    <message>
+        <source>&amp;Setting:</source>
+        <translation>&amp;Impostazione:</translation>
+    </message>
+    <message>
+        <source>&amp;Value:</source>
+        <translation>&amp;Valore:</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::ExpertPane</name>
+    <message>
+        <source>Add a se&amp;tting …</source>
+        <translation>Aggiungere un&apos;&amp;impostazione …</translation>
+    </message>
+    <message>
+        <source>Add a &amp;group …</source>
+        <translation>Aggiungere un &amp;gruppo …</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Rimuovere</translation>
+    </message>
+    <message>
+        <source>Rows of the settings file</source>
+        <translation>Righe del file delle impostazioni</translation>
+    </message>
+    <message>
+        <source>ConfigurationFile</source>
+        <translation>File di configurazione</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperView</name>
     <message>
         <source>The renderer %1 cannot be started.</source>
@@ -221,6 +402,45 @@ Iniziare con le impostazioni di esempio?</translation>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>Impossibile creare la cartella %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annullare</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ripetere</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::State</name>
+    <message>
+        <source>%1 on</source>
+        <translation>%1 attivo</translation>
+    </message>
+    <message>
+        <source>%1 off</source>
+        <translation>%1 disattivo</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vuoto</translation>
+    </message>
+    <message>
+        <source>group %1</source>
+        <translation>gruppo %1</translation>
+    </message>
+    <message>
+        <source>%1 not set</source>
+        <translation>%1 non impostato</translation>
+    </message>
+    <message>
+        <source>removal of %1</source>
+        <translation>rimozione di %1</translation>
     </message>
 </context>
 <context>
