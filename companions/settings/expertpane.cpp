@@ -126,7 +126,11 @@ void ExpertPane::showView()
     view->installEventFilter(this);
     view->expandToDepth(1);
     layout->insertWidget(0, view, 1);
-    connect(view, &QTreeWidget::currentItemChanged, this, &ExpertPane::showCurrent);
+    connect(view, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem *row) {
+        showCurrent();
+        if (row)
+            emit entered(State::pathOf(row));
+    });
     connect(view, &QTreeWidget::itemDoubleClicked, this, &ExpertPane::edit);
     showCurrent();
 }

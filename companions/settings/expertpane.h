@@ -41,6 +41,10 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+signals:
+    /// The row of a setting has become the current one.
+    void entered(const QStringList &path);
+
 private:
     void edit(QTreeWidgetItem *row);
     void addSetting();

@@ -110,7 +110,7 @@ State::State(QObject *parent)
     QFile file(u":/examples/korvel.conf"_s);
     Config sample;
     if (file.open(QIODevice::ReadOnly))
-        sample.readBytes(file.readAll(), {}, u"cfg"_s);
+        sample.readBytes(file.readAll(), file.fileName(), u"cfg"_s);
     inSample = valuesOf(*std::unique_ptr<QTreeWidget>(sample.newConfigListView()));
 }
 

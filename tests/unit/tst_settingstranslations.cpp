@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTabWidget>
 #include <QTranslator>
 #include <QXmlStreamReader>
 
@@ -307,6 +308,9 @@ private slots:
         }
         for (const QPushButton *button : window.findChildren<QPushButton *>())
             inWindow.append(button->text());
+        const auto *tabs = window.findChild<QTabWidget *>("tabs");
+        QVERIFY(tabs);
+        inWindow.append({tabs->tabText(0), tabs->tabText(1)});
         verifyMnemonics(inWindow);
     }
 
