@@ -101,7 +101,9 @@ double PaperView::zoomForWidth(int width) const
 double PaperView::leftOf(int column) const
 {
     const preview::Look look = preview::Look::plain();
-    return border + factor * (look.margin + column * look.cell.width());
+    // What is wider than the paper goes on behind its edge.
+    const int beyond = column > vocabulary::lineWidth ? look.margin + look.cell.width() : 0;
+    return border + factor * (look.margin + beyond + column * look.cell.width());
 }
 
 QRectF PaperView::rectOf(int row, const Span &columns) const

@@ -13,7 +13,8 @@ namespace korvel::settings {
 
 namespace {
 
-constexpr int reach = 6; // pixels beside an edge at which the mouse takes it
+constexpr int mostColumns = 256; // that a drag reaches
+constexpr int reach = 6;         // pixels beside an edge at which the mouse takes it
 
 } // namespace
 
@@ -75,10 +76,13 @@ int Ruler::edgeAt(double x) const
     return found;
 }
 
+/// The column whose beginning is nearest.
 int Ruler::columnAt(double x) const
 {
-    const double cell = place(1) - place(0);
-    return cell > 0 ? qRound((x - place(0)) / cell) : 0;
+    int column = 0;
+    while (column < mostColumns && (place(column) + place(column + 1)) / 2 < x)
+        ++column;
+    return column;
 }
 
 void Ruler::mousePressEvent(QMouseEvent *event)

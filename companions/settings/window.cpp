@@ -110,6 +110,10 @@ void SettingsWindow::buildPanes(const QString &renderer)
     documents->addItem(tr("Language"));
     documents->addItem(tr("Read by nothing"));
     documents->item(unreadRow())->setHidden(true);
+    const int mark = documents->fontMetrics().height();
+    documents->setIconSize({mark, mark});
+    documents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    documents->setMinimumWidth(std::min(documents->sizeHintForColumn(0) + 2 * mark, 12 * mark));
 
     form = new FormPane(state, catalogueFolders(renderer));
     form->setObjectName(u"form"_s);
