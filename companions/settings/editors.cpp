@@ -68,6 +68,11 @@ void NumberBox::show(const std::optional<QString> &text)
     setValue(fits ? number : none());
 }
 
+bool NumberBox::isBeingTyped() const
+{
+    return text() != (value() == none() ? specialValueText() : textFromValue(value()));
+}
+
 void NumberBox::stepBy(int steps)
 {
     if (value() == none() && steps > 0)

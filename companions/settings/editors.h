@@ -26,6 +26,9 @@ public:
 
     void show(const std::optional<QString> &text);
 
+    /// Whether something is typed that is not chosen yet.
+    [[nodiscard]] bool isBeingTyped() const;
+
     void stepBy(int steps) override;
 
 signals:

@@ -26,13 +26,13 @@ Place placeOf(const QTreeWidget &view, const QTreeWidgetItem *row)
     return place;
 }
 
-ValueEdit::ValueEdit(QTreeWidget &settings, const QTreeWidgetItem &row, const QString &value,
+ValueEdit::ValueEdit(QTreeWidget &settings, const QTreeWidgetItem &row, QString value,
                      const QString &text)
     : QUndoCommand(text)
     , view(settings)
     , place(placeOf(settings, &row))
     , before(row.text(0))
-    , after(value)
+    , after(std::move(value))
 {
 }
 

@@ -22,7 +22,7 @@ class ValueEdit : public QUndoCommand
 {
 public:
     /// @param text of the command, as "Undo" goes on
-    ValueEdit(QTreeWidget &settings, const QTreeWidgetItem &row, const QString &value,
+    ValueEdit(QTreeWidget &settings, const QTreeWidgetItem &row, QString value,
               const QString &text);
 
     /// The steps of one move count as one. @param move 0 for a change that stands alone

@@ -9,6 +9,7 @@
 
 #include <QEvent>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -196,11 +197,30 @@ void FieldRow::fillMenu()
         state.sampleValue(settingPath), &FieldRow::restoreSample);
 }
 
+/// Whether the field holds what the state does not have yet.
+bool FieldRow::isBeingTyped() const
+{
+    if (const auto *number = qobject_cast<const NumberBox *>(editor))
+        return number->isBeingTyped();
+    const auto *line = qobject_cast<const QLineEdit *>(editor);
+    return line && line->text() != state.value(settingPath).value_or(QString());
+}
+
+/// What is typed is undone by the field, what was chosen by the window.
 bool FieldRow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == editor && event->type() == QEvent::FocusIn)
+    if (watched != editor)
+        return false;
+    if (event->type() == QEvent::FocusIn)
         emit entered();
-    return false;
+    if (event->type() != QEvent::ShortcutOverride || isBeingTyped())
+        return false;
+    const auto *key = static_cast<const QKeyEvent *>(event);
+    const bool undoes = (key->modifiers() & Qt::ControlModifier) != 0
+                        && (key->key() == Qt::Key_Z || key->key() == Qt::Key_Y);
+    if (undoes)
+        event->ignore();
+    return undoes;
 }
 
 } // namespace korvel::settings

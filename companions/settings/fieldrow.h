@@ -50,11 +50,12 @@ signals:
 
 private:
     QWidget *makeEditor(const QStringList &catalogues);
-    QWidget *makeNumber(QLatin1StringView key);
+    QWidget *makeNumber(QLatin1StringView name);
     QWidget *makeText();
     QWidget *makeCatalogues(const QStringList &catalogues);
     void lay(const QString &title);
     void fillMenu();
+    [[nodiscard]] bool isBeingTyped() const;
 
     State &state;
     const QStringList settingPath;

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -132,13 +133,12 @@ void FormPane::refresh(const QList<hints::Hint> &found)
 
 bool FormPane::choose(const QStringList &path)
 {
-    for (FieldRow *row : rows) {
-        if (row->path() == path) {
-            row->field()->setFocus(Qt::OtherFocusReason);
-            return true;
-        }
-    }
-    return false;
+    const auto row = std::find_if(rows.cbegin(), rows.cend(),
+                                  [&](const FieldRow *each) { return each->path() == path; });
+    if (row == rows.cend())
+        return false;
+    (*row)->field()->setFocus(Qt::OtherFocusReason);
+    return true;
 }
 
 } // namespace korvel::settings

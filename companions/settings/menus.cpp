@@ -66,7 +66,7 @@ void SettingsWindow::buildEditMenu()
                 (row->*change)();
         });
     };
-    add(tr("Field: &not set"), Qt::CTRL | Qt::Key_Delete, &FieldRow::unset);
+    add(tr("Field: &not set"), Qt::CTRL | Qt::Key_N, &FieldRow::unset);
     add(tr("Field: as in the &file"), Qt::CTRL | Qt::Key_L, &FieldRow::restoreFile);
     add(tr("Field: as in the &sample"), Qt::CTRL | Qt::Key_M, &FieldRow::restoreSample);
 }

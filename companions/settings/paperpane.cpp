@@ -281,7 +281,7 @@ void PaperPane::chooseRow(int row, int column)
 }
 
 /// Goes to the setting that made a line: of several columns, to the one that was clicked.
-void PaperPane::showMakers(int row, QList<QStringList> makers)
+void PaperPane::showMakers(int row, const QList<QStringList> &makers)
 {
     if (makers.isEmpty()) {
         paper->light({row});

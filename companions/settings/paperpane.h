@@ -91,7 +91,7 @@ private:
     void addFinding(const QString &text, const QStringList &setting, int row = -1);
     void chooseFinding(const QListWidgetItem *item);
     void chooseRow(int row, int column);
-    void showMakers(int row, QList<QStringList> makers);
+    void showMakers(int row, const QList<QStringList> &makers);
     void updateScale();
 
     State &state;

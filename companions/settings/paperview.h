@@ -36,7 +36,7 @@ public:
     void showFailure(const shared::Rendered &rendered);
 
     /// Lights rows, or some columns of them.
-    void light(const QList<int> &litRows, const std::optional<Span> &columns = {});
+    void light(const QList<int> &newRows, const std::optional<Span> &columns = {});
 
     /// The rows that are lit.
     [[nodiscard]] const QList<int> &lit() const { return litRows; }

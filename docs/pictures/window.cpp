@@ -34,6 +34,7 @@ int main(int argc, char *argv[])
 
     SettingsWindow window(QFile::decodeName(argv[1]), korvel::shared::Rendering::findRenderer());
     window.show();
+    window.resize(1100, 720); // more than the screen that is none has
     window.activateWindow();
     window.begin();
     auto *field = window.findChild<QWidget *>(u"receiptdoc.paperWidth"_s);
