@@ -122,6 +122,8 @@ void ExpertPane::showView()
     view->setHeaderLabels({tr("ConfigurationFile")});
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     view->setExpandsOnDoubleClick(false);
+    const int mark = view->fontMetrics().height();
+    view->setIconSize({mark, mark});
     view->setItemDelegate(new ValueDelegate(state));
     view->installEventFilter(this);
     view->expandToDepth(1);
