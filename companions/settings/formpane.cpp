@@ -112,6 +112,11 @@ void FormPane::addField(QVBoxLayout &layout, QLatin1StringView inGroup, QLatin1S
     });
 }
 
+QWidget *FormPane::lastField() const
+{
+    return rows.isEmpty() ? nullptr : rows.constLast()->field();
+}
+
 void FormPane::refresh(const QList<hints::Hint> &found)
 {
     QStringList ofGroup;

@@ -30,6 +30,9 @@ public:
     /// Shows the settings of a document; of the language for none.
     void showDocument(const vocabulary::Method *method);
 
+    /// The last field of the form; null for a form without any.
+    [[nodiscard]] QWidget *lastField() const;
+
     /// Brings the fields in line with the state.
     void refresh(const QList<hints::Hint> &found);
 

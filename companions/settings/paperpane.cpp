@@ -303,6 +303,15 @@ void PaperPane::showMakers(int row, const QList<QStringList> &makers)
     emit settingChosen(best);
 }
 
+void PaperPane::followInTabOrder(QWidget *widget)
+{
+    if (!widget)
+        return;
+    setTabOrder(widget, jobs);
+    setTabOrder(jobs, paper);
+    setTabOrder(paper, findings);
+}
+
 void PaperPane::zoomBy(double factor)
 {
     fitting = false;

@@ -50,6 +50,9 @@ public:
     /// Lights what a setting makes on the paper; nothing for an empty path.
     void lightSetting(const QStringList &setting);
 
+    /// Puts the pane behind a widget in the order of the Tab key.
+    void followInTabOrder(QWidget *widget);
+
     // Zoom.
     void zoomBy(double factor);
     void zoomToActualSize();

@@ -170,6 +170,7 @@ void SettingsWindow::chooseDocument(int row)
     pages->setCurrentWidget(row == unreadRow() ? static_cast<QWidget *>(unread) : form);
     if (row != unreadRow()) {
         form->showDocument(method);
+        paper->followInTabOrder(form->lastField());
         form->refresh(found);
     }
     if (method) {

@@ -6,6 +6,7 @@
 #include "support/settingstext.h"
 #include "support/test.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QPushButton>
 
@@ -211,6 +212,44 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(isMarked("Receipt"), longEnough);
         QVERIFY(isMarked("Summary receipt"));
         QVERIFY(!isMarked("Invoice"));
+    }
+
+    // As a screen reader asks for it: whatever takes the focus has a name, and a sensible place in
+    // the order of the Tab key.
+    void allThatTakesTheFocusHasAName()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        editor.showForm();
+        TRY_STREAM(editor, example("expected/receipt.out"));
+        editor.activate();
+        editor.documents()->setFocus();
+        QStringList names;
+        for (int i = 0; i < 60; ++i) {
+            QWidget *focus = QApplication::focusWidget();
+            QAccessibleInterface *face = QAccessible::queryAccessibleInterface(focus);
+            QVERIFY(face);
+            const QString name = face->text(QAccessible::Name);
+            QVERIFY2(!name.isEmpty(), focus->metaObject()->className());
+            if (name == names.value(0))
+                break;
+            names.append(name);
+            Editor::press(Qt::Key_Tab);
+        }
+        const QStringList expected = {
+            "Documents",    "Settings",      "Paper width", "Quantity column",
+            "Price column", "Amount column", "Top margin",  "Lines of the top margin",
+            "Header lines", "Company",       "Date",        "Time",
+            "Table",        "Credit",        "Waiter",      "Note"};
+        QCOMPARE(names.first(3), expected.first(3));
+        for (const QString &name : expected)
+            QVERIFY2(names.contains(name), qPrintable(name));
+        QVERIFY(names.indexOf("Company") < names.indexOf("Date"));
+        QVERIFY2(names.indexOf("Cash drawer") < names.indexOf("Sample of the shop"),
+                 qPrintable(names.join(", ")));
+        // And all over again.
+        QVERIFY2(names.size() < 40, qPrintable(names.join(", ")));
+        QVERIFY(names.indexOf("Sample of the shop") < names.indexOf("Paper"));
     }
 
     void labelsInGerman()
