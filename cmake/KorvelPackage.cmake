@@ -116,8 +116,8 @@ korvel_package(settings korvel-settings
     RECOMMENDS fonts-dejavu-core libqt6svg6 qt6-translations-l10n
     SYNOPSIS "settings editor for korvel-print"
     DESCRIPTION
-"korvel-settings shows the settings file of korvel-print as a tree, and beside
-it a sample document as the printer would put it on paper: column widths,
+"korvel-settings shows the settings of korvel-print in a form, and beside it a
+sample document as the printer would put it on paper: column widths,
 headers and labels can be tried before they are saved.")
 
 korvel_package(development korvel-print-dev

@@ -121,9 +121,16 @@ SettingsDocument::SettingsDocument(const QString &file)
 
 bool SettingsDocument::exists() const { return QFileInfo::exists(filePath); }
 
+void SettingsDocument::moveTo(const QString &file)
+{
+    filePath = korvel::path::forToolkit(file);
+    lastSeen = bytesOnDisk();
+    existed = exists();
+}
+
 std::unique_ptr<QTreeWidget> SettingsDocument::read()
 {
-    lastSeen = bytesOnDisk();
+    source = lastSeen = bytesOnDisk();
     existed = exists();
     notation = lastSeen.trimmed().startsWith('<') ? u"xml"_s : u"cfg"_s;
     if (!existed)
@@ -157,13 +164,13 @@ QStringList SettingsDocument::losses(const QTreeWidget &view) const
 
     const QList<Row> before = rowsOf(view);
     RowsReadBack after(rowsOf(*readBack));
-    if (before.isEmpty() && !lastSeen.trimmed().isEmpty())
+    if (before.isEmpty() && !source.trimmed().isEmpty())
         lines.append(tr("Everything: nothing in the file could be read, and it would be emptied."));
 
     if (notation == "cfg"_L1) {
-        for (const QString &name : emptyGroups(lastSeen))
+        for (const QString &name : emptyGroups(source))
             lines.append(tr("The group %1 has no settings.").arg(name));
-        if (!before.isEmpty() && hasTail(lastSeen))
+        if (!before.isEmpty() && hasTail(source))
             lines.append(tr("The text at the end of the file is no setting."));
     }
 
@@ -226,7 +233,7 @@ QString SettingsDocument::save(const QTreeWidget &view)
             file.write(before);
         return tr("%1 could not be written whole; the previous file was put back.").arg(filePath);
     }
-    lastSeen = written;
+    source = lastSeen = written;
     existed = true;
     return {};
 }

@@ -27,6 +27,9 @@ public:
     [[nodiscard]] QString path() const { return filePath; }
     [[nodiscard]] bool exists() const;
 
+    /// Makes another file the one that is saved to, in the place of what it holds.
+    void moveTo(const QString &file);
+
     /// Reads the file into a new view, and notes what it holds. A missing file gives an empty view.
     std::unique_ptr<QTreeWidget> read();
 
@@ -57,6 +60,7 @@ private:
     QString filePath;
     QString notation;    // of the store: "cfg", or "xml" for a file that begins with '<'
     QByteArray lastSeen; // the file when it was read or saved last
+    QByteArray source;   // what the view was read from, or saved as
     bool existed = false;
 };
 

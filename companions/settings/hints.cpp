@@ -104,7 +104,19 @@ QString readBy(vocabulary::Documents documents)
 
 } // namespace
 
-void mark(QTreeWidget &view, const QByteArray &settings)
+QList<Hint> find(const QByteArray &settings)
+{
+    QList<Hint> found;
+    const check::SettingsFile file(settings);
+    for (const check::Finding &finding : checkSettings(file)) {
+        const bool isUnread =
+            finding.code == check::Code::UnreadKey || finding.code == check::Code::LostGroup;
+        found.append({finding.setting, finding.occurrence, warningOf(finding), isUnread});
+    }
+    return found;
+}
+
+void mark(QTreeWidget &view, const QList<Hint> &found)
 {
     const QSignalBlocker quiet(view); // a mark is no edit
     for (QTreeWidgetItemIterator it(&view); *it; ++it) {
@@ -116,15 +128,14 @@ void mark(QTreeWidget &view, const QByteArray &settings)
     Rows rows;
     for (int i = 0; i < view.topLevelItemCount(); ++i)
         noteRows(*view.topLevelItem(i), {}, rows);
-    const check::SettingsFile file(settings);
-    for (const check::Finding &finding : checkSettings(file)) {
-        QTreeWidgetItem *row = rows.value(finding.setting).value(finding.occurrence);
+    for (const Hint &hint : found) {
+        QTreeWidgetItem *row = rows.value(hint.setting).value(hint.occurrence);
         if (!row)
             continue;
         for (QTreeWidgetItem *item : {row, Config::isSetting(row) ? row->child(0) : row}) {
             item->setIcon(0, icon);
-            item->setToolTip(0, warningOf(finding));
-            item->setData(0, Qt::AccessibleDescriptionRole, warningOf(finding));
+            item->setToolTip(0, hint.text);
+            item->setData(0, Qt::AccessibleDescriptionRole, hint.text);
         }
     }
 }
@@ -157,9 +168,11 @@ QString meaningOf(const QTreeWidgetItem *row)
     return text;
 }
 
-QString translated(const char *meaning)
+QString translated(const char *meaning) { return translatedPlain(meaning).toHtmlEscaped(); }
+
+QString translatedPlain(const char *meaning)
 {
-    return QCoreApplication::translate("vocabulary", meaning).toHtmlEscaped().remove(u'`');
+    return QCoreApplication::translate("vocabulary", meaning).remove(u'`');
 }
 
 } // namespace korvel::settings::hints

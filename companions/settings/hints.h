@@ -1,25 +1,40 @@
 // Help in the tree: what a row means, and what the renderer will make of a value.
 #pragma once
 
+#include <QList>
 #include <QString>
+#include <QStringList>
 
 class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace korvel::settings::hints {
 
+/// What is hardly meant about a setting or a group.
+struct Hint
+{
+    QStringList setting; // groups and key, or the group alone that it is about
+    int occurrence = 0;  // which of several of that name, counted from 0
+    QString text;        // in the user's language
+    bool isUnread = false;
+};
+
+/// All hints of a settings file, in its order. @param settings what the store writes for the view
+QList<Hint> find(const QByteArray &settings);
+
 /**
  * Marks the rows of a view that are hardly meant: keys that no document reads, values that count as
  * off or as 0, columns wider than the paper. What was marked before is not, unless it still is.
- *
- * @param settings what the store writes for the view
  */
-void mark(QTreeWidget &view, const QByteArray &settings);
+void mark(QTreeWidget &view, const QList<Hint> &found);
 
 /// What a row means and which documents read it, as rich text; empty for no row.
 QString meaningOf(const QTreeWidgetItem *row);
 
 /// A meaning of the table of settings in the user's language, as rich text.
 QString translated(const char *meaning);
+
+/// The same as plain text.
+QString translatedPlain(const char *meaning);
 
 } // namespace korvel::settings::hints

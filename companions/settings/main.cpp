@@ -1,7 +1,9 @@
-// korvel-settings: the settings file in a tree, the receipt beside it.
+// korvel-settings: the settings file in a form, the receipt beside it.
 #include "companions/settings/window.h"
 #include "companions/shared/commandline.h"
 #include "companions/shared/output.h"
+#include "companions/shared/rendering.h"
+#include "companions/shared/stopsignals.h"
 #include "config/path.h"
 
 #include <QApplication>
@@ -69,8 +71,16 @@ int main(int argc, char *argv[])
             QApplication::installTranslator(&texts);
     }
 
-    SettingsWindow window(file, Rendering::findRenderer());
-    window.show();
-    window.begin();
-    return QApplication::exec();
+    // What lies in temporary folders goes with the window, on a signal too.
+    StopSignals stop;
+    QObject::connect(&stop, &StopSignals::stopped, [] { QCoreApplication::exit(); });
+    int status = 0;
+    {
+        SettingsWindow window(file, Rendering::findRenderer());
+        window.show();
+        window.begin();
+        status = QApplication::exec();
+    }
+    stop.obey();
+    return status;
 }

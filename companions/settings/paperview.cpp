@@ -1,7 +1,16 @@
 // Painting the paper or the message.
 #include "companions/settings/paperview.h"
 
+#include "companions/preview/look.h"
+#include "vocabulary/paper.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::settings {
 
@@ -11,19 +20,35 @@ constexpr int border = 16; // around the paper, in pixels
 
 } // namespace
 
-void PaperView::showPaper(const preview::Picture &paper)
+PaperView::PaperView(QWidget *parent)
+    : QWidget(parent)
 {
-    picture = paper;
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Paper"));
+}
+
+void PaperView::showPaper(const QList<preview::PaperRow> &paperRows)
+{
+    rows = paperRows;
+    picture.emplace(rows, vocabulary::lineWidth);
     note.clear();
-    resize(sizeHint());
-    updateGeometry();
-    update();
+    current = std::min(current, static_cast<int>(rows.size()) - 1);
+    showContent();
 }
 
 void PaperView::showMessage(const QString &text)
 {
+    rows.clear();
     picture.reset();
     note = text;
+    current = -1;
+    showContent();
+}
+
+void PaperView::showContent()
+{
+    litRows.clear();
+    setAccessibleDescription(text());
     resize(sizeHint());
     updateGeometry();
     update();
@@ -42,22 +67,123 @@ void PaperView::showFailure(const shared::Rendered &rendered)
         showMessage(tr("The renderer %1 ended with an error.").arg(rendered.program));
 }
 
+QString PaperView::text() const
+{
+    if (!picture)
+        return note;
+    QStringList lines;
+    for (const preview::PaperRow &row : rows)
+        lines.append(row.text);
+    return lines.join(u'\n');
+}
+
+void PaperView::light(const QList<int> &newRows, const std::optional<Span> &columns)
+{
+    litRows = newRows;
+    litColumns = columns;
+    update();
+}
+
+void PaperView::setZoom(double newFactor)
+{
+    factor = std::clamp(newFactor, 0.25, 4.0);
+    resize(sizeHint());
+    updateGeometry();
+    update();
+}
+
+double PaperView::zoomForWidth(int width) const
+{
+    const int paper = picture ? picture->size().width() : 464;
+    return static_cast<double>(width - 2 * border) / paper;
+}
+
+double PaperView::leftOf(int column) const
+{
+    const preview::Look look = preview::Look::plain();
+    // What is wider than the paper goes on behind its edge.
+    const int beyond = column > vocabulary::lineWidth ? look.margin + look.cell.width() : 0;
+    return border + factor * (look.margin + beyond + column * look.cell.width());
+}
+
+QRectF PaperView::rectOf(int row, const Span &columns) const
+{
+    const preview::Look look = preview::Look::plain();
+    const int height = look.cell.height();
+    return {leftOf(columns.from), border + factor * (look.space + row * height),
+            leftOf(columns.to) - leftOf(columns.from), factor * height};
+}
+
+QPoint PaperView::placeOf(int row, int column) const
+{
+    return rectOf(row, {column, column + 1}).center().toPoint();
+}
+
 QSize PaperView::sizeHint() const
 {
-    const QSize content = picture ? picture->size() : QSize(320, 160);
+    const QSize content = picture ? picture->size() * factor : QSize(320, 160);
     return content + QSize(2 * border, 2 * border);
 }
 
 void PaperView::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
-    if (picture) {
-        painter.translate(border, border);
-        picture->paint(painter);
+    if (!picture) {
+        painter.drawText(rect().adjusted(border, border, -border, -border),
+                         Qt::AlignCenter | Qt::TextWordWrap, note);
         return;
     }
-    painter.drawText(rect().adjusted(border, border, -border, -border),
-                     Qt::AlignCenter | Qt::TextWordWrap, note);
+    painter.save();
+    painter.translate(border, border);
+    painter.scale(factor, factor);
+    picture->paint(painter);
+    painter.restore();
+    // The paper is white, whatever the colours of the desktop are.
+    const Span span = litColumns.value_or(Span{0, vocabulary::lineWidth});
+    for (const int row : litRows)
+        painter.fillRect(rectOf(row, span), QColor(0xff, 0xc1, 0x07, 0x60));
+    if (hasFocus() && current >= 0) {
+        painter.setPen(QPen(QColor(0x15, 0x65, 0xc0), 2));
+        painter.drawRect(rectOf(current, {0, vocabulary::lineWidth}));
+    }
+}
+
+void PaperView::mousePressEvent(QMouseEvent *event)
+{
+    const preview::Look look = preview::Look::plain();
+    const double x = (event->position().x() - border) / factor - look.margin;
+    const double y = (event->position().y() - border) / factor - look.space;
+    const int row = static_cast<int>(y) / look.cell.height();
+    if (y < 0 || row >= rows.size())
+        return;
+    current = row;
+    update();
+    emit rowChosen(row, static_cast<int>(x) / look.cell.width());
+}
+
+void PaperView::keyPressEvent(QKeyEvent *event)
+{
+    const int last = static_cast<int>(rows.size()) - 1;
+    switch (event->key()) {
+    case Qt::Key_Down:
+        current = std::min(current + 1, last);
+        break;
+    case Qt::Key_Up:
+        current = std::min(std::max(current - 1, 0), last);
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (current >= 0)
+            emit rowChosen(current, 0);
+        return;
+    default:
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (current >= 0)
+        setAccessibleDescription(
+            tr("Line %1: %2").arg(current + 1).arg(rows[current].text.trimmed()) + u'\n' + text());
+    update();
 }
 
 } // namespace korvel::settings

@@ -1,30 +1,28 @@
-// The window's panes, menus and questions.
+// What the window shows, and how its parts follow one another.
 #include "companions/settings/window.h"
 
 #include "companions/check/vocabulary.h"
-#include "companions/paper/paper.h"
-#include "companions/preview/findings.h"
+#include "companions/settings/expertpane.h"
+#include "companions/settings/fields.h"
+#include "companions/settings/formpane.h"
 #include "companions/settings/hints.h"
-#include "companions/settings/paperview.h"
-#include "printer/company/commands.h"
+#include "companions/settings/paperpane.h"
+#include "companions/settings/unreadpane.h"
 
-#include <QAction>
-#include <QCloseEvent>
-#include <QComboBox>
-#include <QFile>
-#include <QFileDialog>
+#include <QApplication>
+#include <QDir>
+#include <QDragEnterEvent>
 #include <QFileInfo>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QScrollArea>
+#include <QListWidget>
+#include <QMimeData>
+#include <QScreen>
 #include <QSettings>
 #include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QStyle>
+#include <QTabWidget>
 #include <QTreeWidget>
-#include <QTreeWidgetItemIterator>
-#include <QVBoxLayout>
 
 #include <chrono>
 
@@ -35,40 +33,58 @@ namespace korvel::settings {
 
 namespace {
 
-/// A document's title as the chooser shows it.
-QString titleOf(const vocabulary::Method &method)
+constexpr int methodRole = Qt::UserRole;
+
+/// Rows of the list behind those of the documents.
+int languageRow() { return static_cast<int>(vocabulary::methods().size()); }
+int unreadRow() { return languageRow() + 1; }
+
+/// Where catalogues may be: as installed, and as built.
+QStringList catalogueFolders(const QString &renderer)
 {
-    QString title = QCoreApplication::translate("documents", method.title.data());
-    title[0] = title[0].toUpper();
-    return title;
+    QStringList folders;
+    const QDir here = QFileInfo(renderer).absoluteDir();
+    for (const QString &place : {u"../share/korvel-print/translations"_s, u"../translations"_s}) {
+        const QString folder = QDir::cleanPath(here.filePath(place));
+        if (QFileInfo(folder).isDir())
+            folders.append(folder);
+    }
+    return folders;
 }
 
-QByteArray resource(const QString &name)
+/// Whether a hint is about what a document reads.
+bool concerns(const hints::Hint &hint, const vocabulary::Method &method)
 {
-    QFile file(u":/examples/"_s + name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (hint.isUnread || hint.setting.value(1) != method.group)
+        return false;
+    const vocabulary::Setting *setting = vocabulary::findSetting(hint.setting.value(2));
+    return !setting || (setting->documents & method.document) != 0;
 }
 
 } // namespace
 
 SettingsWindow::SettingsWindow(const QString &file, const QString &renderer)
     : document(std::make_unique<SettingsDocument>(file))
-    , rendering(renderer)
 {
-    buildPanes();
+    buildPanes(renderer);
     buildMenus();
+    connectPanes();
     restoreSize();
+    setAcceptDrops(true);
+    statusBar()->setSizeGripEnabled(false);
     pause.setSingleShot(true);
     pause.setInterval(50ms);
     connect(&pause, &QTimer::timeout, this, &SettingsWindow::refresh);
-    connect(&rendering, &shared::Rendering::ended, this, &SettingsWindow::showRendered);
+    connect(&state, &State::changed, this, &SettingsWindow::edited);
+    connect(&state.history(), &QUndoStack::cleanChanged, this,
+            [this](bool clean) { setWindowModified(!clean); });
 }
 
 SettingsWindow::~SettingsWindow()
 {
-    // An editor that is still open would hand over its value.
-    if (view)
-        view->disconnect(this);
+    state.disconnect(this);
+    state.history().disconnect(this);
+    delete takeCentralWidget(); // before the state that it shows
 }
 
 void SettingsWindow::begin()
@@ -78,309 +94,183 @@ void SettingsWindow::begin()
     load();
 }
 
-void SettingsWindow::buildPanes()
+QByteArray SettingsWindow::shownStream() const { return paper->stream(); }
+
+void SettingsWindow::buildPanes(const QString &renderer)
 {
-    auto *left = new QWidget;
-    treePane = new QVBoxLayout(left);
-    meaning = new QLabel;
-    meaning->setObjectName(u"meaning"_s);
-    meaning->setWordWrap(true);
-    meaning->setTextFormat(Qt::RichText);
-    meaning->setMinimumHeight(5 * meaning->fontMetrics().lineSpacing());
-    meaning->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    treePane->addWidget(meaning);
+    documents = new QListWidget;
+    documents->setObjectName(u"documents"_s);
+    documents->setAccessibleName(tr("Documents"));
+    for (const vocabulary::Method &method : vocabulary::methods()) {
+        auto *item = new QListWidgetItem(
+            fields::capitalised(QCoreApplication::translate("documents", method.title.data())),
+            documents);
+        item->setData(methodRole, QString(method.name));
+    }
+    documents->addItem(tr("Language"));
+    documents->addItem(tr("Read by nothing"));
+    documents->item(unreadRow())->setHidden(true);
+    const int mark = documents->fontMetrics().height();
+    documents->setIconSize({mark, mark});
+    documents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    documents->setMinimumWidth(std::min(documents->sizeHintForColumn(0) + 2 * mark, 12 * mark));
 
-    auto *right = new QWidget;
-    auto *paperPane = new QVBoxLayout(right);
-    auto *label = new QLabel(tr("&Document:"));
-    jobs = new QComboBox;
-    jobs->setObjectName(u"jobs"_s);
-    for (const vocabulary::Method &method : vocabulary::methods())
-        jobs->addItem(titleOf(method), QString(method.name));
-    jobs->insertSeparator(jobs->count());
-    jobs->addItem(tr("Job file …"));
-    label->setBuddy(jobs);
-    auto *chooser = new QHBoxLayout;
-    chooser->addWidget(label);
-    chooser->addWidget(jobs, 1);
-    paperPane->addLayout(chooser);
-
-    paper = new PaperView;
-    paper->setObjectName(u"paper"_s);
-    auto *scroll = new QScrollArea;
-    scroll->setWidget(paper);
-    scroll->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    scroll->setBackgroundRole(QPalette::Mid);
-    paperPane->addWidget(scroll, 1);
-    findings = new QLabel;
-    findings->setObjectName(u"findings"_s);
-    findings->setWordWrap(true);
-    findings->setTextFormat(Qt::PlainText);
-    paperPane->addWidget(findings);
+    form = new FormPane(state, catalogueFolders(renderer));
+    form->setObjectName(u"form"_s);
+    unread = new UnreadPane(state);
+    pages = new QStackedWidget;
+    pages->addWidget(form);
+    pages->addWidget(unread);
+    expert = new ExpertPane(state);
+    tabs = new QTabWidget;
+    tabs->setObjectName(u"tabs"_s);
+    tabs->addTab(pages, tr("&Settings"));
+    tabs->addTab(expert, tr("E&xpert"));
+    paper = new PaperPane(state, renderer);
 
     panes = new QSplitter;
-    panes->addWidget(left);
-    panes->addWidget(right);
-    panes->setStretchFactor(0, 2);
-    panes->setStretchFactor(1, 3);
-    panes->setSizes({400, 600});
+    panes->addWidget(documents);
+    panes->addWidget(tabs);
+    panes->addWidget(paper);
+    panes->setStretchFactor(1, 2);
+    panes->setStretchFactor(2, 3);
     panes->setChildrenCollapsible(false);
     setCentralWidget(panes);
-
-    lastJob = jobs->findData(QString(vocabulary::method::printFullOrderReceipt));
-    jobs->setCurrentIndex(lastJob);
-    job = resource(u"jobs/"_s + methodAt(lastJob)->sample + u".xml"_s);
-    connect(jobs, &QComboBox::activated, this, &SettingsWindow::chooseJob);
 }
 
-void SettingsWindow::buildMenus()
+void SettingsWindow::connectPanes()
 {
-    QMenu *file = menuBar()->addMenu(tr("&File"));
-    const auto add = [&](const QString &text, const QKeySequence &shortcut, auto slot) {
-        QAction *action = file->addAction(text);
-        action->setShortcut(shortcut);
-        connect(action, &QAction::triggered, this, slot);
-        return action;
-    };
-    add(tr("&Open …"), QKeySequence::Open, &SettingsWindow::open);
-    saveAction = add(tr("&Save"), QKeySequence::Save, &SettingsWindow::save);
-    add(tr("&Revert"), QKeySequence::Refresh, &SettingsWindow::revert);
-    file->addSeparator();
-    add(tr("&Quit"), Qt::CTRL | Qt::Key_Q, [this] { close(); });
+    connect(documents, &QListWidget::currentRowChanged, this, &SettingsWindow::chooseDocument);
+    connect(form, &FormPane::entered, paper, &PaperPane::lightSetting);
+    connect(expert, &ExpertPane::entered, paper, &PaperPane::lightSetting);
+    connect(paper, &PaperPane::settingChosen, this, &SettingsWindow::chooseSetting);
+    connect(paper, &PaperPane::documentChosen, this, [this](const QString &name) {
+        for (int row = 0; row < languageRow(); ++row) {
+            if (documents->item(row)->data(methodRole) == name)
+                documents->setCurrentRow(row);
+        }
+    });
+    connect(paper, &PaperPane::failed, this, &SettingsWindow::tell);
+    connect(paper, &PaperPane::said, this,
+            [this](const QString &text) { statusBar()->showMessage(text, 8000); });
 }
 
-void SettingsWindow::open()
+/// The document in a row of the list; null for the other rows.
+const vocabulary::Method *SettingsWindow::methodAt(int row) const
 {
-    if (!mayDiscardEdits())
+    const QListWidgetItem *item = documents->item(row);
+    return item ? vocabulary::findMethod(item->data(methodRole).toString()) : nullptr;
+}
+
+void SettingsWindow::chooseDocument(int row)
+{
+    if (!state.view() || row < 0)
         return;
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open settings"),
-                                                      QFileInfo(document->path()).absolutePath(),
-                                                      tr("Settings (*.conf *.cfg);;All files (*)"));
-    if (path.isEmpty())
-        return;
-    document = std::make_unique<SettingsDocument>(path);
-    load();
-}
-
-void SettingsWindow::load()
-{
-    if (const QString error = document->readError(); !error.isEmpty())
-        tell(error);
-    delete view;
-    view = document->read().release();
-    view->setObjectName(u"settings"_s);
-    view->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
-                          | QAbstractItemView::AnyKeyPressed);
-    view->expandToDepth(1);
-    openGroup();
-    treePane->insertWidget(0, view, 1);
-    connect(view, &QTreeWidget::itemChanged, this, &SettingsWindow::edited);
-    connect(view, &QTreeWidget::currentItemChanged, this, &SettingsWindow::showMeaning);
-    view->setFocus();
-    setWindowModified(false);
-    updateTitle();
-    refresh();
-}
-
-bool SettingsWindow::save()
-{
-    closeEditor();
-    if (document->hasChanged()
-        && !ask(tr("The file was changed by another program since it was opened."), {},
-                tr("Save all the same")))
-        return false;
-    const QStringList losses = document->losses(*view);
-    if (!losses.isEmpty() && !ask(tr("Not everything can be saved."), losses, tr("Save the rest")))
-        return false;
-    if (const QString error = document->save(*view); !error.isEmpty()) {
-        tell(error);
-        return false;
+    const vocabulary::Method *method = methodAt(row);
+    pages->setCurrentWidget(row == unreadRow() ? static_cast<QWidget *>(unread) : form);
+    if (row != unreadRow()) {
+        form->showDocument(method);
+        paper->followInTabOrder(form->lastField());
+        form->refresh(found);
     }
-    setWindowModified(false);
-    updateTitle();
-    if (!losses.isEmpty())
-        load(); // so that the tree shows what was kept
-    return true;
-}
-
-void SettingsWindow::revert()
-{
-    if (mayDiscardEdits())
-        load();
-}
-
-/// Takes over what stands in an open editor.
-void SettingsWindow::closeEditor()
-{
-    if (!view)
-        return;
-    for (QLineEdit *editor : view->viewport()->findChildren<QLineEdit *>()) {
-        QMetaObject::invokeMethod(view, "commitData", Q_ARG(QWidget *, editor));
-        QMetaObject::invokeMethod(
-            view, "closeEditor", Q_ARG(QWidget *, editor),
-            Q_ARG(QAbstractItemDelegate::EndEditHint, QAbstractItemDelegate::NoHint));
+    if (method) {
+        expert->openGroup(method->group);
+        paper->showDocument(*method);
     }
 }
 
-/// Whether unsaved edits may go: there are none, they were saved, or the user gave them up.
-bool SettingsWindow::mayDiscardEdits()
+/// Goes to the field of a setting, or to its row where the tree is shown.
+void SettingsWindow::chooseSetting(const QStringList &setting)
 {
-    closeEditor();
-    if (!isWindowModified())
-        return true;
-    QMessageBox box(QMessageBox::Question, tr("Settings"),
-                    tr("There are edits that are not saved."),
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
-    box.setDefaultButton(QMessageBox::Cancel);
-    const int answer = box.exec();
-    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
-}
-
-/// Says what went wrong. Names and values may hold what looks like markup.
-void SettingsWindow::tell(const QString &text)
-{
-    QMessageBox box(QMessageBox::Warning, tr("Settings"), text, QMessageBox::Ok, this);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
-}
-
-/// Asks whether to go on; not to is the default.
-bool SettingsWindow::ask(const QString &question, const QStringList &details, const QString &goOn)
-{
-    const QString text = (QStringList(question) + details).join(u"\n\n"_s);
-    QMessageBox box(QMessageBox::Warning, tr("Settings"), text, QMessageBox::Cancel, this);
-    box.setTextFormat(Qt::PlainText);
-    const QPushButton *yes = box.addButton(goOn, QMessageBox::AcceptRole);
-    box.setDefaultButton(QMessageBox::Cancel);
-    box.exec();
-    return box.clickedButton() == yes;
-}
-
-void SettingsWindow::offerSample()
-{
-    QMessageBox box(QMessageBox::Question, tr("Settings"),
-                    tr("There are no settings yet in %1.\nBegin with the sample settings?")
-                        .arg(document->path()),
-                    QMessageBox::Yes | QMessageBox::No, this);
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::Yes);
-    if (box.exec() != QMessageBox::Yes)
-        return;
-    const QString folder = QFileInfo(document->path()).path();
-    if (!QDir().mkpath(folder)) {
-        tell(tr("The folder %1 cannot be made.").arg(folder));
-        return;
+    if (tabs->currentWidget() == expert) {
+        if (QTreeWidgetItem *row = state.rowOf(setting)) {
+            state.view()->setCurrentItem(row->childCount() == 1 ? row->child(0) : row);
+            state.view()->setFocus();
+            return;
+        }
+        tabs->setCurrentWidget(pages);
     }
-    QFile file(document->path());
-    const QByteArray sample = resource(u"korvel.conf"_s);
-    if (!file.open(QIODevice::WriteOnly) || file.write(sample) != sample.size() || !file.flush())
-        tell(tr("%1 cannot be written: %2").arg(document->path(), file.errorString()));
+    if (form->choose(setting))
+        return;
+    if (setting.value(1) == vocabulary::group::language) {
+        documents->setCurrentRow(languageRow());
+        form->choose(setting);
+    } else if (const vocabulary::Method *method = paper->method()) {
+        documents->setCurrentRow(static_cast<int>(method - vocabulary::methods().begin()));
+        form->choose(setting);
+    }
+}
+
+/// Takes over what stands in a field that is still being edited.
+void SettingsWindow::finishEditing()
+{
+    expert->closeEditor();
+    if (QWidget *field = QApplication::focusWidget(); field && form->isAncestorOf(field)) {
+        field->clearFocus();
+        field->setFocus();
+    }
 }
 
 void SettingsWindow::edited()
 {
-    setWindowModified(true);
-    updateTitle();
+    form->refresh(found);
     pause.start();
 }
 
-/// The method whose sample stands in a row of the chooser; null for the row of job files.
-const vocabulary::Method *SettingsWindow::methodAt(int row) const
-{
-    return vocabulary::findMethod(jobs->itemData(row).toString());
-}
-
-/// Opens the group that the shown document reads.
-void SettingsWindow::openGroup()
-{
-    const vocabulary::Method *method = methodAt(lastJob);
-    if (!method)
-        return; // the user's own job
-    for (QTreeWidgetItemIterator row(view); *row; ++row) {
-        if ((*row)->text(0) == method->group && (*row)->childCount() > 0) {
-            view->expandRecursively(view->indexFromItem(*row));
-            view->scrollToItem(*row, QAbstractItemView::PositionAtTop);
-            return;
-        }
-    }
-}
-
-/// Brings the marks and the paper in line with the tree.
+/// Brings the marks and the paper in line with the settings.
 void SettingsWindow::refresh()
 {
-    const QByteArray settings = SettingsDocument::writtenBy(*view);
-    hints::mark(*view, settings);
-    showMeaning();
-    rendering.render(job, settings);
+    const QByteArray settings = SettingsDocument::writtenBy(*state.view());
+    found = hints::find(settings);
+    hints::mark(*state.view(), found);
+    form->refresh(found);
+    unread->refresh(found);
+    expert->showCurrent();
+    markDocuments();
+    paper->refresh(settings, found);
 }
 
-void SettingsWindow::chooseJob(int index)
+void SettingsWindow::markDocuments()
 {
-    const vocabulary::Method *method = methodAt(index);
-    if (!method) {
-        chooseJobFile();
-        return;
-    }
-    lastJob = index;
-    job = resource(u"jobs/"_s + method->sample + u".xml"_s);
-    openGroup();
-    refresh();
-}
-
-void SettingsWindow::chooseJobFile()
-{
-    const QString path = QFileDialog::getOpenFileName(this, tr("Choose a job"), QString(),
-                                                      tr("Jobs (*.xml);;All files (*)"));
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
-        if (!path.isEmpty())
-            tell(tr("%1 cannot be read: %2").arg(path, file.errorString()));
-        jobs->setCurrentIndex(lastJob);
-        return;
-    }
-    job = file.readAll();
-    lastJob = jobs->currentIndex();
-    refresh();
-}
-
-void SettingsWindow::showRendered(const shared::Rendered &rendered)
-{
-    shown = rendered.stream;
-    if (!rendered.isThere()) {
-        paper->showFailure(rendered);
-        findings->clear();
-        return;
-    }
-    paper->showPaper(
-        preview::Picture(preview::paperOf(shown, commands::lineWidth), commands::lineWidth));
-    QStringList lines;
-    if (!rendered.said.isEmpty())
-        lines.append(rendered.said);
-    for (const preview::Finding &finding : preview::findings(shown, commands::lineWidth)) {
-        if (lines.size() == 4) {
-            lines.append(u"…"_s);
-            break;
+    const QIcon icon = style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    int unreadCount = 0;
+    for (const hints::Hint &hint : std::as_const(found))
+        unreadCount += hint.isUnread ? 1 : 0;
+    for (int row = 0; row < documents->count(); ++row) {
+        const vocabulary::Method *method = methodAt(row);
+        QStringList texts;
+        for (const hints::Hint &hint : std::as_const(found)) {
+            if (method ? concerns(hint, *method)
+                       : row == languageRow() && !hint.isUnread
+                             && hint.setting.value(1) == vocabulary::group::language)
+                texts.append(hint.text);
         }
-        lines.append(finding.text);
+        QListWidgetItem *item = documents->item(row);
+        item->setIcon(texts.isEmpty() ? QIcon() : icon);
+        item->setToolTip(texts.join(u'\n'));
+        item->setData(Qt::AccessibleDescriptionRole, texts.join(u". "_s));
     }
-    findings->setText(lines.join(u'\n'));
+    documents->item(unreadRow())->setText(tr("Read by nothing (%1)").arg(unreadCount));
+    documents->item(unreadRow())
+        ->setHidden(unreadCount == 0 && documents->currentRow() != unreadRow());
 }
-
-void SettingsWindow::showMeaning() { meaning->setText(hints::meaningOf(view->currentItem())); }
 
 void SettingsWindow::updateTitle()
 {
     setWindowTitle(tr("%1[*] – Korvel settings").arg(QFileInfo(document->path()).fileName()));
     setWindowFilePath(document->path());
-    saveAction->setEnabled(view != nullptr);
+    saveAction->setEnabled(state.view() != nullptr);
 }
 
 void SettingsWindow::restoreSize()
 {
-    resize(1000, 720);
+    const QSize room = screen()->availableSize();
+    resize(QSize(1180, 760).boundedTo(room));
+    panes->setSizes({width() * 17 / 100, width() * 40 / 100, width() * 43 / 100});
     const QSettings settings;
     restoreGeometry(settings.value(u"window/geometry"_s).toByteArray());
-    panes->restoreState(settings.value(u"window/panes"_s).toByteArray());
+    panes->restoreState(settings.value(u"window/columns"_s).toByteArray());
+    resize(size().boundedTo(room));
 }
 
 void SettingsWindow::closeEvent(QCloseEvent *event)
@@ -391,8 +281,25 @@ void SettingsWindow::closeEvent(QCloseEvent *event)
     }
     QSettings settings;
     settings.setValue(u"window/geometry"_s, saveGeometry());
-    settings.setValue(u"window/panes"_s, panes->saveState());
+    settings.setValue(u"window/columns"_s, panes->saveState());
     event->accept();
+}
+
+void SettingsWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.constFirst().isLocalFile())
+        event->acceptProposedAction();
+}
+
+/// A job is shown.
+void SettingsWindow::dropEvent(QDropEvent *event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.isEmpty())
+        return;
+    event->acceptProposedAction();
+    tell(paper->openJob(urls.constFirst().toLocalFile()));
 }
 
 } // namespace korvel::settings

@@ -1,8 +1,9 @@
-// The window: the settings at the left, the paper at the right.
+// The window: documents at the left, their settings in the middle, the paper at the right.
 #pragma once
 
 #include "companions/settings/document.h"
-#include "companions/shared/rendering.h"
+#include "companions/settings/hints.h"
+#include "companions/settings/state.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -10,11 +11,11 @@
 #include <memory>
 
 class QAction;
-class QComboBox;
-class QLabel;
+class QListWidget;
+class QMenu;
 class QSplitter;
-class QTreeWidget;
-class QVBoxLayout;
+class QStackedWidget;
+class QTabWidget;
 
 namespace korvel::vocabulary {
 struct Method;
@@ -22,13 +23,19 @@ struct Method;
 
 namespace korvel::settings {
 
-class PaperView;
+class ExpertPane;
+class FormPane;
+class PaperPane;
+class UnreadPane;
 
 /**
  * Edits one settings file, and shows what the renderer makes of it before anything is saved.
  *
- * The tree is the view that the settings store gives, values edited in place. Each edit starts the
+ * The form and the tree of the tab Expert show one state. Each edit can be undone, and starts the
  * renderer on the chosen job, and the paper follows.
+ *
+ * The bodies: window.cpp what is on the screen, menus.cpp the menus, files.cpp what is done to
+ * files.
  */
 class SettingsWindow : public QMainWindow
 {
@@ -46,49 +53,63 @@ public:
     void begin();
 
     /// The command stream of the paper; empty while a message stands in its place.
-    [[nodiscard]] QByteArray shownStream() const { return shown; }
+    [[nodiscard]] QByteArray shownStream() const;
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
+    void buildPanes(const QString &renderer);
+    void connectPanes();
+
+    // menus.cpp
     void buildMenus();
-    void buildPanes();
+    void buildFileMenu();
+    void buildEditMenu();
+    void buildViewMenu();
+    void fillRecent(QMenu &menu);
+    void help();
+
+    // files.cpp
     void open();
+    void openPath(const QString &path);
+    void noteRecent();
     void load();
     bool save();
+    void saveAs();
     void revert();
-    void closeEditor();
     bool mayDiscardEdits();
+    void exportPaper();
     void tell(const QString &text);
     bool ask(const QString &question, const QStringList &details, const QString &goOn);
     void offerSample();
+
+    void finishEditing();
     [[nodiscard]] const korvel::vocabulary::Method *methodAt(int row) const;
-    void openGroup();
+    void chooseDocument(int row);
+    void chooseSetting(const QStringList &setting);
     void edited();
     void refresh();
-    void chooseJob(int index);
-    void chooseJobFile();
-    void showRendered(const shared::Rendered &rendered);
-    void showMeaning();
+    void markDocuments();
     void updateTitle();
     void restoreSize();
 
+    State state; // outlives the panes
     std::unique_ptr<SettingsDocument> document;
-    shared::Rendering rendering;
-    QTimer pause; // gathers the edits of a moment into one run
-    QByteArray job;
-    QByteArray shown; // the stream of the paper
+    QList<hints::Hint> found; // hints of the settings as they are
+    QTimer pause;             // gathers the edits of a moment into one run
 
     QSplitter *panes = nullptr;
-    QVBoxLayout *treePane = nullptr;
-    QTreeWidget *view = nullptr; // owned by the tree pane
-    QLabel *meaning = nullptr;
-    QComboBox *jobs = nullptr;
-    PaperView *paper = nullptr;
-    QLabel *findings = nullptr;
+    QListWidget *documents = nullptr;
+    QTabWidget *tabs = nullptr;
+    QStackedWidget *pages = nullptr; // of the first tab
+    FormPane *form = nullptr;
+    UnreadPane *unread = nullptr;
+    ExpertPane *expert = nullptr;
+    PaperPane *paper = nullptr;
     QAction *saveAction = nullptr;
-    int lastJob = 0; // row of the chooser
 };
 
 } // namespace korvel::settings

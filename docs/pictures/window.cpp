@@ -2,13 +2,13 @@
 //
 //   korvel-window-picture SETTINGS PICTURE
 #include "companions/settings/window.h"
+#include "companions/shared/rendering.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QPixmap>
-#include <QTreeWidget>
-#include <QTreeWidgetItemIterator>
+#include <QWidget>
 
 #include <cstdio>
 
@@ -16,19 +16,6 @@ using namespace korvel::settings;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// Chooses the value of a setting in a group; false when there is none.
-bool choose(QTreeWidget &view, const QString &group, const QString &setting)
-{
-    for (QTreeWidgetItemIterator row(&view); *row; ++row) {
-        const QTreeWidgetItem *parent = (*row)->parent();
-        if ((*row)->text(0) == setting && parent && parent->text(0) == group) {
-            view.setCurrentItem((*row)->child(0));
-            return (*row)->childCount() == 1;
-        }
-    }
-    return false;
-}
 
 int complain(const char *text)
 {
@@ -47,13 +34,18 @@ int main(int argc, char *argv[])
 
     SettingsWindow window(QFile::decodeName(argv[1]), korvel::shared::Rendering::findRenderer());
     window.show();
+    window.resize(1100, 720); // more than the screen that is none has
     window.activateWindow();
     window.begin();
-    auto *view = window.findChild<QTreeWidget *>(u"settings"_s);
-    if (!view || !choose(*view, u"receiptdoc"_s, u"paperWidth"_s))
-        return complain("the settings have no receiptdoc.paperWidth");
+    auto *field = window.findChild<QWidget *>(u"receiptdoc.paperWidth"_s);
+    if (!field)
+        return complain("the form has no receiptdoc.paperWidth");
+    field->setFocus();
     const QDeadlineTimer deadline(30000);
     while (window.shownStream().isEmpty() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
+    // What the field with the focus makes is looked for and lit behind that.
+    for (const QDeadlineTimer lit(2000); !lit.hasExpired();)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
     if (window.shownStream().isEmpty())
         return complain("the renderer gives no paper");

@@ -13,6 +13,6 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     SettingsDocument document(QFile::decodeName(argv[1]));
     const std::unique_ptr<QTreeWidget> view = document.read();
-    hints::mark(*view, SettingsDocument::writtenBy(*view));
+    hints::mark(*view, hints::find(SettingsDocument::writtenBy(*view)));
     return 0;
 }

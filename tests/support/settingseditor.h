@@ -9,9 +9,13 @@
 
 #include <QApplication>
 #include <QByteArrayList>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QSpinBox>
+#include <QTabWidget>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -75,6 +79,7 @@ public:
         window.show();
         activate();
         window.begin();
+        showExpert();
         activate();
         if (!QTest::qWaitFor([this] { return tree()->isVisible(); }))
             qFatal("the settings do not come up");
@@ -88,6 +93,34 @@ public:
             qFatal("the window does not come up");
     }
 
+    void showExpert() const { child<QTabWidget>("tabs")->setCurrentIndex(1); }
+    void showForm() const { child<QTabWidget>("tabs")->setCurrentIndex(0); }
+
+    /// Chooses a document by its title, or another row of the list.
+    void choose(const QString &title) const
+    {
+        const auto found = documents()->findItems(title, Qt::MatchStartsWith);
+        if (found.size() != 1)
+            qFatal("there is not one row %s", qPrintable(title));
+        documents()->setCurrentItem(found.constFirst());
+    }
+
+    /// A field of the form: "receiptdoc.paperWidth".
+    template<typename Widget>
+    [[nodiscard]] Widget *field(const QString &setting) const
+    {
+        return child<Widget>(setting.toUtf8());
+    }
+    [[nodiscard]] QSpinBox *number(const QString &setting) const
+    {
+        return field<QSpinBox>(setting);
+    }
+    [[nodiscard]] QCheckBox *check(const QString &setting) const
+    {
+        return field<QCheckBox>(setting);
+    }
+
+    [[nodiscard]] QListWidget *documents() const { return child<QListWidget>("documents"); }
     [[nodiscard]] QTreeWidget *tree() const { return child<QTreeWidget>("settings"); }
     [[nodiscard]] QComboBox *jobs() const { return child<QComboBox>("jobs"); }
     [[nodiscard]] korvel::settings::PaperView *paper() const
@@ -95,7 +128,15 @@ public:
         return child<korvel::settings::PaperView>("paper");
     }
     [[nodiscard]] QLabel *meaning() const { return child<QLabel>("meaning"); }
-    [[nodiscard]] QLabel *findings() const { return child<QLabel>("findings"); }
+    /// What is wrong, a line each.
+    [[nodiscard]] QStringList findings() const
+    {
+        QStringList lines;
+        const auto *list = child<QListWidget>("findings");
+        for (int i = 0; i < list->count(); ++i)
+            lines.append(list->item(i)->text());
+        return lines;
+    }
     [[nodiscard]] QStringList stream() const { return linesOf(window.shownStream()); }
 
     /// The row of a setting's value: "receiptdoc.paperWidth".
@@ -158,20 +199,19 @@ public:
     void shortcut(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier)
     {
         activate();
-        QTest::keyClick(tree(), key, modifiers);
+        QTest::keyClick(&window, key, modifiers);
     }
 
     void save() { shortcut(Qt::Key_S); }
 
     korvel::settings::SettingsWindow window;
 
-private:
     template<typename Widget>
-    [[nodiscard]] Widget *child(const char *name) const
+    [[nodiscard]] Widget *child(const QByteArray &name) const
     {
-        auto *widget = window.findChild<Widget *>(name);
+        auto *widget = window.findChild<Widget *>(QString(name));
         if (!widget)
-            qFatal("the window has no %s", name);
+            qFatal("the window has no %s", name.constData());
         return widget;
     }
 };

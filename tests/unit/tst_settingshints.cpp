@@ -31,7 +31,7 @@ QMap<QString, QString> marksOf(QTreeWidget &view)
     return marks;
 }
 
-void mark(QTreeWidget &view) { hints::mark(view, SettingsDocument::writtenBy(view)); }
+void mark(QTreeWidget &view) { hints::mark(view, hints::find(SettingsDocument::writtenBy(view))); }
 
 class TestSettingsHints : public QObject
 {

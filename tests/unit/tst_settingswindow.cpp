@@ -44,6 +44,7 @@ private slots:
         editor.tree()->setCurrentItem(editor.valueRow("receiptdoc.paperWidth"));
         QVERIFY(editor.meaning()->text().contains("paperWidth"));
         // To the setting, which closes, and to its group.
+        editor.tree()->setFocus();
         for (int i = 0; i < 5 && editor.tree()->currentItem()->text(0) != "receiptdoc"; ++i)
             Editor::press(Qt::Key_Left);
         QCOMPARE(editor.tree()->currentItem()->text(0), QString("receiptdoc"));
@@ -54,7 +55,7 @@ private slots:
     {
         const TemporaryHome home(example("korvel.conf"));
         Editor editor(home.settingsPath());
-        QCOMPARE(QApplication::focusWidget(), editor.tree());
+        editor.tree()->setFocus();
         const auto current = [&] {
             const QTreeWidgetItem *row = editor.tree()->currentItem();
             return row ? row->text(0) : QString();
@@ -69,9 +70,9 @@ private slots:
         QVERIFY(downTo("paperWidth"));
         Editor::press(Qt::Key_Right);
         QVERIFY(downTo("32"));
-        QTest::keyClick(QApplication::focusWidget(), '4'); // typing is editing
+        Editor::press(Qt::Key_F2);
         QVERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
-        QTest::keyClick(QApplication::focusWidget(), '0');
+        Editor::type("40");
         Editor::press(Qt::Key_Return);
         QTRY_COMPARE_WITH_TIMEOUT(editor.stream(), receiptOf40(), longEnough);
         QCOMPARE(QApplication::focusWidget(), editor.tree());
@@ -79,14 +80,13 @@ private slots:
         Editor::press(Qt::Key_S, Qt::ControlModifier);
         QCOMPARE(linesOf(bytesOf(home.settingsPath())), linesOf(sampleOf40()));
 
-        Editor::press(Qt::Key_Tab);
-        for (int i = 0; i < 5 && QApplication::focusWidget() != editor.jobs(); ++i)
+        for (int i = 0; i < 20 && QApplication::focusWidget() != editor.documents(); ++i)
             Editor::press(Qt::Key_Tab);
-        QCOMPARE(QApplication::focusWidget(), editor.jobs());
+        QCOMPARE(QApplication::focusWidget(), editor.documents());
         Editor::press(Qt::Key_Home);
         TRY_STREAM(editor, example("expected/kitchen-order.out"));
         editor.tree()->setFocus();
-        Editor::press(Qt::Key_D, Qt::AltModifier);
+        Editor::press(Qt::Key_J, Qt::AltModifier);
         QCOMPARE(QApplication::focusWidget(), editor.jobs());
 
         Editor::press(Qt::Key_Q, Qt::ControlModifier);
@@ -102,10 +102,9 @@ private slots:
         QSize size;
         {
             Editor editor(home.settingsPath());
-            editor.window.resize(700, 520);
+            editor.window.resize(760, 470);
             auto *panes = editor.window.findChild<QSplitter *>();
-            const int all = panes->sizes()[0] + panes->sizes()[1];
-            panes->setSizes({all / 3, all - all / 3});
+            panes->setSizes({130, 300, 270});
             QTest::qWait(50);
             sizes = panes->sizes();
             size = editor.window.size();
@@ -125,7 +124,7 @@ private slots:
     {
         QSettings settings;
         settings.setValue("window/geometry", QByteArray("no size"));
-        settings.setValue("window/panes", QByteArray("none"));
+        settings.setValue("window/columns", QByteArray("none"));
         settings.sync();
         const TemporaryHome home(example("korvel.conf"));
         Editor editor(home.settingsPath());

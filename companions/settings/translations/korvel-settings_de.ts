@@ -57,6 +57,286 @@
     </message>
 </context>
 <context>
+    <name>fields</name>
+    <message>
+        <source>paper width</source>
+        <translation>Papierbreite</translation>
+    </message>
+    <message>
+        <source>quantity column</source>
+        <translation>Mengenspalte</translation>
+    </message>
+    <message>
+        <source>price column</source>
+        <translation>Preisspalte</translation>
+    </message>
+    <message>
+        <source>amount column</source>
+        <translation>Betragsspalte</translation>
+    </message>
+    <message>
+        <source>length of names</source>
+        <translation>Länge der Namen</translation>
+    </message>
+    <message>
+        <source>top margin</source>
+        <translation>oberer Rand</translation>
+    </message>
+    <message>
+        <source>lines of the top margin</source>
+        <translation>Zeilen des oberen Rands</translation>
+    </message>
+    <message>
+        <source>header lines</source>
+        <translation>Kopfzeilen</translation>
+    </message>
+    <message>
+        <source>company</source>
+        <translation>Firma</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>Tisch</translation>
+    </message>
+    <message>
+        <source>waiter</source>
+        <translation>Bedienung</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>credit</source>
+        <translation>Guthaben</translation>
+    </message>
+    <message>
+        <source>customer</source>
+        <translation>Kunde</translation>
+    </message>
+    <message>
+        <source>delivery address</source>
+        <translation>Lieferadresse</translation>
+    </message>
+    <message>
+        <source>billing address</source>
+        <translation>Rechnungsadresse</translation>
+    </message>
+    <message>
+        <source>telephone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>license number</source>
+        <translation>Lizenznummer</translation>
+    </message>
+    <message>
+        <source>fiscal code</source>
+        <translation>Steuernummer</translation>
+    </message>
+    <message>
+        <source>catalogue</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>folder of the catalogues</source>
+        <translation>Ordner der Kataloge</translation>
+    </message>
+    <message>
+        <source>rows of a page</source>
+        <translation>Zeilen einer Seite</translation>
+    </message>
+    <message>
+        <source>style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>logo</source>
+        <translation>Firmenlogo</translation>
+    </message>
+    <message>
+        <source>cash drawer</source>
+        <translation>Kassenschublade</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Top of the paper</source>
+        <translation>Oben auf dem Papier</translation>
+    </message>
+    <message>
+        <source>Order information</source>
+        <translation>Angaben zur Bestellung</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Kunde</translation>
+    </message>
+    <message>
+        <source>Language of the labels</source>
+        <translation>Sprache der Beschriftungen</translation>
+    </message>
+    <message>
+        <source>Read, without effect on the paper</source>
+        <translation>Gelesen, ohne Wirkung auf das Papier</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation>nicht gesetzt</translation>
+    </message>
+</context>
+<context>
+    <name>jobs</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 lässt sich nicht lesen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::AddDialog</name>
+    <message>
+        <source>Add a group</source>
+        <translation>Gruppe hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add a setting</source>
+        <translation>Einstellung hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Group:</source>
+        <translation>&amp;Gruppe:</translation>
+    </message>
+    <message>
+        <source>&amp;Setting:</source>
+        <translation>&amp;Einstellung:</translation>
+    </message>
+    <message>
+        <source>&amp;Value:</source>
+        <translation>&amp;Wert:</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::CatalogueBox</name>
+    <message>
+        <source>%1: labels in English</source>
+        <translation>%1: englische Beschriftungen</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::ExpertPane</name>
+    <message>
+        <source>Add a se&amp;tting …</source>
+        <translation>E&amp;instellung hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add a &amp;group …</source>
+        <translation>&amp;Gruppe hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>E&amp;ntfernen</translation>
+    </message>
+    <message>
+        <source>Rows of the settings file</source>
+        <translation>Zeilen der Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>ConfigurationFile</source>
+        <translation>Einstellungsdatei</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::FieldRow</name>
+    <message>
+        <source>Restore: %1</source>
+        <translation>Zurücksetzen: %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>labels: %1</source>
+        <translation>Beschriftungen: %1</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>Nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>As in the file: %1</source>
+        <translation>Wie in der Datei: %1</translation>
+    </message>
+    <message>
+        <source>As in the sample: %1</source>
+        <translation>Wie im Muster: %1</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::FormPane</name>
+    <message>
+        <source>This document prints nothing.</source>
+        <translation>Dieses Dokument druckt nichts.</translation>
+    </message>
+    <message>
+        <source>The same settings lay out: %1.</source>
+        <translation>Dieselben Einstellungen gelten für: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::PaperPane</name>
+    <message>
+        <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
+        <translation>Zeile %1 ist breiter als das Papier: %2 Zeichen, von %3.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Job:</source>
+        <translation>A&amp;uftrag:</translation>
+    </message>
+    <message>
+        <source>Sample of the shop</source>
+        <translation>Muster des Ladens</translation>
+    </message>
+    <message>
+        <source>Open a job file …</source>
+        <translation>Auftragsdatei öffnen …</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Was nicht stimmt</translation>
+    </message>
+    <message>
+        <source>Choose a job</source>
+        <translation>Druckauftrag wählen</translation>
+    </message>
+    <message>
+        <source>Jobs (*.xml);;All files (*)</source>
+        <translation>Druckaufträge (*.xml);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Job, line %1: %2</source>
+        <translation>Auftrag, Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Line %1 of the paper is made by no setting.</source>
+        <translation>Zeile %1 des Papiers kommt von keiner Einstellung.</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperView</name>
     <message>
         <source>The renderer %1 cannot be started.</source>
@@ -73,6 +353,25 @@
     <message>
         <source>The renderer %1 wrote nothing.</source>
         <translation>Das Druckprogramm %1 hat nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::Ruler</name>
+    <message>
+        <source>Ruler of the columns</source>
+        <translation>Lineal der Spalten</translation>
+    </message>
+    <message>
+        <source>Drag the edge of a column to make it wider or narrower.</source>
+        <translation>Ziehen Sie den Rand einer Spalte, um sie breiter oder schmaler zu machen.</translation>
     </message>
 </context>
 <context>
@@ -133,14 +432,6 @@
 <context>
     <name>korvel::settings::SettingsWindow</name>
     <message>
-        <source>&amp;Document:</source>
-        <translation>Do&amp;kument:</translation>
-    </message>
-    <message>
-        <source>Job file …</source>
-        <translation>Druckauftrag aus Datei …</translation>
-    </message>
-    <message>
         <source>&amp;File</source>
         <translation>&amp;Datei</translation>
     </message>
@@ -151,10 +442,6 @@
     <message>
         <source>&amp;Save</source>
         <translation>&amp;Speichern</translation>
-    </message>
-    <message>
-        <source>&amp;Revert</source>
-        <translation>&amp;Neu laden</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -203,24 +490,193 @@ Mit den Beispieleinstellungen beginnen?</translation>
         <translation>%1 lässt sich nicht schreiben: %2</translation>
     </message>
     <message>
-        <source>Choose a job</source>
-        <translation>Druckauftrag wählen</translation>
-    </message>
-    <message>
-        <source>Jobs (*.xml);;All files (*)</source>
-        <translation>Druckaufträge (*.xml);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>%1 lässt sich nicht lesen: %2</translation>
-    </message>
-    <message>
         <source>%1[*] – Korvel settings</source>
         <translation>%1[*] – Korvel-Einstellungen</translation>
     </message>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>Der Ordner %1 lässt sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>The paper is too large for a picture; a PDF can hold it.</source>
+        <translation>Das Papier ist für ein Bild zu groß; ein PDF kann es fassen.</translation>
+    </message>
+    <message>
+        <source>Save the settings as</source>
+        <translation>Einstellungen speichern unter</translation>
+    </message>
+    <message>
+        <source>There is no paper.</source>
+        <translation>Es gibt kein Papier.</translation>
+    </message>
+    <message>
+        <source>Export the paper</source>
+        <translation>Papier exportieren</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf);;PNG (*.png)</source>
+        <translation>PDF-Datei (*.pdf);;PNG-Bild (*.png)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;The settings file</source>
+        <translation>&amp;Die Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Save &amp;as …</source>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>Open a &amp;job file …</source>
+        <translation>&amp;Auftragsdatei öffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Export the paper …</source>
+        <translation>Papier &amp;exportieren …</translation>
+    </message>
+    <message>
+        <source>Field: &amp;not set</source>
+        <translation>Feld: &amp;nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>Field: as in the &amp;file</source>
+        <translation>Feld: wie in der &amp;Datei</translation>
+    </message>
+    <message>
+        <source>Field: as in the &amp;sample</source>
+        <translation>Feld: wie im &amp;Muster</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Paper &amp;larger</source>
+        <translation>Papier &amp;größer</translation>
+    </message>
+    <message>
+        <source>Paper &amp;smaller</source>
+        <translation>Papier &amp;kleiner</translation>
+    </message>
+    <message>
+        <source>Paper in its &amp;own size</source>
+        <translation>Papier in &amp;Originalgröße</translation>
+    </message>
+    <message>
+        <source>Paper as &amp;wide as its pane</source>
+        <translation>Papier in &amp;voller Breite</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>The settings file</source>
+        <translation>Die Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Read by nothing</source>
+        <translation>Von nichts gelesen</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>&amp;Einstellungen</translation>
+    </message>
+    <message>
+        <source>E&amp;xpert</source>
+        <translation>E&amp;xperte</translation>
+    </message>
+    <message>
+        <source>Read by nothing (%1)</source>
+        <translation>Von nichts gelesen (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::State</name>
+    <message>
+        <source>%1 on</source>
+        <translation>%1 an</translation>
+    </message>
+    <message>
+        <source>%1 off</source>
+        <translation>%1 aus</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>group %1</source>
+        <translation>Gruppe %1</translation>
+    </message>
+    <message>
+        <source>%1 not set</source>
+        <translation>%1 nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>removal of %1</source>
+        <translation>Entfernen von %1</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::SwitchBox</name>
+    <message>
+        <source>on</source>
+        <translation>an</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>off (&quot;%1&quot;)</source>
+        <translation>aus (&quot;%1&quot;)</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::UnreadPane</name>
+    <message>
+        <source>Remove fr&amp;om the file</source>
+        <translation>Aus der Datei entfe&amp;rnen</translation>
+    </message>
+    <message>
+        <source>No document reads these. They are kept when the file is saved.</source>
+        <translation>Kein Dokument liest diese. Beim Speichern bleiben sie erhalten.</translation>
+    </message>
+    <message>
+        <source>Settings and groups that nothing reads</source>
+        <translation>Einstellungen und Gruppen, die nichts liest</translation>
     </message>
 </context>
 <context>

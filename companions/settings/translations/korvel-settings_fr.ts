@@ -57,6 +57,286 @@
     </message>
 </context>
 <context>
+    <name>fields</name>
+    <message>
+        <source>paper width</source>
+        <translation>largeur du papier</translation>
+    </message>
+    <message>
+        <source>quantity column</source>
+        <translation>colonne des quantités</translation>
+    </message>
+    <message>
+        <source>price column</source>
+        <translation>colonne des prix</translation>
+    </message>
+    <message>
+        <source>amount column</source>
+        <translation>colonne des montants</translation>
+    </message>
+    <message>
+        <source>length of names</source>
+        <translation>longueur des noms</translation>
+    </message>
+    <message>
+        <source>top margin</source>
+        <translation>marge du haut</translation>
+    </message>
+    <message>
+        <source>lines of the top margin</source>
+        <translation>lignes de la marge du haut</translation>
+    </message>
+    <message>
+        <source>header lines</source>
+        <translation>lignes d&apos;en-tête</translation>
+    </message>
+    <message>
+        <source>company</source>
+        <translation>société</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>date de la commande</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>heure</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>numéro de table</translation>
+    </message>
+    <message>
+        <source>waiter</source>
+        <translation>serveur</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>remarque</translation>
+    </message>
+    <message>
+        <source>credit</source>
+        <translation>crédit</translation>
+    </message>
+    <message>
+        <source>customer</source>
+        <translation>client</translation>
+    </message>
+    <message>
+        <source>delivery address</source>
+        <translation>adresse de livraison</translation>
+    </message>
+    <message>
+        <source>billing address</source>
+        <translation>adresse de facturation</translation>
+    </message>
+    <message>
+        <source>telephone</source>
+        <translation>téléphone</translation>
+    </message>
+    <message>
+        <source>license number</source>
+        <translation>numéro de licence</translation>
+    </message>
+    <message>
+        <source>fiscal code</source>
+        <translation>code fiscal</translation>
+    </message>
+    <message>
+        <source>catalogue</source>
+        <translation>fichier de traduction</translation>
+    </message>
+    <message>
+        <source>folder of the catalogues</source>
+        <translation>dossier des catalogues</translation>
+    </message>
+    <message>
+        <source>rows of a page</source>
+        <translation>lignes d&apos;une page</translation>
+    </message>
+    <message>
+        <source>style</source>
+        <translation>style d&apos;écriture</translation>
+    </message>
+    <message>
+        <source>logo</source>
+        <translation>logotype</translation>
+    </message>
+    <message>
+        <source>cash drawer</source>
+        <translation>tiroir-caisse</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
+        <source>Top of the paper</source>
+        <translation>Haut du papier</translation>
+    </message>
+    <message>
+        <source>Order information</source>
+        <translation>Informations de commande</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Client</translation>
+    </message>
+    <message>
+        <source>Language of the labels</source>
+        <translation>Langue des libellés</translation>
+    </message>
+    <message>
+        <source>Read, without effect on the paper</source>
+        <translation>Lus, sans effet sur le papier</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation>non défini</translation>
+    </message>
+</context>
+<context>
+    <name>jobs</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Impossible de lire %1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::AddDialog</name>
+    <message>
+        <source>Add a group</source>
+        <translation>Ajouter un groupe</translation>
+    </message>
+    <message>
+        <source>Add a setting</source>
+        <translation>Ajouter un réglage</translation>
+    </message>
+    <message>
+        <source>&amp;Group:</source>
+        <translation>&amp;Groupe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Setting:</source>
+        <translation>&amp;Réglage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Value:</source>
+        <translation>&amp;Valeur&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::CatalogueBox</name>
+    <message>
+        <source>%1: labels in English</source>
+        <translation>%1&#xa0;: libellés en anglais</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::ExpertPane</name>
+    <message>
+        <source>Add a se&amp;tting …</source>
+        <translation>Ajo&amp;uter un réglage …</translation>
+    </message>
+    <message>
+        <source>Add a &amp;group …</source>
+        <translation>Ajouter un &amp;groupe …</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Rows of the settings file</source>
+        <translation>Lignes du fichier de réglages</translation>
+    </message>
+    <message>
+        <source>ConfigurationFile</source>
+        <translation>Fichier de configuration</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::FieldRow</name>
+    <message>
+        <source>Restore: %1</source>
+        <translation>Restaurer&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vide</translation>
+    </message>
+    <message>
+        <source>labels: %1</source>
+        <translation>libellés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>Non défini</translation>
+    </message>
+    <message>
+        <source>As in the file: %1</source>
+        <translation>Comme dans le fichier&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>As in the sample: %1</source>
+        <translation>Comme dans l&apos;exemple&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::FormPane</name>
+    <message>
+        <source>This document prints nothing.</source>
+        <translation>Ce document n&apos;imprime rien.</translation>
+    </message>
+    <message>
+        <source>The same settings lay out: %1.</source>
+        <translation>Les mêmes réglages mettent en page&#xa0;: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::PaperPane</name>
+    <message>
+        <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
+        <translation>La ligne %1 est plus large que le papier&#xa0;: %2 caractères, sur %3.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Ligne %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Job:</source>
+        <translation>&amp;Tâche&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Sample of the shop</source>
+        <translation>Exemple du magasin</translation>
+    </message>
+    <message>
+        <source>Open a job file …</source>
+        <translation>Ouvrir un fichier de tâche …</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Ce qui ne va pas</translation>
+    </message>
+    <message>
+        <source>Choose a job</source>
+        <translation>Choisir une tâche d&apos;impression</translation>
+    </message>
+    <message>
+        <source>Jobs (*.xml);;All files (*)</source>
+        <translation>Tâches d&apos;impression (*.xml);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Job, line %1: %2</source>
+        <translation>Tâche, ligne %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Line %1 of the paper is made by no setting.</source>
+        <translation>Aucun réglage ne produit la ligne %1 du papier.</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperView</name>
     <message>
         <source>The renderer %1 cannot be started.</source>
@@ -73,6 +353,25 @@
     <message>
         <source>The renderer %1 wrote nothing.</source>
         <translation>Le programme d&apos;impression %1 n&apos;a rien écrit.</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Ligne %1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::Ruler</name>
+    <message>
+        <source>Ruler of the columns</source>
+        <translation>Règle des colonnes</translation>
+    </message>
+    <message>
+        <source>Drag the edge of a column to make it wider or narrower.</source>
+        <translation>Faites glisser le bord d&apos;une colonne pour l&apos;élargir ou la rétrécir.</translation>
     </message>
 </context>
 <context>
@@ -133,14 +432,6 @@
 <context>
     <name>korvel::settings::SettingsWindow</name>
     <message>
-        <source>&amp;Document:</source>
-        <translation>&amp;Document&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Job file …</source>
-        <translation>Tâche d&apos;impression depuis un fichier …</translation>
-    </message>
-    <message>
         <source>&amp;File</source>
         <translation>&amp;Fichier</translation>
     </message>
@@ -151,10 +442,6 @@
     <message>
         <source>&amp;Save</source>
         <translation>&amp;Enregistrer</translation>
-    </message>
-    <message>
-        <source>&amp;Revert</source>
-        <translation>&amp;Recharger</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -203,24 +490,193 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
         <translation>Impossible d&apos;écrire %1&#xa0;: %2</translation>
     </message>
     <message>
-        <source>Choose a job</source>
-        <translation>Choisir une tâche d&apos;impression</translation>
-    </message>
-    <message>
-        <source>Jobs (*.xml);;All files (*)</source>
-        <translation>Tâches d&apos;impression (*.xml);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>Impossible de lire %1&#xa0;: %2</translation>
-    </message>
-    <message>
         <source>%1[*] – Korvel settings</source>
         <translation>%1[*] – Paramètres de Korvel</translation>
     </message>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>Impossible de créer le dossier %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>The paper is too large for a picture; a PDF can hold it.</source>
+        <translation>Le papier est trop grand pour une image&#xa0;; un PDF peut le contenir.</translation>
+    </message>
+    <message>
+        <source>Save the settings as</source>
+        <translation>Enregistrer les réglages sous</translation>
+    </message>
+    <message>
+        <source>There is no paper.</source>
+        <translation>Il n&apos;y a pas de papier.</translation>
+    </message>
+    <message>
+        <source>Export the paper</source>
+        <translation>Exporter le papier</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf);;PNG (*.png)</source>
+        <translation>Fichier PDF (*.pdf);;Image PNG (*.png)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;de</translation>
+    </message>
+    <message>
+        <source>&amp;The settings file</source>
+        <translation>&amp;Le fichier de réglages</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>Ouvrir un fichier ré&amp;cent</translation>
+    </message>
+    <message>
+        <source>Save &amp;as …</source>
+        <translation>Enregistrer &amp;sous …</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>Ré&amp;tablir</translation>
+    </message>
+    <message>
+        <source>Open a &amp;job file …</source>
+        <translation>Ouvrir un fichier de tâc&amp;he …</translation>
+    </message>
+    <message>
+        <source>&amp;Export the paper …</source>
+        <translation>E&amp;xporter le papier …</translation>
+    </message>
+    <message>
+        <source>Field: &amp;not set</source>
+        <translation>Champ&#xa0;: &amp;non défini</translation>
+    </message>
+    <message>
+        <source>Field: as in the &amp;file</source>
+        <translation>Champ&#xa0;: comme dans le &amp;fichier</translation>
+    </message>
+    <message>
+        <source>Field: as in the &amp;sample</source>
+        <translation>Champ&#xa0;: comme dans l&apos;e&amp;xemple</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>Affic&amp;hage</translation>
+    </message>
+    <message>
+        <source>Paper &amp;larger</source>
+        <translation>Papier plus &amp;grand</translation>
+    </message>
+    <message>
+        <source>Paper &amp;smaller</source>
+        <translation>Papier plus &amp;petit</translation>
+    </message>
+    <message>
+        <source>Paper in its &amp;own size</source>
+        <translation>Papier en taille &amp;réelle</translation>
+    </message>
+    <message>
+        <source>Paper as &amp;wide as its pane</source>
+        <translation>Papier à la &amp;largeur du volet</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>The settings file</source>
+        <translation>Le fichier de réglages</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Les documents</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Read by nothing</source>
+        <translation>Lu par rien</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>&amp;Réglages</translation>
+    </message>
+    <message>
+        <source>E&amp;xpert</source>
+        <translation>Mode e&amp;xpert</translation>
+    </message>
+    <message>
+        <source>Read by nothing (%1)</source>
+        <translation>Lu par rien (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::State</name>
+    <message>
+        <source>%1 on</source>
+        <translation>%1 activé</translation>
+    </message>
+    <message>
+        <source>%1 off</source>
+        <translation>%1 désactivé</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vide</translation>
+    </message>
+    <message>
+        <source>group %1</source>
+        <translation>groupe %1</translation>
+    </message>
+    <message>
+        <source>%1 not set</source>
+        <translation>%1 non défini</translation>
+    </message>
+    <message>
+        <source>removal of %1</source>
+        <translation>suppression de %1</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::SwitchBox</name>
+    <message>
+        <source>on</source>
+        <translation>activé</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>désactivé</translation>
+    </message>
+    <message>
+        <source>off (&quot;%1&quot;)</source>
+        <translation>désactivé (&quot;%1&quot;)</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::UnreadPane</name>
+    <message>
+        <source>Remove fr&amp;om the file</source>
+        <translation>Ret&amp;irer du fichier</translation>
+    </message>
+    <message>
+        <source>No document reads these. They are kept when the file is saved.</source>
+        <translation>Aucun document ne les lit. Ils sont conservés à l&apos;enregistrement du fichier.</translation>
+    </message>
+    <message>
+        <source>Settings and groups that nothing reads</source>
+        <translation>Réglages et groupes que rien ne lit</translation>
     </message>
 </context>
 <context>

@@ -57,6 +57,286 @@
     </message>
 </context>
 <context>
+    <name>fields</name>
+    <message>
+        <source>paper width</source>
+        <translation>larghezza della carta</translation>
+    </message>
+    <message>
+        <source>quantity column</source>
+        <translation>colonna delle quantità</translation>
+    </message>
+    <message>
+        <source>price column</source>
+        <translation>colonna dei prezzi</translation>
+    </message>
+    <message>
+        <source>amount column</source>
+        <translation>colonna degli importi</translation>
+    </message>
+    <message>
+        <source>length of names</source>
+        <translation>lunghezza dei nomi</translation>
+    </message>
+    <message>
+        <source>top margin</source>
+        <translation>margine superiore</translation>
+    </message>
+    <message>
+        <source>lines of the top margin</source>
+        <translation>righe del margine superiore</translation>
+    </message>
+    <message>
+        <source>header lines</source>
+        <translation>righe d&apos;intestazione</translation>
+    </message>
+    <message>
+        <source>company</source>
+        <translation>azienda</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>data</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>ora</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>tavolo</translation>
+    </message>
+    <message>
+        <source>waiter</source>
+        <translation>cameriere</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>nota dell&apos;ordine</translation>
+    </message>
+    <message>
+        <source>credit</source>
+        <translation>credito</translation>
+    </message>
+    <message>
+        <source>customer</source>
+        <translation>cliente</translation>
+    </message>
+    <message>
+        <source>delivery address</source>
+        <translation>indirizzo di consegna</translation>
+    </message>
+    <message>
+        <source>billing address</source>
+        <translation>indirizzo di fatturazione</translation>
+    </message>
+    <message>
+        <source>telephone</source>
+        <translation>telefono</translation>
+    </message>
+    <message>
+        <source>license number</source>
+        <translation>numero di licenza</translation>
+    </message>
+    <message>
+        <source>fiscal code</source>
+        <translation>codice fiscale</translation>
+    </message>
+    <message>
+        <source>catalogue</source>
+        <translation>catalogo</translation>
+    </message>
+    <message>
+        <source>folder of the catalogues</source>
+        <translation>cartella dei cataloghi</translation>
+    </message>
+    <message>
+        <source>rows of a page</source>
+        <translation>righe di una pagina</translation>
+    </message>
+    <message>
+        <source>style</source>
+        <translation>stile</translation>
+    </message>
+    <message>
+        <source>logo</source>
+        <translation>logo dell&apos;azienda</translation>
+    </message>
+    <message>
+        <source>cash drawer</source>
+        <translation>cassetto</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonne</translation>
+    </message>
+    <message>
+        <source>Top of the paper</source>
+        <translation>Parte alta della carta</translation>
+    </message>
+    <message>
+        <source>Order information</source>
+        <translation>Informazioni sull&apos;ordine</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Cliente</translation>
+    </message>
+    <message>
+        <source>Language of the labels</source>
+        <translation>Lingua delle etichette</translation>
+    </message>
+    <message>
+        <source>Read, without effect on the paper</source>
+        <translation>Lette, senza effetto sulla carta</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation>non impostato</translation>
+    </message>
+</context>
+<context>
+    <name>jobs</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Impossibile leggere %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::AddDialog</name>
+    <message>
+        <source>Add a group</source>
+        <translation>Aggiungere un gruppo</translation>
+    </message>
+    <message>
+        <source>Add a setting</source>
+        <translation>Aggiungere un&apos;impostazione</translation>
+    </message>
+    <message>
+        <source>&amp;Group:</source>
+        <translation>&amp;Gruppo:</translation>
+    </message>
+    <message>
+        <source>&amp;Setting:</source>
+        <translation>&amp;Impostazione:</translation>
+    </message>
+    <message>
+        <source>&amp;Value:</source>
+        <translation>&amp;Valore:</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::CatalogueBox</name>
+    <message>
+        <source>%1: labels in English</source>
+        <translation>%1: etichette in inglese</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::ExpertPane</name>
+    <message>
+        <source>Add a se&amp;tting …</source>
+        <translation>Aggiungere un&apos;imp&amp;ostazione …</translation>
+    </message>
+    <message>
+        <source>Add a &amp;group …</source>
+        <translation>Aggiungere un &amp;gruppo …</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Rimuovere</translation>
+    </message>
+    <message>
+        <source>Rows of the settings file</source>
+        <translation>Righe del file delle impostazioni</translation>
+    </message>
+    <message>
+        <source>ConfigurationFile</source>
+        <translation>File di configurazione</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::FieldRow</name>
+    <message>
+        <source>Restore: %1</source>
+        <translation>Ripristinare: %1</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vuoto</translation>
+    </message>
+    <message>
+        <source>labels: %1</source>
+        <translation>etichette: %1</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>Non impostato</translation>
+    </message>
+    <message>
+        <source>As in the file: %1</source>
+        <translation>Come nel file: %1</translation>
+    </message>
+    <message>
+        <source>As in the sample: %1</source>
+        <translation>Come nell&apos;esempio: %1</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::FormPane</name>
+    <message>
+        <source>This document prints nothing.</source>
+        <translation>Questo documento non stampa nulla.</translation>
+    </message>
+    <message>
+        <source>The same settings lay out: %1.</source>
+        <translation>Le stesse impostazioni valgono per: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::PaperPane</name>
+    <message>
+        <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
+        <translation>La riga %1 è più larga della carta: %2 caratteri, su %3.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Riga %1: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Job:</source>
+        <translation>&amp;Lavoro:</translation>
+    </message>
+    <message>
+        <source>Sample of the shop</source>
+        <translation>Esempio del negozio</translation>
+    </message>
+    <message>
+        <source>Open a job file …</source>
+        <translation>Aprire un file di lavoro …</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Che cosa non va</translation>
+    </message>
+    <message>
+        <source>Choose a job</source>
+        <translation>Scegli un lavoro di stampa</translation>
+    </message>
+    <message>
+        <source>Jobs (*.xml);;All files (*)</source>
+        <translation>Lavori di stampa (*.xml);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Job, line %1: %2</source>
+        <translation>Lavoro, riga %1: %2</translation>
+    </message>
+    <message>
+        <source>Line %1 of the paper is made by no setting.</source>
+        <translation>Nessuna impostazione produce la riga %1 della carta.</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperView</name>
     <message>
         <source>The renderer %1 cannot be started.</source>
@@ -73,6 +353,25 @@
     <message>
         <source>The renderer %1 wrote nothing.</source>
         <translation>Il programma di stampa %1 non ha scritto nulla.</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Riga %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::Ruler</name>
+    <message>
+        <source>Ruler of the columns</source>
+        <translation>Righello delle colonne</translation>
+    </message>
+    <message>
+        <source>Drag the edge of a column to make it wider or narrower.</source>
+        <translation>Trascinare il bordo di una colonna per allargarla o restringerla.</translation>
     </message>
 </context>
 <context>
@@ -133,14 +432,6 @@
 <context>
     <name>korvel::settings::SettingsWindow</name>
     <message>
-        <source>&amp;Document:</source>
-        <translation>&amp;Documento:</translation>
-    </message>
-    <message>
-        <source>Job file …</source>
-        <translation>Lavoro di stampa da file …</translation>
-    </message>
-    <message>
         <source>&amp;File</source>
         <translation>&amp;File</translation>
     </message>
@@ -151,10 +442,6 @@
     <message>
         <source>&amp;Save</source>
         <translation>&amp;Salva</translation>
-    </message>
-    <message>
-        <source>&amp;Revert</source>
-        <translation>&amp;Ricarica</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -203,24 +490,193 @@ Iniziare con le impostazioni di esempio?</translation>
         <translation>Impossibile scrivere %1: %2</translation>
     </message>
     <message>
-        <source>Choose a job</source>
-        <translation>Scegli un lavoro di stampa</translation>
-    </message>
-    <message>
-        <source>Jobs (*.xml);;All files (*)</source>
-        <translation>Lavori di stampa (*.xml);;Tutti i file (*)</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>Impossibile leggere %1: %2</translation>
-    </message>
-    <message>
         <source>%1[*] – Korvel settings</source>
         <translation>%1[*] – Impostazioni di Korvel</translation>
     </message>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>Impossibile creare la cartella %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annullare</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ripetere</translation>
+    </message>
+    <message>
+        <source>The paper is too large for a picture; a PDF can hold it.</source>
+        <translation>La carta è troppo grande per un&apos;immagine; un PDF può contenerla.</translation>
+    </message>
+    <message>
+        <source>Save the settings as</source>
+        <translation>Salvare le impostazioni con nome</translation>
+    </message>
+    <message>
+        <source>There is no paper.</source>
+        <translation>Non c&apos;è carta.</translation>
+    </message>
+    <message>
+        <source>Export the paper</source>
+        <translation>Esportare la carta</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf);;PNG (*.png)</source>
+        <translation>File PDF (*.pdf);;Immagine PNG (*.png)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;iuto</translation>
+    </message>
+    <message>
+        <source>&amp;The settings file</source>
+        <translation>&amp;Il file delle impostazioni</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>Aprire &amp;recenti</translation>
+    </message>
+    <message>
+        <source>Save &amp;as …</source>
+        <translation>Salvare &amp;con nome …</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>A&amp;bbandonare</translation>
+    </message>
+    <message>
+        <source>Open a &amp;job file …</source>
+        <translation>Aprire un file di &amp;lavoro …</translation>
+    </message>
+    <message>
+        <source>&amp;Export the paper …</source>
+        <translation>Es&amp;portare la carta …</translation>
+    </message>
+    <message>
+        <source>Field: &amp;not set</source>
+        <translation>Campo: &amp;non impostato</translation>
+    </message>
+    <message>
+        <source>Field: as in the &amp;file</source>
+        <translation>Campo: come nel &amp;file</translation>
+    </message>
+    <message>
+        <source>Field: as in the &amp;sample</source>
+        <translation>Campo: come nell&apos;e&amp;sempio</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Visualizza</translation>
+    </message>
+    <message>
+        <source>Paper &amp;larger</source>
+        <translation>Carta più &amp;grande</translation>
+    </message>
+    <message>
+        <source>Paper &amp;smaller</source>
+        <translation>Carta più &amp;piccola</translation>
+    </message>
+    <message>
+        <source>Paper in its &amp;own size</source>
+        <translation>Carta nella sua &amp;dimensione</translation>
+    </message>
+    <message>
+        <source>Paper as &amp;wide as its pane</source>
+        <translation>Carta alla &amp;larghezza del riquadro</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuno</translation>
+    </message>
+    <message>
+        <source>The settings file</source>
+        <translation>Il file delle impostazioni</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documenti</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>Read by nothing</source>
+        <translation>Non letto da nulla</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>Im&amp;postazioni</translation>
+    </message>
+    <message>
+        <source>E&amp;xpert</source>
+        <translation>E&amp;sperto</translation>
+    </message>
+    <message>
+        <source>Read by nothing (%1)</source>
+        <translation>Non letto da nulla (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::State</name>
+    <message>
+        <source>%1 on</source>
+        <translation>%1 attivo</translation>
+    </message>
+    <message>
+        <source>%1 off</source>
+        <translation>%1 disattivo</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vuoto</translation>
+    </message>
+    <message>
+        <source>group %1</source>
+        <translation>gruppo %1</translation>
+    </message>
+    <message>
+        <source>%1 not set</source>
+        <translation>%1 non impostato</translation>
+    </message>
+    <message>
+        <source>removal of %1</source>
+        <translation>rimozione di %1</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::SwitchBox</name>
+    <message>
+        <source>on</source>
+        <translation>attivo</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>disattivo</translation>
+    </message>
+    <message>
+        <source>off (&quot;%1&quot;)</source>
+        <translation>disattivo (&quot;%1&quot;)</translation>
+    </message>
+</context>
+<context>
+    <name>korvel::settings::UnreadPane</name>
+    <message>
+        <source>Remove fr&amp;om the file</source>
+        <translation>Togliere &amp;dal file</translation>
+    </message>
+    <message>
+        <source>No document reads these. They are kept when the file is saved.</source>
+        <translation>Nessun documento le legge. Restano quando si salva il file.</translation>
+    </message>
+    <message>
+        <source>Settings and groups that nothing reads</source>
+        <translation>Impostazioni e gruppi che nulla legge</translation>
     </message>
 </context>
 <context>
