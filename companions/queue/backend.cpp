@@ -241,7 +241,7 @@ QString doubtfulCopy(const Request &request)
 {
     Journal journal(journalPath(), Journal::Access::Read);
     for (int copy = 1; copy <= request.copies; ++copy) {
-        const QString id = idOfCopy(request, copy);
+        QString id = idOfCopy(request, copy);
         const auto document = journal.find(id);
         if (document
             && (document->state == delivery::State::Sending

@@ -7,7 +7,10 @@
 
 #include <cups/cups.h>
 
+#include <cerrno>
 #include <cstdio>
+
+#include <sys/stat.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -100,7 +103,10 @@ QString settingsOf(const QString &queue)
 {
     const QString folder = variable("KORVEL_SETTINGS_DIR", u"/etc/korvel-print"_s);
     const QString own = folder + u"/queues/"_s + queue + u"/korvel.conf"_s;
-    return path::kindOf(own) == path::Kind::Nothing ? folder + u"/korvel.conf"_s : own;
+    // What is there and cannot be read is not passed over: the job is refused.
+    struct stat status = {};
+    const bool isThere = ::stat(path::toBytes(own).constData(), &status) == 0 || errno != ENOENT;
+    return isThere ? own : folder + u"/korvel.conf"_s;
 }
 
 QString journalPath() { return variable("KORVEL_JOURNAL", u"/var/lib/korvel-print/journal.db"_s); }

@@ -53,6 +53,18 @@ private slots:
         QCOMPARE(QDir(desk->path("folder/printed")).entryList(QDir::Files).size(), 2);
     }
 
+    /// A file that is no job keeps nobody waiting.
+    void whatIsNoJobIsPassedOver()
+    {
+        QDir().mkpath(desk->path("folder"));
+        writeFile(desk->path("folder/1.xml"), {});
+        put("2.xml", sample("receipt.xml"), 1'000'000'000);
+        QCOMPARE(printFolder().status, 1);
+        QCOMPARE(printer->documents(1), QList<QByteArray>({receipt()}));
+        QVERIFY(!QFile::exists(desk->path("folder/2.xml")));
+        QVERIFY(QFile::remove(desk->path("folder/1.xml")));
+    }
+
     void whatCannotBePrintedStays()
     {
         QDir().mkpath(desk->path("folder"));
