@@ -64,7 +64,10 @@ int main(int argc, char *argv[])
     }
     QString error;
     const auto request = requestOf(korvel::shared::argumentsOf(argc, argv), error);
-    if (!request) {
+    if (request && request->id.isEmpty())
+        error = u"the job has no job-uuid, by which it is sent at most once: print it without "
+                "\"-o job-uuid=\""_s;
+    if (!error.isEmpty()) {
         ignoreStream();
         tell(Level::Error, error);
         return CUPS_BACKEND_CANCEL;

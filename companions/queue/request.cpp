@@ -79,11 +79,6 @@ std::optional<Request> requestOf(const QStringList &arguments, QString &error)
     request.title = arguments.at(3);
     request.copies = std::max(1, arguments.at(4).toInt());
     request.id = options.value("job-uuid");
-    if (request.id.isEmpty()) {
-        error = u"the job has no job-uuid, by which it is sent at most once: print it without "
-                "\"-o job-uuid=\""_s;
-        return {};
-    }
     if (request.id.size() > longestId || shared::inOneLine(request.id) != request.id) {
         error = u"the job's job-uuid is no id: it takes up to "_s + QString::number(longestId)
                 + u" characters that print"_s;
