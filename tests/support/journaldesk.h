@@ -5,6 +5,8 @@
 #include "support/journals.h"
 #include "support/program.h"
 
+namespace korvel::delivery {
+
 inline const QString examplesFolder = KORVEL_SOURCE_DIR "/examples/";
 
 /// A job of the sample shop, its settings, and what they give.
@@ -40,6 +42,8 @@ inline QStringList shownLines(const QByteArray &output)
         lines.removeLast();
     return lines;
 }
+
+} // namespace korvel::delivery
 
 /// Fails the test unless the program ended by itself with that status and said only so much.
 #define VERIFY_SAID(run, itsStatus, output, error)                                                 \

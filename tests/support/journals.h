@@ -13,7 +13,7 @@
 
 #include <sys/stat.h>
 
-using namespace korvel::delivery; // NOLINT: what these tests are about
+namespace korvel::delivery {
 
 /// Where a test's journal is.
 class JournalFolder
@@ -105,3 +105,5 @@ inline qint64 numberIn(const QString &path, const QByteArray &query)
     sqlite::Statement statement(database, query);
     return statement.with().step() ? statement.number(0) : -1;
 }
+
+} // namespace korvel::delivery

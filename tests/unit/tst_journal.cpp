@@ -6,6 +6,8 @@
 
 namespace tst_journal {
 
+using namespace korvel::delivery;
+
 const QList<State> allStates = {State::Accepted, State::Refused, State::NotSent, State::Sending,
                                 State::Sent,     State::InDoubt, State::Printed, State::NotPrinted};
 

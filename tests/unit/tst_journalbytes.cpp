@@ -5,6 +5,8 @@
 
 namespace tst_journalbytes {
 
+using namespace korvel::delivery;
+
 /// A document in every kind of state, with contents and without.
 struct Filled : JournalFolder
 {

@@ -7,6 +7,8 @@
 
 namespace tst_journalcrowd {
 
+using namespace korvel::delivery;
+
 constexpr int processes = 20;
 constexpr int rounds = 8;
 

@@ -15,6 +15,8 @@
 
 namespace tst_journalfaults {
 
+using namespace korvel::delivery;
+
 /// What becomes of the calls of this program that write.
 struct Calls
 {

@@ -8,6 +8,8 @@
 
 namespace tst_journalfile {
 
+using namespace korvel::delivery;
+
 int modeOf(const QString &path)
 {
     struct stat status = {};

@@ -5,6 +5,8 @@
 
 namespace tst_journalforget {
 
+using namespace korvel::delivery;
+
 const QDateTime later = QDateTime::currentDateTimeUtc().addYears(1);
 
 class TestJournalForget : public QObject

@@ -9,6 +9,8 @@
 
 namespace tst_journaloutput {
 
+using namespace korvel::delivery;
+
 const QByteArray unfriendly = "a\033[31m\n\r\xC2\x9B\xE2\x80\xAE";
 
 /// Documents "one", "two" in doubt, "three", which nobody sends any more, and "four".
@@ -81,10 +83,10 @@ private slots:
     {
         const Filled desk;
         const QDateTime time = desk.reader().find("one")->changed;
-        const Run run = desk.run({"list", "--state", "sent"}, {"TZ=XXX-5"}); // five hours ahead
+        const Run run = desk.run({"list", "--state", "sent"}, {"TZ=EAST-5"}); // five hours ahead
         QVERIFY(run.standardOutput.startsWith(
             time.addSecs(5 * 3600).toUTC().toString("yyyy-MM-dd HH:mm:ss  ").toUtf8()));
-        const Run json = desk.run({"list", "--state", "sent", "--json"}, {"TZ=XXX-5"});
+        const Run json = desk.run({"list", "--state", "sent", "--json"}, {"TZ=EAST-5"});
         QVERIFY(json.standardOutput.contains(
             "\"changed\":\"" + time.toUTC().toString("yyyy-MM-ddTHH:mm:ss.zzzZ").toUtf8() + '"'));
     }

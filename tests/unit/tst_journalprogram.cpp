@@ -10,6 +10,8 @@
 
 namespace tst_journalprogram {
 
+using namespace korvel::delivery;
+
 /// Documents "sent", "doubt", "left", which nobody sends any more, and "waiting".
 struct Filled : JournalDesk
 {

@@ -5,6 +5,8 @@
 
 namespace tst_journalverify {
 
+using namespace korvel::delivery;
+
 /// Events 1 to 3 of "a", 4 and 5 of "b".
 struct Filled : JournalFolder
 {
