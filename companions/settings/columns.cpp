@@ -4,16 +4,16 @@
 #include "companions/settings/fields.h"
 #include "companions/settings/state.h"
 #include "vocabulary/columns.h"
+#include "vocabulary/limits.h"
 #include "vocabulary/paper.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace korvel::settings {
 
 namespace {
 
-constexpr int widest = 65536;
+constexpr int widest = vocabulary::limit::widestPad;
 
 /// The style of a document's items; null for one without columns.
 const vocabulary::RowStyle *styleOf(vocabulary::Document document)

@@ -2,10 +2,10 @@
 #include "companions/settings/editors.h"
 
 #include "companions/settings/fields.h"
+#include "vocabulary/limits.h"
 #include "vocabulary/settings.h"
 
 #include <QCoreApplication>
-
 #include <QDir>
 #include <QLocale>
 #include <QSignalBlocker>
@@ -17,8 +17,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace korvel::settings {
 
 namespace {
-
-constexpr int most = 65536; // characters or lines that the renderer pads with
 
 // What an entry of the list of catalogues stands for.
 constexpr int folderRole = Qt::UserRole;
@@ -50,7 +48,7 @@ NumberBox::NumberBox(int least, int standard, QWidget *parent)
     : QSpinBox(parent)
     , standardNumber(standard)
 {
-    setRange(least - 1, most);
+    setRange(least - 1, vocabulary::limit::widestPad);
     setKeyboardTracking(false);
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QSpinBox::valueChanged, this, [this](int number) {

@@ -49,7 +49,7 @@ FieldRow::FieldRow(State &settings, const QStringList &setting, const QStringLis
     : QWidget(parent)
     , state(settings)
     , settingPath(setting)
-    , meaning(hints::translatedPlain(meaningOf(setting.constLast())))
+    , meaning(hints::translated(meaningOf(setting.constLast())))
     , editor(makeEditor(catalogues))
     , label(new QLabel)
     , meaningLabel(new QLabel(meaning))

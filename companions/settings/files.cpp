@@ -2,7 +2,6 @@
 #include "companions/preview/picture.h"
 #include "companions/preview/rollpdf.h"
 #include "companions/settings/expertpane.h"
-#include "companions/settings/formpane.h"
 #include "companions/settings/jobs.h"
 #include "companions/settings/paperpane.h"
 #include "companions/settings/window.h"

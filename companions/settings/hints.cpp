@@ -4,6 +4,7 @@
 #include "companions/check/checks.h"
 #include "companions/check/settingsfile.h"
 #include "companions/check/vocabulary.h"
+#include "companions/settings/state.h"
 #include "config/config.h"
 
 #include <QApplication>
@@ -76,18 +77,6 @@ void noteRows(QTreeWidgetItem &parent, const QStringList &path, Rows &rows)
     }
 }
 
-/// Names of the groups that a row stands in and its own, without the file's; a value's row counts
-/// as its setting's.
-QStringList pathOf(const QTreeWidgetItem *row)
-{
-    QStringList path;
-    if (row->parent() && Config::isSetting(row->parent()))
-        row = row->parent();
-    for (; row->parent(); row = row->parent())
-        path.prepend(row->text(0));
-    return path;
-}
-
 /// Which documents of a group print by a setting, or read the group.
 QString readBy(vocabulary::Documents documents)
 {
@@ -144,7 +133,7 @@ QString meaningOf(const QTreeWidgetItem *row)
 {
     if (!row)
         return {};
-    const QStringList path = pathOf(row);
+    const QStringList path = State::pathOf(row);
     if (path.size() < 2)
         return {};
     const QString &group = path[1];
@@ -155,12 +144,13 @@ QString meaningOf(const QTreeWidgetItem *row)
     } else if (path.size() == 3 && group == vocabulary::group::language) {
         for (const vocabulary::LanguageSetting &setting : vocabulary::languageSettings()) {
             if (path[2] == setting.key)
-                text = u"<b>"_s + path[2] + u"</b><br>"_s + translated(setting.meaning);
+                text = u"<b>"_s + path[2] + u"</b><br>"_s
+                       + translated(setting.meaning).toHtmlEscaped();
         }
     } else if (path.size() == 3 && documents != 0) {
         if (const vocabulary::Setting *setting = vocabulary::findSetting(path[2]))
-            text = u"<b>"_s + path[2] + u"</b><br>"_s + translated(setting->meaning) + u"<br>"_s
-                   + readBy(setting->documents & documents);
+            text = u"<b>"_s + path[2] + u"</b><br>"_s + translated(setting->meaning).toHtmlEscaped()
+                   + u"<br>"_s + readBy(setting->documents & documents);
     }
     if (!row->toolTip(0).isEmpty())
         text += (text.isEmpty() ? u""_s : u"<br>"_s) + u"<i>"_s + row->toolTip(0).toHtmlEscaped()
@@ -168,9 +158,7 @@ QString meaningOf(const QTreeWidgetItem *row)
     return text;
 }
 
-QString translated(const char *meaning) { return translatedPlain(meaning).toHtmlEscaped(); }
-
-QString translatedPlain(const char *meaning)
+QString translated(const char *meaning)
 {
     return QCoreApplication::translate("vocabulary", meaning).remove(u'`');
 }

@@ -31,10 +31,7 @@ void mark(QTreeWidget &view, const QList<Hint> &found);
 /// What a row means and which documents read it, as rich text; empty for no row.
 QString meaningOf(const QTreeWidgetItem *row);
 
-/// A meaning of the table of settings in the user's language, as rich text.
+/// A meaning of the table of settings in the user's language, as plain text.
 QString translated(const char *meaning);
-
-/// The same as plain text.
-QString translatedPlain(const char *meaning);
 
 } // namespace korvel::settings::hints

@@ -38,7 +38,7 @@ void SettingsWindow::buildFileMenu()
     add(tr("&Open …"), QKeySequence::Open, &SettingsWindow::open);
     QMenu *recent = menu->addMenu(tr("Open &recent"));
     connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecent(*recent); });
-    saveAction = add(tr("&Save"), QKeySequence::Save, &SettingsWindow::save);
+    add(tr("&Save"), QKeySequence::Save, &SettingsWindow::save);
     add(tr("Save &as …"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, &SettingsWindow::saveAs);
     add(tr("Re&vert"), QKeySequence::Refresh, &SettingsWindow::revert);
     menu->addSeparator();

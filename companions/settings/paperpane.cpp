@@ -62,9 +62,6 @@ PaperPane::PaperPane(State &theSettings, const QString &renderer, QWidget *paren
     , findings(new QListWidget)
 {
     build();
-    start.setSingleShot(true);
-    start.setInterval(0);
-    connect(&start, &QTimer::timeout, this, [this] { rendering.render(job, settings); });
     pause.setSingleShot(true);
     pause.setInterval(150ms);
     connect(&pause, &QTimer::timeout, this, [this] {
@@ -196,11 +193,10 @@ void PaperPane::refresh(const QByteArray &newSettings, const QList<hints::Hint> 
     render();
 }
 
-/// What is asked for at a time is rendered once.
 void PaperPane::render()
 {
     ruler->setEdges(shownMethod ? edgesOf(state, *shownMethod) : QList<ColumnEdge>());
-    start.start();
+    rendering.render(job, settings);
 }
 
 void PaperPane::showRendered(const shared::Rendered &rendered)

@@ -100,7 +100,6 @@ private:
     State &state;
     shared::Rendering rendering;
     Origins origins;
-    QTimer start; // of the renderer
     QTimer pause; // until what is lit is looked for anew
     QByteArray settings;
     QList<hints::Hint> hintsFound;

@@ -94,8 +94,7 @@ void PaperView::setZoom(double newFactor)
 
 double PaperView::zoomForWidth(int width) const
 {
-    const int paper = picture ? picture->size().width() : 464;
-    return static_cast<double>(width - 2 * border) / paper;
+    return picture ? static_cast<double>(width - 2 * border) / picture->size().width() : factor;
 }
 
 double PaperView::leftOf(int column) const

@@ -30,7 +30,6 @@ public:
 
     /// Shows these rows, none of them lit.
     void showPaper(const QList<preview::PaperRow> &paperRows);
-    void showMessage(const QString &text);
 
     /// Says why there is no paper.
     void showFailure(const shared::Rendered &rendered);
@@ -48,13 +47,13 @@ public:
     void setZoom(double factor);
     [[nodiscard]] double zoom() const { return factor; }
 
-    /// The zoom at which the paper has this width.
+    /// The zoom at which the paper has this width; the present one while there is no paper.
     [[nodiscard]] double zoomForWidth(int width) const;
 
     /// Where a column begins, from the widget's left.
     [[nodiscard]] double leftOf(int column) const;
 
-    /// The middle of a row's first column.
+    /// The middle of a column in a row.
     [[nodiscard]] QPoint placeOf(int row, int column = 0) const;
 
     /// The message that is shown; empty while the paper is.
@@ -74,6 +73,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void showMessage(const QString &text);
     void showContent();
     [[nodiscard]] QRectF rectOf(int row, const Span &columns) const;
 

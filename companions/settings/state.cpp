@@ -3,9 +3,9 @@
 
 #include "companions/settings/edits.h"
 #include "companions/settings/fields.h"
+#include "companions/settings/jobs.h"
 #include "config/config.h"
 
-#include <QFile>
 #include <QTreeWidget>
 
 using namespace Qt::Literals::StringLiterals;
@@ -107,10 +107,8 @@ State::State(QObject *parent)
     : QObject(parent)
 {
     connect(&stack, &QUndoStack::indexChanged, this, &State::noteChange);
-    QFile file(u":/examples/korvel.conf"_s);
     Config sample;
-    if (file.open(QIODevice::ReadOnly))
-        sample.readBytes(file.readAll(), file.fileName(), u"cfg"_s);
+    sample.readBytes(resource(u":/examples/korvel.conf"_s), {}, u"cfg"_s);
     inSample = valuesOf(*std::unique_ptr<QTreeWidget>(sample.newConfigListView()));
 }
 

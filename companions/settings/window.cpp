@@ -259,7 +259,6 @@ void SettingsWindow::updateTitle()
 {
     setWindowTitle(tr("%1[*] – Korvel settings").arg(QFileInfo(document->path()).fileName()));
     setWindowFilePath(document->path());
-    saveAction->setEnabled(state.view() != nullptr);
 }
 
 void SettingsWindow::restoreSize()

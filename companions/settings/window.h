@@ -10,7 +10,6 @@
 
 #include <memory>
 
-class QAction;
 class QListWidget;
 class QMenu;
 class QSplitter;
@@ -109,7 +108,6 @@ private:
     UnreadPane *unread = nullptr;
     ExpertPane *expert = nullptr;
     PaperPane *paper = nullptr;
-    QAction *saveAction = nullptr;
 };
 
 } // namespace korvel::settings

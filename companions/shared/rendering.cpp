@@ -71,10 +71,12 @@ Rendering::Rendering(QString program, QObject *parent)
     patience.setInterval(10s);
     connect(&patience, &QTimer::timeout, &process, &QProcess::kill);
     connect(&process, &QProcess::finished, this, &Rendering::finish);
-    connect(&process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+    // Queued: what the process does behind this signal would end the next run before it began.
+    const auto noteError = [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart)
             end({End::NotStarted, {}, process.errorString()});
-    });
+    };
+    connect(&process, &QProcess::errorOccurred, this, noteError, Qt::QueuedConnection);
 }
 
 Rendering::~Rendering()
@@ -100,14 +102,15 @@ QString Rendering::findRenderer()
 void Rendering::render(const QByteArray &job, const QByteArray &settings)
 {
     next = Request{job, settings};
-    if (process.state() == QProcess::NotRunning)
-        start(*std::exchange(next, std::nullopt));
-    else
+    if (runs)
         process.kill();
+    else
+        start(*std::exchange(next, std::nullopt));
 }
 
 void Rendering::start(const Request &request)
 {
+    runs = true;
     if (!home.isValid() || !QDir(home.path()).mkpath(QFileInfo(settingsName).path())
         || !write(settingsName, request.settings) || !write(jobName, request.job)) {
         end({End::NoRoom, {}, QDir::tempPath()});
@@ -141,6 +144,7 @@ void Rendering::finish(int status, QProcess::ExitStatus exit)
 /// Goes on with the next request, or gives this one's end.
 void Rendering::end(Rendered rendered)
 {
+    runs = false;
     patience.stop();
     rendered.program = renderer;
     if (next)

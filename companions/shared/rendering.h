@@ -81,7 +81,8 @@ private:
     QString renderer;
     QTemporaryDir home;
     QProcess process;
-    QTimer patience; // a renderer that hangs is stopped
+    QTimer patience;   // a renderer that hangs is stopped
+    bool runs = false; // from start() to end(): the process is gone sooner
     std::optional<Request> next;
 };
 

@@ -7,6 +7,7 @@
 #include "support/settingsfiles.h"
 #include "support/temporaryhome.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QByteArrayList>
 #include <QCheckBox>
@@ -18,6 +19,8 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTreeWidget>
+
+#include <algorithm>
 
 /// The sample receipt on a paper of 40 characters: 19 for the name of an item, 21 in titles.
 inline QStringList receiptOf40()
@@ -193,6 +196,15 @@ public:
         press(Qt::Key_Return);
         if (!QTest::qWaitFor([this] { return QApplication::focusWidget() == tree(); }))
             qFatal("the editor stays open");
+    }
+
+    /// Whether a menu has an entry of this text, without the mark of its key.
+    [[nodiscard]] bool hasAction(const QString &text) const
+    {
+        const auto actions = window.findChildren<QAction *>();
+        return std::any_of(actions.begin(), actions.end(), [&](const QAction *action) {
+            return action->text().remove('&') == text;
+        });
     }
 
     /// A key of the menu.

@@ -154,6 +154,31 @@ private slots:
         }
     }
 
+    // What is asked for while a run fails to start, or when it has, is not lost.
+    void aRunThatFailsToStartGivesWayToTheNext()
+    {
+        const QTemporaryDir folder;
+        Rendering rendering(folder.filePath("renderer"));
+        QSignalSpy ended(&rendering, &Rendering::ended);
+        rendering.render("<first/>", {});
+        rendering.render("<second/>", {});
+        QVERIFY(ended.wait(longEnough));
+        QCOMPARE(ended.size(), 1);
+        QCOMPARE(first(ended).end, End::NotStarted);
+        ended.clear();
+
+        connect(&rendering, &Rendering::ended, this, [&](const Rendered &outcome) {
+            if (outcome.end == End::NotStarted) {
+                script(folder, "cp \"$1\" \"$2\"\n");
+                rendering.render("<fourth/>", {});
+            }
+        });
+        rendering.render("<third/>", {});
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 2, longEnough);
+        QCOMPARE(first(ended).end, End::NotStarted);
+        QCOMPARE(ended[1][0].value<Rendered>().stream, QByteArray("<fourth/>"));
+    }
+
     void noRendererIsInstalled()
     {
         const Rendered none = rendered("<job/>", {}, "korvel-print-that-is-not-there");

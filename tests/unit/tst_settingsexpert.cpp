@@ -4,7 +4,6 @@
 #include "support/settingsview.h"
 #include "support/test.h"
 
-#include <QAction>
 #include <QPushButton>
 #include <QTimer>
 
@@ -105,10 +104,10 @@ private slots:
         Editor editor(home.settingsPath());
         editor.edit("receiptdoc.paperWidth", "40");
         editor.edit("receiptdoc.printDate", "false");
-        QVERIFY2(hasAction(editor, "Undo date off"), "no action names the edit");
+        QVERIFY2(editor.hasAction("Undo date off"), "no action names the edit");
         editor.shortcut(Qt::Key_Z);
-        QVERIFY(hasAction(editor, "Undo paper width 40"));
-        QVERIFY(hasAction(editor, "Redo date off"));
+        QVERIFY(editor.hasAction("Undo paper width 40"));
+        QVERIFY(editor.hasAction("Redo date off"));
         QCOMPARE(editor.valueRow("receiptdoc.printDate")->text(0), QString("true"));
         QVERIFY(editor.window.isWindowModified());
         editor.shortcut(Qt::Key_Z);
@@ -207,7 +206,7 @@ private slots:
         editor.tree()->setCurrentItem(editor.valueRow("solddoc.style"));
         button(editor, "remove")->click();
         QVERIFY(!rowAt(*editor.tree(), "korvel.solddoc"));
-        QVERIFY(hasAction(editor, "Undo style not set"));
+        QVERIFY(editor.hasAction("Undo style not set"));
         editor.save();
         QVERIFY(!bytesOf(home.settingsPath()).contains("style"));
         editor.shortcut(Qt::Key_Z);
@@ -215,7 +214,7 @@ private slots:
         QCOMPARE(rowsOf(*editor.tree()), rows);
         editor.tree()->setCurrentItem(rowAt(*editor.tree(), "korvel.doc"));
         Editor::press(Qt::Key_Delete);
-        QVERIFY(hasAction(editor, "Undo removal of doc"));
+        QVERIFY(editor.hasAction("Undo removal of doc"));
         QVERIFY(rowAt(*editor.tree(), "korvel.solddoc.style"));
     }
 
@@ -232,14 +231,6 @@ private slots:
     }
 
 private:
-    static bool hasAction(const Editor &editor, const QString &text)
-    {
-        const auto actions = editor.window.findChildren<QAction *>();
-        return std::any_of(actions.begin(), actions.end(), [&](const QAction *action) {
-            return action->text().remove('&') == text;
-        });
-    }
-
     static QPushButton *button(const Editor &editor, const QString &name)
     {
         auto *found = editor.window.findChild<QPushButton *>(name);

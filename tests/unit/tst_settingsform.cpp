@@ -7,7 +7,6 @@
 #include "support/test.h"
 
 #include <QAccessible>
-#include <QAction>
 #include <QPushButton>
 
 namespace tst_settingsform {
@@ -55,7 +54,7 @@ private slots:
         typeNumber(editor, "receiptdoc.paperWidth", "40");
         QTRY_COMPARE_WITH_TIMEOUT(editor.stream(), receiptOf40(), longEnough);
         QCOMPARE(editor.valueRow("receiptdoc.paperWidth")->text(0), QString("40"));
-        QVERIFY(hasAction(editor, "Undo paper width 40"));
+        QVERIFY(editor.hasAction("Undo paper width 40"));
         QTRY_VERIFY(editor.number("receiptdoc.paperWidth")
                         ->accessibleDescription()
                         .contains("Too wide for the paper"));
@@ -103,7 +102,7 @@ private slots:
         QCOMPARE(editor.valueRow("receiptdoc.printDate")->text(0), QString("false"));
         Editor::press(Qt::Key_N, Qt::ControlModifier);
         QCOMPARE(date->checkState(), Qt::PartiallyChecked);
-        QVERIFY(hasAction(editor, "Undo date not set"));
+        QVERIFY(editor.hasAction("Undo date not set"));
         for (int i = 0; i < 3; ++i)
             undo(editor);
         QVERIFY(!editor.window.isWindowModified());
@@ -281,14 +280,6 @@ private:
     }
 
     static void undo(Editor &editor) { editor.shortcut(Qt::Key_Z); }
-
-    static bool hasAction(const Editor &editor, const QString &text)
-    {
-        const auto actions = editor.window.findChildren<QAction *>();
-        return std::any_of(actions.begin(), actions.end(), [&](const QAction *action) {
-            return action->text().remove('&') == text;
-        });
-    }
 
     Answers answers;
 };
