@@ -90,6 +90,8 @@ std::optional<Document> Journal::find(const QString &id)
 
 Contents Journal::contentsOf(const Document &document)
 {
+    if (document.forgotten)
+        return {{}, {}, {}, {}, {}, document.charset};
     Statement stored(*database, "SELECT bytes FROM contents WHERE hash = ?");
     const auto load = [&](const QByteArray &hash) {
         return !hash.isEmpty() && stored.with(hash).step() ? stored.bytes(0) : QByteArray();

@@ -36,8 +36,7 @@ public:
     {
         if (!failure.isEmpty())
             return;
-        const delivery::Contents then =
-            document.forgotten ? delivery::Contents() : journal.contentsOf(document);
+        const delivery::Contents then = journal.contentsOf(document);
         if (then.job.isEmpty() || then.rendered.isEmpty()) {
             ++without;
             return;
