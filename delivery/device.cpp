@@ -1,7 +1,7 @@
 // What all devices share: handing bytes over, and dropping what the printer says.
 #include "delivery/device.h"
 
-#include "delivery/lease.h"
+#include "companions/shared/oneline.h"
 
 #include <algorithm>
 #include <array>
@@ -14,6 +14,11 @@ namespace korvel::delivery {
 QString reasonFor(const QString &device, int error)
 {
     return device + u" cannot be reached: "_s + qt_error_string(error);
+}
+
+QString tooSlow(std::chrono::seconds patience)
+{
+    return u"the printer took no byte for "_s + shared::counted(patience.count(), u"second"_s);
 }
 
 bool Connection::isAlive(QString &error)
@@ -41,6 +46,15 @@ Connection::Heard Connection::dropInput() const
     return errno == EAGAIN ? Heard::Nothing : Heard::Error;
 }
 
+bool Connection::isGone(Heard heard, QString &error)
+{
+    if (heard != Heard::End && heard != Heard::Error)
+        return false;
+    error = heard == Heard::Error ? qt_error_string()
+                                  : u"the printer closed the connection too early"_s;
+    return true;
+}
+
 bool Connection::handOver(QByteArrayView bytes, std::chrono::seconds patience, bool reads,
                           QString &error) const
 {
@@ -51,15 +65,11 @@ bool Connection::handOver(QByteArrayView bytes, std::chrono::seconds patience, b
         const short told = waitFor(descriptor, events, deadline);
         const Heard heard = reads && (told & POLLIN) != 0 ? dropInput() : Heard::Nothing;
         if (told == 0 || deadline.hasExpired()) {
-            error = u"the printer took no byte for "_s + QString::number(patience.count())
-                    + u" seconds"_s;
+            error = tooSlow(patience);
             return false;
         }
-        if (heard == Heard::End || heard == Heard::Error) {
-            error = heard == Heard::Error ? qt_error_string()
-                                          : u"the printer closed the connection too early"_s;
+        if (isGone(heard, error))
             return false;
-        }
         if ((told & (POLLOUT | POLLERR | POLLHUP)) == 0)
             continue;
         const ssize_t count =
@@ -72,6 +82,31 @@ bool Connection::handOver(QByteArrayView bytes, std::chrono::seconds patience, b
             bytes = bytes.sliced(count);
             deadline.setRemainingTime(patience);
         }
+    }
+    return true;
+}
+
+bool Connection::waitUntilNone(const std::function<qint64()> &left, std::chrono::seconds patience,
+                               QString &error) const
+{
+    constexpr std::chrono::milliseconds longest(20);
+    std::chrono::milliseconds pause(1);
+    QDeadlineTimer deadline(patience);
+    for (qint64 before = left(); before != 0;) {
+        if (before < 0 || deadline.hasExpired()) {
+            error = before < 0 ? qt_error_string() : tooSlow(patience);
+            return false;
+        }
+        const Heard heard = dropInput();
+        const qint64 now = left();
+        if (now != 0 && isGone(heard, error))
+            return false;
+        if (now >= 0 && now < before)
+            deadline.setRemainingTime(patience);
+        before = now;
+        if (now > 0)
+            waitFor(descriptor, 0, QDeadlineTimer(pause));
+        pause = std::min(pause * 2, longest);
     }
     return true;
 }

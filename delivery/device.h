@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -49,14 +50,16 @@ protected:
     /// What reading what the printer says came to.
     enum class Heard { Nothing, Something, End, Error };
     [[nodiscard]] Heard dropInput() const;
+    /// Whether nobody can take anything any more, with the reason in one line.
+    [[nodiscard]] static bool isGone(Heard heard, QString &error);
 
     /// Hands all bytes to the system.
     bool handOver(QByteArrayView bytes, std::chrono::seconds patience, bool reads,
                   QString &error) const;
 
-    /// Waits until a number, of bytes that are still under way, is 0.
-    template<typename Number>
-    bool waitUntilNone(const Number &left, std::chrono::seconds patience, QString &error) const;
+    /// Waits until a number, of bytes that are still under way, is 0; below 0 it is not known.
+    bool waitUntilNone(const std::function<qint64()> &left, std::chrono::seconds patience,
+                       QString &error) const;
 
     const Descriptor descriptor;
 };
@@ -88,40 +91,11 @@ Places placesOf(const DeviceName &device, const QDeadlineTimer &deadline, QStrin
 /// What an error of the system says of a device, in one line.
 QString reasonFor(const QString &device, int error);
 
+/// What there is to say of a printer that took no byte for so long.
+QString tooSlow(std::chrono::seconds patience);
+
 // Places by the kind of the device, for placesOf().
 Places networkPlaces(const DeviceName &device, const QDeadlineTimer &deadline, QString &error);
 Places filePlaces(const DeviceName &device, QString &error);
-
-template<typename Number>
-bool Connection::waitUntilNone(const Number &left, std::chrono::seconds patience,
-                               QString &error) const
-{
-    using namespace Qt::Literals::StringLiterals;
-    constexpr std::chrono::milliseconds longest(20);
-    std::chrono::milliseconds pause(1);
-    QDeadlineTimer deadline(patience);
-    for (qint64 before = left(); before != 0;) {
-        if (before < 0 || deadline.hasExpired()) {
-            error = before < 0 ? qt_error_string()
-                               : u"the printer took no byte for "_s
-                                     + QString::number(patience.count()) + u" seconds"_s;
-            return false;
-        }
-        const Heard heard = dropInput();
-        const qint64 now = left();
-        if (now != 0 && (heard == Heard::End || heard == Heard::Error)) {
-            error = heard == Heard::Error ? qt_error_string()
-                                          : u"the printer closed the connection too early"_s;
-            return false;
-        }
-        if (now >= 0 && now < before)
-            deadline.setRemainingTime(patience);
-        before = now;
-        if (now > 0)
-            waitFor(descriptor, 0, QDeadlineTimer(pause));
-        pause = std::min(pause * 2, longest);
-    }
-    return true;
-}
 
 } // namespace korvel::delivery

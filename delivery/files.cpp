@@ -52,11 +52,6 @@ private:
     bool isSet = false;
 };
 
-QString tooSlow(std::chrono::seconds patience)
-{
-    return u"the printer took no byte for "_s + QString::number(patience.count()) + u" seconds"_s;
-}
-
 /// A serial line, or another terminal.
 class LineConnection : public Connection
 {

@@ -61,35 +61,36 @@ std::optional<Document> Journal::find(const QString &id)
                              " JOIN events AS first ON first.number = documents.first"
                              " JOIN events AS last ON last.number = documents.last"
                              " WHERE documents.id = ?");
-    Statement taken(*database, "SELECT * FROM events WHERE number = ?");
     std::optional<Transaction> transaction;
     if (!database->inTransaction())
         transaction.emplace(*database, Transaction::Kind::Read);
     if (!row.with(toBytes(id)).step())
         return {};
     const Row numbers = rowAt(row);
-    if (!taken.with(numbers.taken).step())
+    const auto contents = recordOf(*database, numbers.taken);
+    if (!contents)
         return {};
-    const Record contents = recordAt(taken);
     return Document{id,
                     stateOf(*database, numbers),
                     timeOf(row.bytes(6)),
                     timeOf(row.bytes(7)),
                     fromBytes(row.bytes(8)),
-                    fromBytes(contents.origin),
+                    fromBytes(contents->origin),
                     row.bytes(10),
                     fromBytes(row.bytes(9)),
-                    contents.job,
-                    contents.settings,
-                    contents.catalogue,
-                    contents.rendered,
-                    contents.sent,
-                    QString::fromUtf8(contents.charset),
+                    contents->job,
+                    contents->settings,
+                    contents->catalogue,
+                    contents->rendered,
+                    contents->sent,
+                    QString::fromUtf8(contents->charset),
                     numbers.forgotten > numbers.taken};
 }
 
 Contents Journal::contentsOf(const Document &document)
 {
+    if (document.forgotten)
+        return {{}, {}, {}, {}, {}, document.charset};
     Statement stored(*database, "SELECT bytes FROM contents WHERE hash = ?");
     const auto load = [&](const QByteArray &hash) {
         return !hash.isEmpty() && stored.with(hash).step() ? stored.bytes(0) : QByteArray();
@@ -148,10 +149,6 @@ QList<Event> Journal::events(const QString &id)
     return events;
 }
 
-Head Journal::head()
-{
-    Statement last(*database, "SELECT number, hash FROM events ORDER BY number DESC LIMIT 1");
-    return last.with().step() ? Head{last.number(0), last.bytes(1)} : Head{};
-}
+Head Journal::head() { return lastEvent(*database); }
 
 } // namespace korvel::delivery

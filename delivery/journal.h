@@ -114,7 +114,8 @@ public:
     /// A document by its id; nothing when there is none.
     std::optional<Document> find(const QString &id);
 
-    /// What a document was made of; the parts that were forgotten are empty.
+    /// What a document was made of; all parts of one that was forgotten are empty, whoever else
+    /// has the same.
     Contents contentsOf(const Document &document);
 
     /**

@@ -7,6 +7,12 @@ namespace korvel::delivery {
 
 using sqlite::Statement;
 
+Head lastEvent(sqlite::Database &database)
+{
+    Statement last(database, "SELECT number, hash FROM events ORDER BY number DESC LIMIT 1");
+    return last.step() ? Head{last.number(0), last.bytes(1)} : Head{};
+}
+
 Row rowAt(const Statement &statement)
 {
     return {statement.bytes(0),  statement.bytes(1),  statement.number(2),
@@ -72,12 +78,9 @@ QList<QByteArray> contentsIn(const Record &record)
 
 void append(sqlite::Database &database, Record record)
 {
-    Statement last(database, "SELECT number, hash FROM events ORDER BY number DESC LIMIT 1");
-    if (last.with().step()) {
-        record.number = last.number(0);
-        record.previous = last.bytes(1);
-    }
-    ++record.number;
+    const Head last = lastEvent(database);
+    record.number = last.number + 1;
+    record.previous = last.hash;
     record.time = textOf(QDateTime::currentDateTimeUtc());
     record.hash = hashOf(record);
     Statement(database,

@@ -27,6 +27,9 @@ struct Row
     bool operator!=(const Row &other) const { return !(*this == other); }
 };
 
+/// The last event of all; its number is 0 where there is none.
+Head lastEvent(sqlite::Database &database);
+
 /// The row in which a statement is, its columns those of the table.
 Row rowAt(const sqlite::Statement &statement);
 

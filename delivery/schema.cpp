@@ -2,14 +2,13 @@
 #include "delivery/schema.h"
 
 #include "config/path.h"
+#include "delivery/descriptor.h"
 
-#include <cerrno>
 #include <iterator>
 #include <optional>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -76,12 +75,6 @@ constexpr const char *steps[] = {
 };
 constexpr qint64 presentVersion = std::size(steps);
 
-qint64 numberOf(sqlite::Database &database, const char *sql)
-{
-    sqlite::Statement statement(database, sql);
-    return statement.step() ? statement.number(0) : 0;
-}
-
 /// The version of the schema in a file; complains of a file that is no journal, or a newer one.
 qint64 versionOf(sqlite::Database &database)
 {
@@ -117,11 +110,9 @@ void syncFolderOf(const QByteArray &path)
 {
     const qsizetype slash = path.lastIndexOf('/');
     const QByteArray folder = slash < 0 ? "." : path.first(slash + 1);
-    const int descriptor = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0)
-        return; // one that may be written and not read; the database syncs it too
-    ::fsync(descriptor);
-    ::close(descriptor);
+    const Descriptor opened(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened.isOpen()) // one may be written and not read; the database syncs it too
+        ::fsync(opened.number());
 }
 
 /// Makes the folders of a path that are not there, for this user alone.
@@ -154,15 +145,14 @@ void makeFile(const QString &path, mode_t mode)
     const QByteArray bytes = korvel::path::toBytes(path);
     if (path == Journal::userPath())
         makeFolders(bytes);
-    const int descriptor = ::open(bytes.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-    if (descriptor < 0) {
+    const Descriptor made(::open(bytes.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (!made.isOpen()) {
         if (errno == EEXIST)
             return makePrivate(path, mode);
         throw JournalError(path + u": it cannot be made: "_s + qt_error_string()
                            + u"; see that its folder is there and may be written"_s);
     }
-    ::fchmod(descriptor, mode);
-    ::close(descriptor);
+    ::fchmod(made.number(), mode);
     syncFolderOf(bytes);
 }
 

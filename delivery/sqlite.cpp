@@ -146,6 +146,12 @@ void Statement::expect(int result)
         database.fail();
 }
 
+qint64 numberOf(Database &database, const QByteArray &sql)
+{
+    Statement query(database, sql);
+    return query.step() ? query.number(0) : 0;
+}
+
 Transaction::Transaction(Database &of, Kind kind)
     : database(of)
 {

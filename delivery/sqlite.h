@@ -95,6 +95,9 @@ private:
     std::unique_ptr<sqlite3_stmt, Finalize> statement;
 };
 
+/// The number that a query gives; 0 where it gives none.
+qint64 numberOf(Database &database, const QByteArray &sql);
+
 /// A transaction, which is undone unless it is committed.
 class Transaction
 {

@@ -89,7 +89,6 @@ private:
     void lookAt(const Record &record);
     void lookAtUses(const Record &record);
     void lookAtDocuments();
-    qint64 count(const char *sql);
 
     sqlite::Database &database;
     const std::optional<Head> &kept;
@@ -109,16 +108,11 @@ private:
 
 QString eventName(qint64 number) { return u"event "_s + QString::number(number); }
 
-qint64 Verifier::count(const char *sql)
-{
-    Statement counting(database, sql);
-    return counting.with().step() ? counting.number(0) : 0;
-}
-
 /// Each text by itself, so that a delivery waits for one at most.
 void Verifier::lookAtContents()
 {
-    all = count("SELECT (SELECT count(*) FROM events) + (SELECT count(*) FROM contents)");
+    all = numberOf(database,
+                   "SELECT (SELECT count(*) FROM events) + (SELECT count(*) FROM contents)");
     QByteArray hash;
     bool more = true;
     while (more) {
@@ -235,7 +229,7 @@ void Verifier::lookAtDocuments()
     }
     if (known != rows.size())
         flaw(u"documents: "_s + QString::number(rows.size() - known) + u" are missing"_s);
-    if (count("SELECT count(*) FROM uses") != allUses)
+    if (numberOf(database, "SELECT count(*) FROM uses") != allUses)
         flaw(u"contents: some are held for events that do not have them"_s);
     Statement unused(database, "SELECT hash FROM contents"
                                " WHERE hash NOT IN (SELECT hash FROM uses)");

@@ -2,6 +2,7 @@
 #include "companions/deliver/document.h"
 
 #include "companions/deliver/preparation.h"
+#include "companions/shared/commandline.h"
 #include "companions/shared/files.h"
 #include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
@@ -14,9 +15,6 @@
 #include <cstdio>
 #include <utility>
 
-#include <pwd.h>
-#include <unistd.h>
-
 using namespace Qt::Literals::StringLiterals;
 using korvel::delivery::Contents;
 using korvel::delivery::End;
@@ -26,13 +24,6 @@ using korvel::delivery::Outcome;
 namespace korvel::deliver {
 
 namespace {
-
-/// The name of who runs the program.
-QString userName()
-{
-    const passwd *const user = ::getpwuid(::getuid());
-    return user ? QString::fromLocal8Bit(user->pw_name) : QString::number(::getuid());
-}
 
 /// Says that a file cannot be used.
 Status misused(const QString &path, const QString &error)
@@ -49,7 +40,7 @@ Document::Document(const Task &given, delivery::Journal *openJournal, QString pa
     , file(std::move(path))
     , id(!task.id.isEmpty() || task.isDry ? task.id
                                           : QUuid::createUuid().toString(QUuid::WithoutBraces))
-    , origin(userName() + u": "_s + file)
+    , origin(shared::userName() + u": "_s + file)
 {
 }
 
@@ -99,22 +90,18 @@ Status Document::run()
 
 QString Document::settingsPath() const
 {
-    return task.settings.isEmpty() ? path::home() + "/.korvel/conf/korvel.conf"_L1 : task.settings;
+    return task.settings.isEmpty() ? path::home() + path::settingsInHome : task.settings;
 }
 
 /// Reads the settings for a job; the status to end with where they cannot be read.
 std::optional<Status> Document::readSettings(QByteArray &settings, const QByteArray &job)
 {
     const QString named = settingsPath();
-    const path::Kind kind = path::kindOf(named);
-    if (task.settings.isEmpty() && kind == path::Kind::Nothing)
+    if (task.settings.isEmpty() && path::kindOf(named) == path::Kind::Nothing)
         return refused(madeFrom(job, {}, task.charset),
                        u"there are no settings in "_s + named + u"; --settings names others"_s);
-    // The renderer reads its settings from nothing else.
-    if (named == "-"_L1 || kind == path::Kind::Other)
-        return misused(named, u"no regular file"_s);
     QString error;
-    const auto bytes = shared::readWhole(named, largestDocument, error);
+    const auto bytes = shared::readSettings(named, error, largestDocument);
     if (!bytes)
         return misused(named, error);
     settings = *bytes;

@@ -10,8 +10,8 @@
 
 namespace korvel::deliver {
 
-/// Bytes of a job or a stream, and of a settings file, that are taken at most; what is larger is
-/// refused.
+/// Bytes of a job or a stream, and of a settings file, that are taken at most. A larger job or
+/// stream is refused.
 inline constexpr qint64 largestDocument = 50'000'000;
 
 /// What came of preparing a document.

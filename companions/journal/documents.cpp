@@ -1,4 +1,4 @@
-// Documents found, and those that nobody sends any more.
+// Documents that nobody sends any more, and ids that no document has.
 #include "companions/journal/documents.h"
 
 #include "companions/shared/output.h"
@@ -17,20 +17,6 @@ int noDocument(const QString &id)
 {
     shared::trouble(u"there is no document "_s + id);
     return shared::Findings;
-}
-
-bool forEach(delivery::Journal &journal, const QString &id,
-             const std::function<void(const delivery::Document &)> &take,
-             const delivery::Progress &progress)
-{
-    if (id.isEmpty()) {
-        journal.eachDocument({}, {}, take, progress);
-        return true;
-    }
-    const auto document = journal.find(id);
-    if (document)
-        take(*document);
-    return document.has_value();
 }
 
 } // namespace korvel::journal

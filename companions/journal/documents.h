@@ -12,11 +12,4 @@ bool isAbandoned(const delivery::Document &document);
 /// Says in one line that there is no document of that id; gives the status to end with.
 int noDocument(const QString &id);
 
-/// Calls a function for a document, or for all when the id is empty; others may write meanwhile.
-///
-/// @return false when there is no document of that id
-bool forEach(delivery::Journal &journal, const QString &id,
-             const std::function<void(const delivery::Document &)> &take,
-             const delivery::Progress &progress = {});
-
 } // namespace korvel::journal

@@ -1,6 +1,5 @@
 // korvel-journal forget: contents go, the chain stays.
 #include "companions/journal/subcommands.h"
-#include "companions/journal/words.h"
 #include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
 

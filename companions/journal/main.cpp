@@ -7,8 +7,6 @@
 
 #include <QCoreApplication>
 
-#include <iterator>
-
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
 
@@ -102,6 +100,16 @@ QString description()
     return text;
 }
 
+/// All states, for a message.
+QString stateNames()
+{
+    QStringList names;
+    for (const delivery::StateInfo &row : delivery::stateTable)
+        names.append(row.name);
+    const QString last = names.takeLast();
+    return names.join(u", "_s) + u" or "_s + last;
+}
+
 /// Reads the values of the options; why one does not fit, empty when all do.
 QString readOptions(const QCommandLineParser &parser, Call &call)
 {
@@ -113,9 +121,7 @@ QString readOptions(const QCommandLineParser &parser, Call &call)
     if (parser.isSet(stateOption)) {
         call.state = delivery::stateNamed(parser.value(stateOption));
         if (!call.state)
-            return u"--state takes accepted, refused, not-sent, sending, sent, in-doubt, printed "
-                   u"or "
-                   "not-printed"_s;
+            return u"--state takes "_s + stateNames();
     }
     for (const auto &[option, time] :
          {std::pair(&sinceOption, &call.since), std::pair(&beforeOption, &call.before)}) {

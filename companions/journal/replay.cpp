@@ -1,7 +1,6 @@
 // korvel-journal replay: documents rendered again, by today's renderer, and held against then.
 #include "companions/journal/documents.h"
 #include "companions/journal/subcommands.h"
-#include "companions/journal/words.h"
 #include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
 #include "companions/shared/progress.h"
@@ -36,8 +35,7 @@ public:
     {
         if (!failure.isEmpty())
             return;
-        const delivery::Contents then =
-            document.forgotten ? delivery::Contents() : journal.contentsOf(document);
+        const delivery::Contents then = journal.contentsOf(document);
         if (then.job.isEmpty() || then.rendered.isEmpty()) {
             ++without;
             return;
@@ -84,12 +82,19 @@ int replay(const Call &call)
 {
     delivery::Journal journal(call.journal, delivery::Journal::Access::Read);
     Replay replay(journal);
+    if (!call.id.isEmpty()) {
+        const auto document = journal.find(call.id);
+        if (!document)
+            return noDocument(call.id);
+        replay.add(*document);
+        return replay.end();
+    }
     ProgressLine progress(u"rendering"_s);
-    const bool found = forEach(
-        journal, call.id, [&](const delivery::Document &document) { replay.add(document); },
+    journal.eachDocument(
+        {}, {}, [&](const delivery::Document &document) { replay.add(document); },
         [&](qint64 done, qint64 all) { progress.show(done, all); });
     progress.clear();
-    return found ? replay.end() : noDocument(call.id);
+    return replay.end();
 }
 
 } // namespace korvel::journal

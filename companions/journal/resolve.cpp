@@ -1,11 +1,9 @@
 // korvel-journal resolve: what a person saw on the paper.
 #include "companions/journal/documents.h"
 #include "companions/journal/subcommands.h"
+#include "companions/shared/commandline.h"
 #include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
-
-#include <pwd.h>
-#include <unistd.h>
 
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
@@ -15,13 +13,6 @@ namespace korvel::journal {
 namespace {
 
 using delivery::State;
-
-/// Who says so.
-QString user()
-{
-    const passwd *const entry = ::getpwuid(::getuid());
-    return entry ? QString::fromLocal8Bit(entry->pw_name) : QString::number(::getuid());
-}
 
 QString quoted(const QString &id) { return u"document "_s + inOneLine(id); }
 
@@ -38,7 +29,7 @@ int resolve(const Call &call)
         journal.change(call.id, State::InDoubt, document->device,
                        u"the process that sent it is gone"_s);
     const State before =
-        journal.change(call.id, call.resolution, document->device, u"said by "_s + user());
+        journal.change(call.id, call.resolution, document->device, u"said by "_s + userName());
     const QString now = quoted(call.id) + u": "_s + infoOf(call.resolution).name;
     if (before == call.resolution)
         return writeOut(now + u" already\n"_s, Clean);

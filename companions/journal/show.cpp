@@ -71,8 +71,7 @@ int show(const Call &call)
     const auto document = journal.find(call.id);
     if (!document)
         return noDocument(call.id);
-    // Another document may have the same contents still.
-    const Contents contents = document->forgotten ? Contents() : journal.contentsOf(*document);
+    const Contents contents = journal.contentsOf(*document);
     if (call.part)
         return showPart(*document, contents, *call.part);
 

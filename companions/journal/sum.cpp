@@ -1,9 +1,9 @@
 // korvel-journal sum: documents, and what they registered.
 #include "companions/journal/documents.h"
 #include "companions/journal/subcommands.h"
-#include "companions/journal/words.h"
 #include "companions/paper/amounts.h"
 #include "companions/paper/decoder.h"
+#include "companions/paper/ledger.h"
 #include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
 #include "companions/shared/progress.h"
@@ -29,35 +29,41 @@ struct Kind
     Section section;
     QLatin1StringView name;
     qint64 documents = 0;
-    Amount amount = {};
-    qint64 uncounted = 0; // rows that are no plain numbers, or too much
 };
 
-/// What a stream is, and what its fiscal sections register.
-void add(Kind (&kinds)[3], const QByteArray &stream)
+/// What documents register, whatever they begin with.
+struct Registered
+{
+    Amount amount = {};
+    qint64 uncounted = 0; // rows that are no plain numbers, or too much
+
+    void add(const preview::Sum &sum)
+    {
+        uncounted += sum.uncounted;
+        if (!amount.add(sum.amount))
+            uncounted += sum.counted;
+    }
+};
+
+/// Counts a stream by its kind, and what its fiscal sections register.
+void add(Kind (&kinds)[3], Registered &registered, const QByteArray &stream)
 {
     preview::Decoder decoder(stream);
-    Kind *kind = nullptr;
-    bool registers = false; // in a fiscal section
+    preview::Ledger ledger;
+    bool isCounted = false;
     while (const auto command = decoder.next()) {
-        const bool opens = command->kind == Command::Kind::SectionOpened;
-        if (opens && !kind) {
-            kind = std::find_if(std::begin(kinds), std::end(kinds),
-                                [&](const Kind &row) { return row.section == command->section; });
+        if (command->kind == Command::Kind::SectionOpened && !isCounted) {
+            Kind *const kind =
+                std::find_if(std::begin(kinds), std::end(kinds),
+                             [&](const Kind &row) { return row.section == command->section; });
             ++kind->documents;
+            isCounted = true;
         }
-        if (opens || command->kind == Command::Kind::SectionClosed)
-            registers = opens && command->section == Section::Fiscal;
-        const bool deduction = command->kind == Command::Kind::Deduction;
-        if (!registers || (!deduction && command->kind != Command::Kind::SaleRow))
-            continue;
-        auto amount = deduction ? Amount::of(command->amount)
-                                : Amount::of(command->amount, command->quantity);
-        if (amount && deduction)
-            amount = -*amount;
-        if (!amount || !kind->amount.add(*amount))
-            ++kind->uncounted;
+        if (const auto sum = ledger.take(*command))
+            registered.add(*sum);
     }
+    if (const auto sum = ledger.end())
+        registered.add(*sum);
 }
 
 QString lineOf(const QString &name, qint64 documents, const QString &amount = {})
@@ -91,6 +97,7 @@ int sum(const Call &call)
     Kind kinds[] = {{Section::Fiscal, "fiscal receipts"_L1},
                     {Section::Receipt, "receipts"_L1},
                     {Section::Document, "other documents"_L1}};
+    Registered registered;
     qint64 forgotten = 0;
     qint64 inDoubt = 0;
     ProgressLine progress(u"adding up"_s);
@@ -106,7 +113,7 @@ int sum(const Call &call)
             else if (document.forgotten)
                 ++forgotten;
             else
-                add(kinds, journal.contentsOf(document).rendered);
+                add(kinds, registered, journal.contentsOf(document).rendered);
         },
         [&](qint64 done, qint64 all) { progress.show(done, all); });
     progress.clear();
@@ -114,9 +121,9 @@ int sum(const Call &call)
     Output out;
     for (const Kind &kind : kinds)
         out << lineOf(kind.name, kind.documents,
-                      kind.section == Section::Fiscal ? kind.amount.toString() : QString());
-    if (kinds[0].uncounted > 0)
-        out << counted(kinds[0].uncounted, u"sale row"_s)
+                      kind.section == Section::Fiscal ? registered.amount.toString() : QString());
+    if (registered.uncounted > 0)
+        out << counted(registered.uncounted, u"sale row"_s)
                    + u" not in the sum: no plain number, or too much\n"_s;
     if (inDoubt > 0)
         out << counted(inDoubt, u"document"_s) + u" in doubt, not counted\n"_s;

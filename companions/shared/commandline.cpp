@@ -7,6 +7,7 @@
 #include <csignal>
 
 #include <fcntl.h>
+#include <pwd.h>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -39,6 +40,12 @@ QStringList argumentsOf(int argc, char *argv[])
     for (int i = 0; i < argc; ++i)
         arguments.append(korvel::path::fromBytes(argv[i]));
     return arguments;
+}
+
+QString userName()
+{
+    const passwd *const user = ::getpwuid(::getuid());
+    return user ? QString::fromLocal8Bit(user->pw_name) : QString::number(::getuid());
 }
 
 std::optional<int> readCommandLine(QCommandLineParser &parser, const QStringList &arguments)

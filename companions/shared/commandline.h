@@ -1,4 +1,4 @@
-// How a companion begins, and its command line: help, version, arguments.
+// How a companion begins, who called it, and its command line: help, version, arguments.
 #pragma once
 
 #include <QCommandLineParser>
@@ -18,6 +18,9 @@ void prepareCompanion();
 
 /// The arguments of main, as texts; paths among them lose nothing, see config/path.h.
 QStringList argumentsOf(int argc, char *argv[]);
+
+/// The name of the user who runs the program; his number where he has none.
+QString userName();
 
 /**
  * Reads the command line: adds --help and --version, and answers them.

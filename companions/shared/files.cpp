@@ -62,14 +62,13 @@ std::optional<QByteArray> readWhole(const QString &path, qint64 limit, QString &
     return bytes;
 }
 
-std::optional<QByteArray> readSettings(const QString &path, QString &error)
+std::optional<QByteArray> readSettings(const QString &path, QString &error, qint64 limit)
 {
-    constexpr qint64 largestSettings = 67'108'864; // 64 MiB
     if (path == "-"_L1 || korvel::path::kindOf(path) == korvel::path::Kind::Other) {
         error = u"no regular file"_s;
         return {};
     }
-    return readWhole(path, largestSettings, error);
+    return readWhole(path, limit, error);
 }
 
 bool writeWhole(const QString &path, const QByteArray &bytes, QString &error)

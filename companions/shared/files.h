@@ -22,13 +22,18 @@ std::optional<QByteArray> readWhole(const QString &path, qint64 limit, QString &
 /// The same, without an error for what has more: then one byte more than the limit.
 std::optional<QByteArray> readUpTo(const QString &path, qint64 limit, QString &error);
 
+/// Bytes of a settings file that a companion takes at most, unless it says otherwise: 64 MiB.
+inline constexpr qint64 largestSettings = 67'108'864;
+
 /**
- * All bytes of a settings file, up to 64 MiB. It is a regular file: the renderer reads its settings
- * from nothing else, and not from standard input.
+ * All bytes of a settings file. It is a regular file: the renderer reads its settings from nothing
+ * else, and not from standard input.
  *
  * @param error why nothing is given, as one line without the file's name
+ * @param limit a larger file is an error
  */
-std::optional<QByteArray> readSettings(const QString &path, QString &error);
+std::optional<QByteArray> readSettings(const QString &path, QString &error,
+                                       qint64 limit = largestSettings);
 
 /**
  * Replaces a file by these bytes, or makes a new one: whole, or not at all. What a link leads to is

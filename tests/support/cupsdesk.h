@@ -3,6 +3,7 @@
 
 #include "support/bytes.h"
 #include "support/files.h"
+#include "support/loopback.h"
 #include "support/program.h"
 
 #include <QDeadlineTimer>
@@ -20,11 +21,8 @@
 #include <functional>
 #include <memory>
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
 #include <pwd.h>
 #include <sys/prctl.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -47,15 +45,11 @@ inline bool waitUntil(const std::function<bool()> &holds)
 inline quint16 freePort()
 {
     const int descriptor = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address = {};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    auto *const plain = reinterpret_cast<sockaddr *>(&address);
-    if (::bind(descriptor, plain, size) != 0 || ::getsockname(descriptor, plain, &size) != 0)
+    const in_port_t port = bindToLoopback(descriptor);
+    if (port == 0)
         qFatal("no free port");
     ::close(descriptor);
-    return ntohs(address.sin_port);
+    return port;
 }
 
 /// What CUPS says of a job.

@@ -1,9 +1,10 @@
 // Printers of a test's own: in the network, on a serial line and behind a FIFO, sound or faulty.
 #pragma once
 
+#include "support/loopback.h"
+
 #include <QByteArray>
 #include <QDeadlineTimer>
-#include <QElapsedTimer>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -14,11 +15,8 @@
 #include <thread>
 #include <vector>
 
-#include <arpa/inet.h>
 #include <fcntl.h>
-#include <netinet/in.h>
 #include <poll.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
 #include <termios.h>
 #include <unistd.h>
@@ -46,15 +44,9 @@ public:
         const int small = 2048; // what the system takes for a printer that does not read
         if (fault.stallsAfter >= 0 || fault.rate > 0)
             ::setsockopt(listener, SOL_SOCKET, SO_RCVBUF, &small, sizeof small);
-        sockaddr_in address = {};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t size = sizeof address;
-        auto *const plain = reinterpret_cast<sockaddr *>(&address);
-        if (::bind(listener, plain, size) != 0 || ::listen(listener, SOMAXCONN) != 0
-            || ::getsockname(listener, plain, &size) != 0)
+        port = bindToLoopback(listener);
+        if (port == 0 || ::listen(listener, SOMAXCONN) != 0)
             qFatal("no printer can listen");
-        port = ntohs(address.sin_port);
         thread = std::thread([this] { serve(); });
     }
     ~NetworkPrinter()
@@ -153,14 +145,8 @@ private:
 inline QString nobodysDevice()
 {
     const int taken = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address = {};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    auto *const plain = reinterpret_cast<sockaddr *>(&address);
-    ::bind(taken, plain, size); // and never listens; stays bound until the test ends
-    ::getsockname(taken, plain, &size);
-    return "tcp://127.0.0.1:" + QString::number(ntohs(address.sin_port));
+    // It never listens, and stays bound until the test ends.
+    return "tcp://127.0.0.1:" + QString::number(bindToLoopback(taken));
 }
 
 /// Reads all that comes at a descriptor, in a thread; a FIFO or the other end of a serial line.

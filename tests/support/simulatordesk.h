@@ -3,6 +3,7 @@
 
 #include "support/bytes.h"
 #include "support/files.h"
+#include "support/loopback.h"
 #include "support/program.h"
 #include "support/streams.h"
 
@@ -17,11 +18,8 @@
 #include <cerrno>
 #include <csignal>
 
-#include <arpa/inet.h>
 #include <fcntl.h>
-#include <netinet/in.h>
 #include <poll.h>
-#include <sys/socket.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -110,11 +108,9 @@ public:
     explicit Sender(quint16 port)
         : descriptor(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
     {
-        sockaddr_in address = {};
-        address.sin_family = AF_INET;
-        address.sin_port = htons(port);
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        if (::connect(descriptor, reinterpret_cast<sockaddr *>(&address), sizeof address) != 0)
+        const sockaddr_in address = loopbackAt(port);
+        if (::connect(descriptor, reinterpret_cast<const sockaddr *>(&address), sizeof address)
+            != 0)
             error = errno;
     }
     ~Sender() { ::close(descriptor); }

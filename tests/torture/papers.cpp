@@ -1,6 +1,8 @@
 // Printers of each kind, read in a thread of their own.
 #include "torture/papers.h"
 
+#include "support/loopback.h"
+
 #include <array>
 #include <cerrno>
 #include <chrono>
@@ -9,11 +11,8 @@
 #include <iterator>
 #include <vector>
 
-#include <arpa/inet.h>
 #include <fcntl.h>
-#include <netinet/in.h>
 #include <poll.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
 #include <termios.h>
 #include <unistd.h>
@@ -119,15 +118,9 @@ public:
     NetworkPaper()
     {
         const int listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-        sockaddr_in address = {};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t size = sizeof address;
-        auto *const plain = reinterpret_cast<sockaddr *>(&address);
-        if (::bind(listener, plain, size) != 0 || ::listen(listener, SOMAXCONN) != 0
-            || ::getsockname(listener, plain, &size) != 0)
+        port = bindToLoopback(listener);
+        if (port == 0 || ::listen(listener, SOMAXCONN) != 0)
             std::abort();
-        port = ntohs(address.sin_port);
         begin(listener, true);
     }
     ~NetworkPaper() override { end(); }

@@ -176,7 +176,7 @@ private slots:
         fault.stallsAfter = 100;
         NetworkPrinter printer(fault);
         VERIFY_LOST(send(printer.device(), document.repeated(300'000), 1s),
-                    "the printer took no byte for 1 seconds");
+                    "the printer took no byte for 1 second");
     }
 
     /// What was given up must not come later: the connection is reset.
@@ -216,7 +216,7 @@ private slots:
         const QString path = folder.filePath("fifo");
         FifoPrinter printer(path);
         printer.stop();
-        VERIFY_LOST(send(path, document, 1s), "the printer took no byte for 1 seconds");
+        VERIFY_LOST(send(path, document, 1s), "the printer took no byte for 1 second");
     }
 
     void aSerialLineGetsEveryByteAsItIs()
@@ -256,7 +256,7 @@ private slots:
         LinePrinter printer;
         printer.stop();
         VERIFY_LOST(send(printer.path(), document.repeated(30'000), 1s),
-                    "the printer took no byte for 1 seconds");
+                    "the printer took no byte for 1 second");
     }
 
     void aFileIsAppendedTo()

@@ -1,8 +1,8 @@
 // A journal whose disk is full or broken, and whose writer is killed: before every call that
 // writes.
-#include "support/anyuser.h"
 #include "support/bytes.h"
 #include "support/journals.h"
+#include "support/ordinaryuser.h"
 #include "support/test.h"
 
 #include <cerrno>
@@ -205,18 +205,19 @@ private slots:
 
             // Who may not write either reads what is there, or says why not.
             folder->makeReadOnly();
-            const QByteArray said = asAnyUser([&]() -> QByteArray {
-                return errorOf([&] {
-                           Journal reader = folder->reader();
-                           if (!flawsOf(reader).isEmpty())
-                               throw JournalError("flaws");
-                       })
-                    .toUtf8();
-            });
+            QString said;
+            {
+                const OrdinaryUser user;
+                said = errorOf([&] {
+                    Journal reader = folder->reader();
+                    if (!flawsOf(reader).isEmpty())
+                        throw JournalError("flaws");
+                });
+            }
             folder->makeWritable();
             if (!said.isEmpty()) {
                 unreadable = true;
-                QCOMPARE(QString::fromUtf8(said),
+                QCOMPARE(said,
                          folder->path()
                              + ": a program was ended while it wrote, and what it left must be"
                                " undone first: run this once as someone who may write the file");

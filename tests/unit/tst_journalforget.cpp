@@ -86,6 +86,7 @@ private slots:
         deliver(journal, "b", {});
         journal.forget(later);
         QVERIFY(journal.contentsOf(*journal.find("a")).job.isEmpty());
+        QVERIFY(journal.contentsOf(*journal.find("a")).settings.isEmpty()); // which b has, too
         QCOMPARE(journal.contentsOf(*journal.find("b")).settings, contentsFor("b").settings);
         QCOMPARE(flawsOf(journal), {});
         bring(journal, "b", {State::Sending, State::Sent});

@@ -242,8 +242,8 @@ private slots:
         };
         const QList<State> sent = {State::Sending, State::Sent};
         const QList<State> doubt = {State::Sending, State::InDoubt};
-        // 2 times 5.50, less 1.00; 3 times 0.333 exactly; what stands outside of a fiscal section,
-        // and what is no number, is in no sum.
+        // 2 times 5.50, less 1.00; 3 times 0.333 exactly; 10.00; 0.25, behind another document;
+        // what stands outside of a fiscal section, and what is no number, is in no sum.
         add("a", fiscal("=R1/$550/*2/(Tiramis\xC3\xB9)\n=S\r\n=V/$100\r\n"), sent);
         add("b", fiscal("=R1/$33.3/*3/(X)\n=R1/$1/*x/(Y)\n") + "=R1/$900/*1/(Z)\n", sent);
         add("c", fiscal("=R1/$1000/*1/(X)\n"), doubt + QList{State::Printed});
@@ -252,10 +252,10 @@ private slots:
         add("f", fiscal("=R1/$5000/*1/(X)\n"), {});
         add("g", fiscal("=R1/$5000/*1/(X)\n"), {State::Sending}); // nobody sends it any more
         add("h", "=o/*1\n=\"/(X )\n=o\n", sent);
-        add("i", "=o\n=\"/(X )\n=o\n", sent);
+        add("i", "=o\n=\"/(X )\n=o\n" + fiscal("=R1/$25/*1/(X)\n"), sent); // two in one
         add("k", "=o\n=\"/(Y )\n=o\n", sent);
         const QStringList lines = {
-            "fiscal receipts        3          20.999",
+            "fiscal receipts        3          21.249",
             "receipts               1",
             "other documents        2",
             "1 sale row not in the sum: no plain number, or too much",
