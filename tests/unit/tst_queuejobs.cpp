@@ -218,6 +218,23 @@ private slots:
                  QList<QByteArray>({receipt(), bytesOf(expected("kitchen-order.out"))}));
     }
 
+    /// A wrong job under the id of one that waits says nothing of that one.
+    void aWaitingJobIsNotRefusedByAnother()
+    {
+        printer->off();
+        const QStringList id = {"-o", "job-uuid=till1-119"};
+        const QString first = lp(id + QStringList(sample("receipt.xml")));
+        QVERIFY(shows("waiting: "));
+        writeFile(desk->path("wrong.xml"), "<printjob><method name=\"printFullOrder\"/><total");
+        desk->addQueue("beside", printer->uri());
+        const QString second = desk->print("beside", id + QStringList(desk->path("wrong.xml")));
+        VERIFY_JOB(*desk, second, IPP_JSTATE_CANCELED, "refused, nothing was printed: wrong.xml:");
+        QVERIFY(!desk->journal({"show", "till1-119"}).standardOutput.contains("refused"));
+        printer->on();
+        VERIFY_JOB(*desk, first, IPP_JSTATE_COMPLETED, "");
+        QCOMPARE(printer->documents(1), QList<QByteArray>({receipt()}));
+    }
+
     /// What was accepted is sent, though the settings are others when its job is started again.
     void aJobThatIsStartedAgainIsWhatWasAccepted()
     {
