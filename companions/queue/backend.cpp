@@ -130,33 +130,38 @@ private:
         if (!misuse.isEmpty())
             return refused(contents, misuse);
         for (int copy = 1; copy <= request.copies; ++copy) {
-            const QString id = idOfCopy(request, copy);
-            if (const QString other = begunElsewhere(id, contents); !other.isEmpty())
-                return held(u"not sent: it was begun for "_s + other
-                            + u", and a fiscal document goes to no other printer of a class; "
-                              "move it to that printer's queue with lpmove"_s);
-            const int status = deliverCopy(id, contents, remark);
+            if (const QString reason = boundElsewhere(idOfCopy(request, copy), contents);
+                !reason.isEmpty())
+                return held(u"not sent: it was begun for "_s + reason
+                            + u"; move it to that printer's queue with lpmove"_s);
+            const int status = deliverCopy(copy, contents, remark);
             if (status != CUPS_BACKEND_OK)
                 return status;
         }
         return CUPS_BACKEND_OK;
     }
 
-    /// The device that a fiscal document of a class was taken in for, if it is not this one.
-    QString begunElsewhere(const QString &id, const Contents &contents)
+    /// The device that a copy is bound to, if it is not this one, and why.
+    QString boundElsewhere(const QString &id, const Contents &contents)
     {
-        const auto document = request.isOfClass ? journal.find(id) : std::nullopt;
-        const bool isBound = document && delivery::nothingLeft(document->state)
-                             && document->state != delivery::State::Refused
-                             && document->device != device.text && isFiscal(contents.rendered);
-        return isBound ? document->device : QString();
+        const auto first = journal.find(request.id);
+        const auto document = journal.find(id);
+        if (!first || first->state == delivery::State::Refused || first->device == device.text
+            || (document && !delivery::nothingLeft(document->state)))
+            return {};
+        if (request.isOfClass && isFiscal(contents.rendered))
+            return first->device + u", and a fiscal document goes to no other printer of a class"_s;
+        if (contents.charset != charset.name().toLower())
+            return first->device + u" in the code page "_s + contents.charset
+                   + u", which is not this queue's"_s;
+        return {};
     }
 
-    int deliverCopy(const QString &id, const Contents &contents, const QString &remark)
+    int deliverCopy(int copy, const Contents &contents, const QString &remark)
     {
         QString said;
         Order order;
-        order.id = id;
+        order.id = idOfCopy(request, copy);
         order.origin = request.origin();
         order.remark = remark;
         order.device = device;
@@ -174,11 +179,14 @@ private:
         order.isCalledOff = isToldToEnd;
         const Outcome outcome = delivery::deliver(journal, order);
         tellWaiting(false);
-        return told(outcome, id);
+        return told(outcome, copy);
     }
 
-    [[nodiscard]] int told(const Outcome &outcome, const QString &id) const
+    [[nodiscard]] int told(const Outcome &outcome, int copy) const
     {
+        const QString nothing = copy == 1
+                                    ? u"nothing was printed"_s
+                                    : u"nothing was printed of copy "_s + QString::number(copy);
         switch (outcome.end) {
         case End::Sent:
             tell(Level::Info, u"sent: "_s + request.file());
@@ -187,10 +195,10 @@ private:
             tell(Level::Info, u"already sent: "_s + request.file());
             return CUPS_BACKEND_OK;
         case End::Refused:
-            tell(Level::Error, refusal(outcome.reason));
+            tell(Level::Error, u"refused, "_s + nothing + u": "_s + outcome.reason);
             return CUPS_BACKEND_CANCEL;
         case End::Unrecorded:
-            tell(Level::Error, u"nothing was printed: "_s + outcome.reason);
+            tell(Level::Error, nothing + u": "_s + outcome.reason);
             return CUPS_BACKEND_STOP;
         case End::NotSent:
             tell(Level::Info, u"not sent: "_s + outcome.reason);
@@ -198,7 +206,8 @@ private:
         case End::InDoubt:
             break;
         }
-        return held(u"in doubt: "_s + outcome.reason + u"; "_s + toResolve(request, id));
+        return held(u"in doubt: "_s + outcome.reason + u"; "_s
+                    + toResolve(request, idOfCopy(request, copy)));
     }
 
     static int held(const QString &text)

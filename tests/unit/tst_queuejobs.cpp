@@ -167,6 +167,18 @@ private slots:
             QCOMPARE(desk->stateOf(job, copy), QByteArray("sent"));
     }
 
+    /// Its id may be another document's.
+    void aCopyIsRefusedByItself()
+    {
+        VERIFY_JOB(*desk, lp({"-o", "job-uuid=till1-120/2", sample("kitchen-order.xml")}),
+                   IPP_JSTATE_COMPLETED, "");
+        const QString job = lp({"-n", "2", "-o", "job-uuid=till1-120", sample("receipt.xml")});
+        VERIFY_JOB(*desk, job, IPP_JSTATE_CANCELED,
+                   "refused, nothing was printed of copy 2: the id till1-120/2 was given to ");
+        QCOMPARE(printer->documents(2),
+                 QList<QByteArray>({bytesOf(expected("kitchen-order.out")), receipt()}));
+    }
+
     void fiscalDocumentsHaveNoCopies()
     {
         for (const QString &file : {sample("fiscal-receipt.xml"), expected("fiscal-receipt.out")}) {
