@@ -1,6 +1,7 @@
 // From the stream of a job to what CUPS does with the job.
 #include "companions/queue/backend.h"
 
+#include "companions/deliver/advice.h"
 #include "companions/deliver/preparation.h"
 #include "companions/queue/document.h"
 #include "companions/queue/supervisor.h"
@@ -34,12 +35,16 @@ constexpr std::chrono::hours asLongAsItTakes{24 * 365 * 10};
 
 constexpr auto tooManyFiles = "a job has one file: print each by itself"_L1;
 
+QString toResume(const Request &request)
+{
+    return u"\"lp -i "_s + deliver::typed(request.name()) + u" -H resume\""_s;
+}
+
 QString toResolve(const Request &request, const QString &id)
 {
-    const QString resolve =
-        u"korvel-journal --journal "_s + journalPath() + u" resolve "_s + id + u' ';
-    return u"look at the paper, then run \""_s + resolve + u"printed\" or \""_s + resolve
-           + u"not-printed\", and \"lp -i "_s + request.name() + u" -H resume\""_s;
+    const QString resolve = deliver::toResolve(id, journalPath());
+    return u"look at the paper, then run \""_s + resolve + u" printed\" or \""_s + resolve
+           + u" not-printed\", and "_s + toResume(request);
 }
 
 /// The document of a copy, counted from 1.
@@ -290,8 +295,7 @@ int deliveryLost(const Request &request)
     }
     const QString ended = u"the delivery was ended from outside; "_s;
     if (id.isEmpty())
-        tell(Level::Error,
-             u"not sent: "_s + ended + u"run \"lp -i "_s + request.name() + u" -H resume\""_s);
+        tell(Level::Error, u"not sent: "_s + ended + u"run "_s + toResume(request));
     else
         tell(Level::Error, u"in doubt: "_s + ended + toResolve(request, id));
     return CUPS_BACKEND_HOLD;

@@ -186,6 +186,26 @@ private slots:
         QVERIFY(doubting.journal({"list"}).contains("in-doubt     till1-118"));
     }
 
+    /// Whatever the till calls its document.
+    void theCommandToTypeWorksAsItStands()
+    {
+        PaperPrinter printer;
+        printer.on({"--fault", "reset=40"});
+        const Driver driver;
+        QStringList arguments = Driver::arguments();
+        arguments[4] = "job-uuid=\"-it\\'s 118\"";
+        const Run run = runProgram(KORVEL_BACKEND, arguments,
+                                   {driver.path(""), driver.variables(printer.uri()), receipt()});
+        QCOMPARE(run.status, int(CUPS_BACKEND_HOLD));
+        static const QRegularExpression form("run \"([^\"]+ printed)\" or ");
+        const QString command = form.match(QString::fromUtf8(run.standardError)).captured(1);
+        QVERIFY2(command.endsWith(" resolve -- '-it'\\''s 118' printed"), qPrintable(command));
+        const QString folder = QFileInfo(KORVEL_JOURNAL).path();
+        QCOMPARE(runProgram("/bin/sh", {"-c", command}, {folder, {"PATH=" + folder}, {}}).status,
+                 0);
+        QVERIFY(driver.journal({"list"}).contains("printed      -it's 118"));
+    }
+
     void whoIsToldToEndTriesTheSameJobAgain()
     {
         const Driver driver;
