@@ -249,20 +249,27 @@ int withoutCodePage(const Request &request)
     return CUPS_BACKEND_CANCEL;
 }
 
-/// The id of the copy that may have reached the printer; empty where the journal says that none
-/// may.
-QString doubtfulCopy(const Request &request)
+/// What the journal knows of the copies of a job.
+struct Known
 {
+    QString doubtful;   // the id of one that may have reached the printer; empty where none may
+    bool isSent = true; // all of them
+};
+
+Known knownOf(const Request &request)
+{
+    using delivery::State;
     Journal journal(journalPath(), Journal::Access::Read);
+    Known known;
     for (int copy = 1; copy <= request.copies; ++copy) {
-        QString id = idOfCopy(request, copy);
+        const QString id = idOfCopy(request, copy);
         const auto document = journal.find(id);
-        if (document
-            && (document->state == delivery::State::Sending
-                || document->state == delivery::State::InDoubt))
-            return id;
+        const State state = document ? document->state : State::Accepted;
+        if (state == State::Sending || state == State::InDoubt)
+            return {id, false};
+        known.isSent = known.isSent && (state == State::Sent || state == State::Printed);
     }
-    return {};
+    return known;
 }
 
 } // namespace
@@ -288,16 +295,20 @@ int deliverJob(const Request &request)
 
 int deliveryLost(const Request &request)
 {
-    QString id = request.id;
+    Known known{request.id, false}; // what cannot be looked up is in doubt
     try {
-        id = doubtfulCopy(request);
-    } catch (const JournalError &) { // what cannot be looked up is in doubt
+        known = knownOf(request);
+    } catch (const JournalError &) {
+    }
+    if (known.isSent) {
+        tell(Level::Info, u"sent: "_s + request.file());
+        return CUPS_BACKEND_OK;
     }
     const QString ended = u"the delivery was ended from outside; "_s;
-    if (id.isEmpty())
+    if (known.doubtful.isEmpty())
         tell(Level::Error, u"not sent: "_s + ended + u"run "_s + toResume(request));
     else
-        tell(Level::Error, u"in doubt: "_s + ended + toResolve(request, id));
+        tell(Level::Error, u"in doubt: "_s + ended + toResolve(request, known.doubtful));
     return CUPS_BACKEND_HOLD;
 }
 

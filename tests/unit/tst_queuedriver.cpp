@@ -1,4 +1,5 @@
 // The filter and the backend as CUPS starts them, one by one, and the description of the printer.
+#include "companions/queue/backend.h"
 #include "companions/queue/document.h"
 #include "companions/queue/request.h"
 #include "companions/recode/codepage.h"
@@ -11,6 +12,8 @@
 namespace tst_queuedriver {
 
 using namespace korvel::queue;
+using korvel::delivery::Journal;
+using korvel::delivery::State;
 
 /// A place for the settings and the journal, without a server.
 class Driver
@@ -184,6 +187,41 @@ private slots:
         QCOMPARE(doubting.backend(printer.uri(), {}).status, int(CUPS_BACKEND_HOLD));
         QVERIFY(driver.journal({"list"}).contains("sent         till1-118"));
         QVERIFY(doubting.journal({"list"}).contains("in-doubt     till1-118"));
+    }
+
+    void aDeliveryIsLost_data()
+    {
+        QTest::addColumn<QList<State>>("states");
+        QTest::addColumn<int>("copies");
+        QTest::addColumn<int>("status");
+        const auto row = [](const char *name, int copies, const QList<State> &states, int status) {
+            QTest::newRow(name) << states << copies << status;
+        };
+        row("nothing is known", 1, {}, CUPS_BACKEND_HOLD);
+        row("nothing left", 1, {State::NotSent}, CUPS_BACKEND_HOLD);
+        row("it was sending", 1, {State::Sending}, CUPS_BACKEND_HOLD);
+        row("it was sent", 1, {State::Sending, State::Sent}, CUPS_BACKEND_OK);
+        row("only the first copy was", 2, {State::Sending, State::Sent}, CUPS_BACKEND_HOLD);
+    }
+
+    /// What was sent needs nobody, though its sender was killed before it could say so.
+    void aDeliveryIsLost()
+    {
+        QFETCH(QList<State>, states);
+        QFETCH(int, copies);
+        const Driver driver;
+        Journal journal(driver.path("journal.db"), Journal::Access::Write);
+        if (!states.isEmpty())
+            QVERIFY(journal.accept("till1-118", {}, "tcp://192.0.2.12:9100", "cassa-7"));
+        for (const State state : states)
+            journal.change("till1-118", state, "tcp://192.0.2.12:9100", {});
+        Request request;
+        request.id = "till1-118";
+        request.copies = copies;
+        qputenv("KORVEL_JOURNAL", driver.path("journal.db").toUtf8());
+        const int status = deliveryLost(request);
+        qunsetenv("KORVEL_JOURNAL");
+        QTEST(status, "status");
     }
 
     /// Whatever the till calls its document.
