@@ -1,10 +1,9 @@
 // One line a document.
 #include "companions/deliver/reporting.h"
 
+#include "companions/deliver/advice.h"
 #include "companions/shared/oneline.h"
 #include "companions/shared/output.h"
-
-#include <QRegularExpression>
 
 #include <cstdio>
 
@@ -25,27 +24,9 @@ void tell(const QString &line)
 
 void complain(const QString &line) { static_cast<void>(shared::trouble(line)); }
 
-/// A text as one word of a command to type.
-QString typed(const QString &text)
-{
-    static const QRegularExpression plain(u"^[A-Za-z0-9@%+:,./_][A-Za-z0-9@%+:,./_-]*$"_s);
-    if (plain.match(text).hasMatch())
-        return text;
-    return u'\'' + QString(text).replace(u'\'', u"'\\''"_s) + u'\'';
-}
-
 QString toCallAgain(const Subject &subject)
 {
     return subject.id.isEmpty() ? u"call again"_s : u"call again with --id "_s + typed(subject.id);
-}
-
-/// The command that answers what is in doubt.
-QString toResolve(const Subject &subject)
-{
-    const QString journal =
-        subject.journal.isEmpty() ? QString() : u" --journal "_s + typed(subject.journal);
-    const QString end = subject.id.startsWith(u'-') ? u" --"_s : QString();
-    return u"korvel-journal"_s + journal + u" resolve"_s + end + u' ' + typed(subject.id);
 }
 
 } // namespace
@@ -73,7 +54,8 @@ Status report(const Subject &subject, const delivery::Outcome &outcome)
         break;
     }
     complain(of + u"in doubt: "_s + outcome.reason + u"; look at the paper, then run \""_s
-             + toResolve(subject) + u" printed\", or not-printed to send it again"_s);
+             + toResolve(subject.id, subject.journal)
+             + u" printed\", or not-printed to send it again"_s);
     return Doubtful;
 }
 

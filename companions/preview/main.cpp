@@ -12,6 +12,7 @@
 
 #include <QFile>
 #include <QGuiApplication>
+#include <QSet>
 
 #include <algorithm>
 #include <cstdio>

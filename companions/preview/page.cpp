@@ -4,6 +4,7 @@
 #include "companions/paper/ledger.h"
 #include "companions/preview/listing.h"
 #include "companions/preview/terminal.h"
+#include "companions/shared/oneline.h"
 
 #include <QFile>
 
@@ -88,7 +89,7 @@ QString sumOf(const Tally &tally)
 {
     return (tally.sum ? tally.sum->toString() : u"too large"_s)
            + (tally.uncounted > 0
-                  ? u" ("_s + QString::number(tally.uncounted) + u" rows not counted)"_s
+                  ? u" ("_s + shared::counted(tally.uncounted, u"row"_s) + u" not counted)"_s
                   : QString());
 }
 
@@ -154,7 +155,7 @@ QString factsOf(const Shown &shown, const Tally &tally)
     if (tally.sums > 0)
         facts += u"sum "_s + sumOf(tally);
     if (const qsizetype count = told(shown).size(); count > 0)
-        facts += QString::number(count) + (count == 1 ? u" finding"_s : u" findings"_s);
+        facts += shared::counted(count, u"finding"_s);
     return facts.join(u" · "_s);
 }
 

@@ -5,8 +5,6 @@
 #include "companions/preview/findings.h"
 #include "companions/preview/input.h"
 
-#include <QSet>
-
 namespace korvel::preview {
 
 /// How streams are read.

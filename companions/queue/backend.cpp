@@ -1,6 +1,7 @@
 // From the stream of a job to what CUPS does with the job.
 #include "companions/queue/backend.h"
 
+#include "companions/deliver/advice.h"
 #include "companions/deliver/preparation.h"
 #include "companions/queue/document.h"
 #include "companions/queue/supervisor.h"
@@ -34,12 +35,16 @@ constexpr std::chrono::hours asLongAsItTakes{24 * 365 * 10};
 
 constexpr auto tooManyFiles = "a job has one file: print each by itself"_L1;
 
+QString toResume(const Request &request)
+{
+    return u"\"lp -i "_s + deliver::typed(request.name()) + u" -H resume\""_s;
+}
+
 QString toResolve(const Request &request, const QString &id)
 {
-    const QString resolve =
-        u"korvel-journal --journal "_s + journalPath() + u" resolve "_s + id + u' ';
-    return u"look at the paper, then run \""_s + resolve + u"printed\" or \""_s + resolve
-           + u"not-printed\", and \"lp -i "_s + request.name() + u" -H resume\""_s;
+    const QString resolve = deliver::toResolve(id, journalPath());
+    return u"look at the paper, then run \""_s + resolve + u" printed\" or \""_s + resolve
+           + u" not-printed\", and "_s + toResume(request);
 }
 
 /// The document of a copy, counted from 1.
@@ -130,33 +135,38 @@ private:
         if (!misuse.isEmpty())
             return refused(contents, misuse);
         for (int copy = 1; copy <= request.copies; ++copy) {
-            const QString id = idOfCopy(request, copy);
-            if (const QString other = begunElsewhere(id, contents); !other.isEmpty())
-                return held(u"not sent: it was begun for "_s + other
-                            + u", and a fiscal document goes to no other printer of a class; "
-                              "move it to that printer's queue with lpmove"_s);
-            const int status = deliverCopy(id, contents, remark);
+            if (const QString reason = boundElsewhere(idOfCopy(request, copy), contents);
+                !reason.isEmpty())
+                return held(u"not sent: it was begun for "_s + reason
+                            + u"; move it to that printer's queue with lpmove"_s);
+            const int status = deliverCopy(copy, contents, remark);
             if (status != CUPS_BACKEND_OK)
                 return status;
         }
         return CUPS_BACKEND_OK;
     }
 
-    /// The device that a fiscal document of a class was taken in for, if it is not this one.
-    QString begunElsewhere(const QString &id, const Contents &contents)
+    /// The device that a copy is bound to, if it is not this one, and why.
+    QString boundElsewhere(const QString &id, const Contents &contents)
     {
-        const auto document = request.isOfClass ? journal.find(id) : std::nullopt;
-        const bool isBound = document && delivery::nothingLeft(document->state)
-                             && document->state != delivery::State::Refused
-                             && document->device != device.text && isFiscal(contents.rendered);
-        return isBound ? document->device : QString();
+        const auto first = journal.find(request.id);
+        const auto document = journal.find(id);
+        if (!first || first->state == delivery::State::Refused || first->device == device.text
+            || (document && !delivery::nothingLeft(document->state)))
+            return {};
+        if (request.isOfClass && isFiscal(contents.rendered))
+            return first->device + u", and a fiscal document goes to no other printer of a class"_s;
+        if (contents.charset != charset.name().toLower())
+            return first->device + u" in the code page "_s + contents.charset
+                   + u", which is not this queue's"_s;
+        return {};
     }
 
-    int deliverCopy(const QString &id, const Contents &contents, const QString &remark)
+    int deliverCopy(int copy, const Contents &contents, const QString &remark)
     {
         QString said;
         Order order;
-        order.id = id;
+        order.id = idOfCopy(request, copy);
         order.origin = request.origin();
         order.remark = remark;
         order.device = device;
@@ -174,11 +184,14 @@ private:
         order.isCalledOff = isToldToEnd;
         const Outcome outcome = delivery::deliver(journal, order);
         tellWaiting(false);
-        return told(outcome, id);
+        return told(outcome, copy);
     }
 
-    [[nodiscard]] int told(const Outcome &outcome, const QString &id) const
+    [[nodiscard]] int told(const Outcome &outcome, int copy) const
     {
+        const QString nothing = copy == 1
+                                    ? u"nothing was printed"_s
+                                    : u"nothing was printed of copy "_s + QString::number(copy);
         switch (outcome.end) {
         case End::Sent:
             tell(Level::Info, u"sent: "_s + request.file());
@@ -187,10 +200,10 @@ private:
             tell(Level::Info, u"already sent: "_s + request.file());
             return CUPS_BACKEND_OK;
         case End::Refused:
-            tell(Level::Error, refusal(outcome.reason));
+            tell(Level::Error, u"refused, "_s + nothing + u": "_s + outcome.reason);
             return CUPS_BACKEND_CANCEL;
         case End::Unrecorded:
-            tell(Level::Error, u"nothing was printed: "_s + outcome.reason);
+            tell(Level::Error, nothing + u": "_s + outcome.reason);
             return CUPS_BACKEND_STOP;
         case End::NotSent:
             tell(Level::Info, u"not sent: "_s + outcome.reason);
@@ -198,7 +211,8 @@ private:
         case End::InDoubt:
             break;
         }
-        return held(u"in doubt: "_s + outcome.reason + u"; "_s + toResolve(request, id));
+        return held(u"in doubt: "_s + outcome.reason + u"; "_s
+                    + toResolve(request, idOfCopy(request, copy)));
     }
 
     static int held(const QString &text)
@@ -235,20 +249,27 @@ int withoutCodePage(const Request &request)
     return CUPS_BACKEND_CANCEL;
 }
 
-/// The id of the copy that may have reached the printer; empty where the journal says that none
-/// may.
-QString doubtfulCopy(const Request &request)
+/// What the journal knows of the copies of a job.
+struct Known
 {
+    QString doubtful;   // the id of one that may have reached the printer; empty where none may
+    bool isSent = true; // all of them
+};
+
+Known knownOf(const Request &request)
+{
+    using delivery::State;
     Journal journal(journalPath(), Journal::Access::Read);
+    Known known;
     for (int copy = 1; copy <= request.copies; ++copy) {
-        QString id = idOfCopy(request, copy);
+        const QString id = idOfCopy(request, copy);
         const auto document = journal.find(id);
-        if (document
-            && (document->state == delivery::State::Sending
-                || document->state == delivery::State::InDoubt))
-            return id;
+        const State state = document ? document->state : State::Accepted;
+        if (state == State::Sending || state == State::InDoubt)
+            return {id, false};
+        known.isSent = known.isSent && (state == State::Sent || state == State::Printed);
     }
-    return {};
+    return known;
 }
 
 } // namespace
@@ -274,17 +295,20 @@ int deliverJob(const Request &request)
 
 int deliveryLost(const Request &request)
 {
-    QString id = request.id;
+    Known known{request.id, false}; // what cannot be looked up is in doubt
     try {
-        id = doubtfulCopy(request);
-    } catch (const JournalError &) { // what cannot be looked up is in doubt
+        known = knownOf(request);
+    } catch (const JournalError &) {
+    }
+    if (known.isSent) {
+        tell(Level::Info, u"sent: "_s + request.file());
+        return CUPS_BACKEND_OK;
     }
     const QString ended = u"the delivery was ended from outside; "_s;
-    if (id.isEmpty())
-        tell(Level::Error,
-             u"not sent: "_s + ended + u"run \"lp -i "_s + request.name() + u" -H resume\""_s);
+    if (known.doubtful.isEmpty())
+        tell(Level::Error, u"not sent: "_s + ended + u"run "_s + toResume(request));
     else
-        tell(Level::Error, u"in doubt: "_s + ended + toResolve(request, id));
+        tell(Level::Error, u"in doubt: "_s + ended + toResolve(request, known.doubtful));
     return CUPS_BACKEND_HOLD;
 }
 

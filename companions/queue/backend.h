@@ -9,7 +9,8 @@ namespace korvel::queue {
 /// noteEnd() was.
 int deliverJob(const Request &request);
 
-/// The same of a delivery that did not come back: held, for a person to look.
+/// The same of a delivery that did not come back: held, for a person to look, unless the journal
+/// says that all was sent.
 int deliveryLost(const Request &request);
 
 /// Writes the devices that a queue may have, as CUPS asks for them.

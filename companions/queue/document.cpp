@@ -98,8 +98,11 @@ void refuse(Journal &journal, const Request &request, const Contents &contents,
     QString error;
     const auto device = deviceOf(request.device, error);
     const QString name = device ? device->text : request.device;
-    journal.refuse(request.id, contents, name, request.origin(), reason);
-    journal.change(request.id, State::Refused, name, reason);
+    const auto document = journal.find(request.id);
+    if (!document || document->state == State::Refused)
+        journal.refuse(request.id, contents, name, request.origin(), reason);
+    else if (document->origin == request.origin())
+        journal.change(request.id, State::Refused, name, reason);
 }
 
 QString refusal(const QString &reason) { return u"refused, nothing was printed: "_s + reason; }

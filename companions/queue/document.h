@@ -41,7 +41,8 @@ QString misuseOf(const Request &request, const QByteArray &stream);
 std::optional<delivery::Contents> takenIn(delivery::Journal &journal, const QString &id,
                                           const delivery::Contents &given);
 
-/// Writes down that a document is refused, unless it is on its way or past it.
+/// Writes down that a document is refused, unless it is on its way or past it, or was taken in for
+/// another job.
 void refuse(delivery::Journal &journal, const Request &request, const delivery::Contents &contents,
             const QString &reason);
 

@@ -23,13 +23,13 @@ using korvel::delivery::JournalError;
 namespace {
 
 constexpr std::chrono::seconds pause(2); // until what the renderer lacks may be there
-constexpr std::chrono::milliseconds untilBackendListens(500);
 
 enum Status { Written = 0, Failed = 1 };
 
 Status failed(const QString &text)
 {
     tell(Level::Error, text);
+    waitUntilHeard();
     return Failed;
 }
 
@@ -147,23 +147,15 @@ private:
     bool isUnrecorded = false; // as the journal cannot be had
 };
 
-/// Fails when the backend has come so far that it says the same: CUPS would else only say that a
-/// filter failed.
-Status failedAtOnce(const QString &text)
-{
-    std::this_thread::sleep_for(untilBackendListens);
-    return failed(text);
-}
-
 int run(const QStringList &arguments)
 {
     QString error;
     const auto request = requestOf(arguments, error);
     if (!request)
-        return failedAtOnce(error);
+        return failed(error);
     const auto charset = recode::CodePage::named(request->charset.toUtf8());
     if (!charset)
-        return failedAtOnce(refusal(recode::noCodePage(request->charset)));
+        return failed(refusal(recode::noCodePage(request->charset)));
     return Filter(*request, *charset).run();
 }
 

@@ -5,14 +5,21 @@
 #include "companions/shared/oneline.h"
 #include "config/path.h"
 
+#include <QDeadlineTimer>
+
 #include <cups/cups.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
+#include <thread>
 
+#include <sys/ioctl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace korvel::queue {
 
@@ -20,6 +27,7 @@ namespace {
 
 constexpr int longestId = 200; // characters, as korvel-deliver takes them
 constexpr qint64 largestDriver = 1'000'000;
+constexpr std::chrono::seconds forHearing = 5s; // that CUPS may take to read a message
 
 QString variable(const char *name, const QString &otherwise = {})
 {
@@ -113,6 +121,17 @@ void tell(Level level, const QString &text)
                                                           : "DEBUG: "_L1;
     const QByteArray line = (name + shared::inOneLine(text) + u'\n').toUtf8();
     std::fwrite(line.constData(), 1, std::size_t(line.size()), stderr);
+}
+
+void waitUntilHeard()
+{
+    struct stat status = {};
+    if (::fstat(STDERR_FILENO, &status) != 0 || !S_ISFIFO(status.st_mode))
+        return;
+    const QDeadlineTimer deadline(forHearing);
+    int left = 0;
+    while (::ioctl(STDERR_FILENO, FIONREAD, &left) == 0 && left > 0 && !deadline.hasExpired())
+        std::this_thread::sleep_for(1ms);
 }
 
 void tellWaiting(bool waits)

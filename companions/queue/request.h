@@ -51,6 +51,10 @@ enum class Level { Error, Info, Debug };
 /// Tells CUPS something, in one line.
 void tell(Level level, const QString &text);
 
+/// Waits until CUPS has read what it was told. Of a filter that is gone before that, it only says
+/// that a filter failed.
+void waitUntilHeard();
+
 /// Sets or takes back the sign that the printer is waited for.
 void tellWaiting(bool waits);
 

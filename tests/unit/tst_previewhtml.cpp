@@ -120,6 +120,19 @@ private slots:
         QVERIFY(page.contains("<tr><th scope=\"row\">Other documents</th><td>1</td><td>–</td>"));
         QCOMPARE(page.count("<article "), 4);
     }
+
+    /// An amount is missing.
+    void rowsThatAreNotCounted()
+    {
+        const QByteArray row = "=R1/$/*1/(A)\n";
+        for (const auto &[rows, words] : {std::pair(row, "(1 row not counted) · "),
+                                          std::pair(row + row, "(2 rows not counted) · ")}) {
+            const Desk desk("=K\n=C1\n" + rows + "=S\r\n=T1\n");
+            const Run run = desk.run({"-q", "-o-", "--format=html", "x.out"});
+            QVERIFY2(run.standardOutput.contains("sum 0.00 " + QByteArray(words)),
+                     run.standardOutput.constData());
+        }
+    }
 };
 
 KORVEL_TEST(TestPreviewHtml)

@@ -1,4 +1,5 @@
 // The filter and the backend as CUPS starts them, one by one, and the description of the printer.
+#include "companions/queue/backend.h"
 #include "companions/queue/document.h"
 #include "companions/queue/request.h"
 #include "companions/recode/codepage.h"
@@ -11,6 +12,8 @@
 namespace tst_queuedriver {
 
 using namespace korvel::queue;
+using korvel::delivery::Journal;
+using korvel::delivery::State;
 
 /// A place for the settings and the journal, without a server.
 class Driver
@@ -184,6 +187,61 @@ private slots:
         QCOMPARE(doubting.backend(printer.uri(), {}).status, int(CUPS_BACKEND_HOLD));
         QVERIFY(driver.journal({"list"}).contains("sent         till1-118"));
         QVERIFY(doubting.journal({"list"}).contains("in-doubt     till1-118"));
+    }
+
+    void aDeliveryIsLost_data()
+    {
+        QTest::addColumn<QList<State>>("states");
+        QTest::addColumn<int>("copies");
+        QTest::addColumn<int>("status");
+        const auto row = [](const char *name, int copies, const QList<State> &states, int status) {
+            QTest::newRow(name) << states << copies << status;
+        };
+        row("nothing is known", 1, {}, CUPS_BACKEND_HOLD);
+        row("nothing left", 1, {State::NotSent}, CUPS_BACKEND_HOLD);
+        row("it was sending", 1, {State::Sending}, CUPS_BACKEND_HOLD);
+        row("it was sent", 1, {State::Sending, State::Sent}, CUPS_BACKEND_OK);
+        row("only the first copy was", 2, {State::Sending, State::Sent}, CUPS_BACKEND_HOLD);
+    }
+
+    /// What was sent needs nobody, though its sender was killed before it could say so.
+    void aDeliveryIsLost()
+    {
+        QFETCH(QList<State>, states);
+        QFETCH(int, copies);
+        const Driver driver;
+        Journal journal(driver.path("journal.db"), Journal::Access::Write);
+        if (!states.isEmpty())
+            QVERIFY(journal.accept("till1-118", {}, "tcp://192.0.2.12:9100", "cassa-7"));
+        for (const State state : states)
+            journal.change("till1-118", state, "tcp://192.0.2.12:9100", {});
+        Request request;
+        request.id = "till1-118";
+        request.copies = copies;
+        qputenv("KORVEL_JOURNAL", driver.path("journal.db").toUtf8());
+        const int status = deliveryLost(request);
+        qunsetenv("KORVEL_JOURNAL");
+        QTEST(status, "status");
+    }
+
+    /// Whatever the till calls its document.
+    void theCommandToTypeWorksAsItStands()
+    {
+        PaperPrinter printer;
+        printer.on({"--fault", "reset=40"});
+        const Driver driver;
+        QStringList arguments = Driver::arguments();
+        arguments[4] = "job-uuid=\"-it\\'s 118\"";
+        const Run run = runProgram(KORVEL_BACKEND, arguments,
+                                   {driver.path(""), driver.variables(printer.uri()), receipt()});
+        QCOMPARE(run.status, int(CUPS_BACKEND_HOLD));
+        static const QRegularExpression form("run \"([^\"]+ printed)\" or ");
+        const QString command = form.match(QString::fromUtf8(run.standardError)).captured(1);
+        QVERIFY2(command.endsWith(" resolve -- '-it'\\''s 118' printed"), qPrintable(command));
+        const QString folder = QFileInfo(KORVEL_JOURNAL).path();
+        QCOMPARE(runProgram("/bin/sh", {"-c", command}, {folder, {"PATH=" + folder}, {}}).status,
+                 0);
+        QVERIFY(driver.journal({"list"}).contains("printed      -it's 118"));
     }
 
     void whoIsToldToEndTriesTheSameJobAgain()

@@ -53,6 +53,29 @@ private slots:
         QCOMPARE(QDir(desk->path("folder/printed")).entryList(QDir::Files).size(), 2);
     }
 
+    /// Not by their names.
+    void jobsComeInTheOrderOfTheirTimes()
+    {
+        QDir().mkpath(desk->path("folder"));
+        put("118.xml", sample("receipt.xml"), 1'000'000'060);
+        put("99.xml", sample("kitchen-order.xml"), 1'000'000'000);
+        QCOMPARE(printFolder().status, 0);
+        QCOMPARE(printer->documents(2),
+                 QList<QByteArray>({bytesOf(expected("kitchen-order.out")), receipt()}));
+    }
+
+    /// Those are two ids, though they begin alike, and neither is too long.
+    void namesAreAsLongAsTheyMayBe()
+    {
+        QDir().mkpath(desk->path("folder"));
+        const QString name = QString(120, 'a') + ' ' + QString(62, QChar(0xE8)) + "*.xml";
+        for (const QString &end : {QString("1"), QString("2")})
+            put(QString(name).replace('*', end), sample("receipt.xml"), 1'000'000'000);
+        QCOMPARE(printFolder().status, 0);
+        QCOMPARE(printer->documents(2), QList<QByteArray>({receipt(), receipt()}));
+        QVERIFY(QDir(desk->path("folder")).entryList({"*.xml"}).isEmpty());
+    }
+
     /// A file that is no job keeps nobody waiting.
     void whatIsNoJobIsPassedOver()
     {

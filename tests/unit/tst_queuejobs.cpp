@@ -167,6 +167,18 @@ private slots:
             QCOMPARE(desk->stateOf(job, copy), QByteArray("sent"));
     }
 
+    /// Its id may be another document's.
+    void aCopyIsRefusedByItself()
+    {
+        VERIFY_JOB(*desk, lp({"-o", "job-uuid=till1-120/2", sample("kitchen-order.xml")}),
+                   IPP_JSTATE_COMPLETED, "");
+        const QString job = lp({"-n", "2", "-o", "job-uuid=till1-120", sample("receipt.xml")});
+        VERIFY_JOB(*desk, job, IPP_JSTATE_CANCELED,
+                   "refused, nothing was printed of copy 2: the id till1-120/2 was given to ");
+        QCOMPARE(printer->documents(2),
+                 QList<QByteArray>({bytesOf(expected("kitchen-order.out")), receipt()}));
+    }
+
     void fiscalDocumentsHaveNoCopies()
     {
         for (const QString &file : {sample("fiscal-receipt.xml"), expected("fiscal-receipt.out")}) {
@@ -216,6 +228,23 @@ private slots:
         VERIFY_JOB(*desk, lp({sample("kitchen-order.xml")}), IPP_JSTATE_COMPLETED, "");
         QCOMPARE(printer->documents(2),
                  QList<QByteArray>({receipt(), bytesOf(expected("kitchen-order.out"))}));
+    }
+
+    /// A wrong job under the id of one that waits says nothing of that one.
+    void aWaitingJobIsNotRefusedByAnother()
+    {
+        printer->off();
+        const QStringList id = {"-o", "job-uuid=till1-119"};
+        const QString first = lp(id + QStringList(sample("receipt.xml")));
+        QVERIFY(shows("waiting: "));
+        writeFile(desk->path("wrong.xml"), "<printjob><method name=\"printFullOrder\"/><total");
+        desk->addQueue("beside", printer->uri());
+        const QString second = desk->print("beside", id + QStringList(desk->path("wrong.xml")));
+        VERIFY_JOB(*desk, second, IPP_JSTATE_CANCELED, "refused, nothing was printed: wrong.xml:");
+        QVERIFY(!desk->journal({"show", "till1-119"}).standardOutput.contains("refused"));
+        printer->on();
+        VERIFY_JOB(*desk, first, IPP_JSTATE_COMPLETED, "");
+        QCOMPARE(printer->documents(1), QList<QByteArray>({receipt()}));
     }
 
     /// What was accepted is sent, though the settings are others when its job is started again.

@@ -183,6 +183,46 @@ private slots:
         VERIFY_JOB(*desk, job, IPP_JSTATE_COMPLETED, "");
     }
 
+    /// What the one prints as an accent is another letter to the other.
+    void aPrinterOfAnotherCodePageIsNotSentIt()
+    {
+        PaperPrinter other;
+        other.on();
+        desk->addQueue("windows", other.uri(), {"charset=cp1252"});
+        makeQueue({"charset=cp858"});
+        printer->off();
+        const QString job = lp({"-n", "2", sample("kitchen-order.xml")});
+        const QString moved = "windows-" + job.section('-', -1);
+        QVERIFY(shows("waiting: "));
+        QCOMPARE(desk->run("lpmove", {job, "windows"}).status, 0);
+        VERIFY_JOB(*desk, moved, IPP_JSTATE_HELD, "in the code page cp858, which is not this");
+        QCOMPARE(other.documents(), QList<QByteArray>());
+
+        printer->on();
+        QCOMPARE(desk->run("lpmove", {moved, queue()}).status, 0);
+        QCOMPARE(resume(job), 0);
+        VERIFY_JOB(*desk, job, IPP_JSTATE_COMPLETED, "");
+        const QByteArray paper = bytesOf(expected("kitchen-order.out"))
+                                     .replace("\xC3\xB9", "\x97")
+                                     .replace("\xC3\xA8", "\x8A");
+        QCOMPARE(printer->documents(2), QList<QByteArray>({paper, paper}));
+    }
+
+    /// One of the same code page stands in for it.
+    void aPrinterThatIsAlikeIsSentIt()
+    {
+        PaperPrinter other;
+        other.on();
+        desk->addQueue("alike", other.uri(), {"charset=cp858"});
+        makeQueue({"charset=cp858"});
+        printer->off();
+        const QString job = lp({sample("fiscal-receipt.xml")});
+        QVERIFY(shows("waiting: "));
+        QCOMPARE(desk->run("lpmove", {job, "alike"}).status, 0);
+        VERIFY_JOB(*desk, job, IPP_JSTATE_COMPLETED, "");
+        QCOMPARE(other.documents(1).size(), 1);
+    }
+
     /// Printers of a class are chosen by CUPS, and others are tried; not for what is fiscal.
     void aFiscalDocumentStaysAtItsPrinter()
     {
