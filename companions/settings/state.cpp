@@ -107,8 +107,9 @@ State::State(QObject *parent)
     : QObject(parent)
 {
     connect(&stack, &QUndoStack::indexChanged, this, &State::noteChange);
+    const QString file = u":/examples/korvel.conf"_s;
     Config sample;
-    sample.readBytes(resource(u":/examples/korvel.conf"_s), {}, u"cfg"_s);
+    sample.readBytes(resource(file), file, u"cfg"_s);
     inSample = valuesOf(*std::unique_ptr<QTreeWidget>(sample.newConfigListView()));
 }
 
