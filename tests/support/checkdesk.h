@@ -3,6 +3,7 @@
 
 #include "support/bytes.h"
 #include "support/files.h"
+#include "support/jsonschema.h"
 #include "support/program.h"
 
 #include <QTemporaryDir>
@@ -45,10 +46,10 @@ inline auto addRuns()
 }
 
 /// A folder with a job of each kind, and settings.
-class Desk
+class CheckDesk
 {
 public:
-    Desk()
+    CheckDesk()
     {
         writeFile(path("clean.xml"), cleanJob);
         writeFile(path("warning.xml"), jobWithWarning);
@@ -80,22 +81,6 @@ inline QStringList linesWithoutEnds(const QByteArray &output)
     else
         lines.removeLast();
     return lines;
-}
-
-/// Lines that the schema refuses, as their numbers, counted from 1; anything else that the
-/// validator says is added, so that it is not taken for a refusal.
-inline QStringList refused(const QByteArray &lines)
-{
-    // The machine's own interpreter is the one that sees the machine's packages.
-    const Run run = runProgram("/usr/bin/python3",
-                               {top + "tests/support/validate.py", top + "docs/check.schema.json"},
-                               {{}, {}, lines});
-    QStringList numbers;
-    for (const QString &line : linesOf(run.standardOutput))
-        numbers.append(line.section(':', 0, 0));
-    if (!run.exited || run.status != 0 || !run.standardError.isEmpty())
-        numbers.append(QString::fromUtf8(run.standardError));
-    return numbers;
 }
 
 /// Fails the test unless a run ended by itself with this status, and said nothing beside it.

@@ -43,7 +43,7 @@ private slots:
         QFETCH(QStringList, arguments);
         QFETCH(int, status);
         QFETCH(QByteArray, output);
-        const Run run = Desk().run(arguments);
+        const Run run = CheckDesk().run(arguments);
         VERIFY_ENDED(run, status);
         QCOMPARE(linesOf(run.standardOutput), linesOf(output));
     }
@@ -79,7 +79,7 @@ private slots:
     void wrongUsage()
     {
         QFETCH(QStringList, arguments);
-        VERIFY_TROUBLE(Desk().run(arguments), QByteArray());
+        VERIFY_TROUBLE(CheckDesk().run(arguments), QByteArray());
     }
 
     void version()
@@ -106,7 +106,7 @@ private slots:
         QFETCH(QString, language);
         const Run run = checker(arguments);
         VERIFY_ENDED(run, 0);
-        const Desk desk;
+        const CheckDesk desk;
         writeFile(desk.path("job.schema"), run.standardOutput);
         const QByteArray sound = "<printjob><method name=\"printSold\"/></printjob>";
         writeFile(desk.path("sound.xml"), sound);
@@ -122,7 +122,7 @@ private slots:
 
     void outputIsUtf8InAnyLocale()
     {
-        const Desk desk;
+        const CheckDesk desk;
         writeFile(desk.path("name.xml"), "<job><method name=\"Caff\xC3\xA8\"/></job>");
         const Run run = checker({"name.xml"}, {desk.folder.path(), {"LC_ALL=C"}, {}});
         VERIFY_ENDED(run, 1);

@@ -2,6 +2,7 @@
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
 #include "support/test.h"
+#include "support/vocabularytables.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -48,13 +49,6 @@ QStringList captured(const QString &text, const char *pattern)
     for (const auto &match : expression.globalMatch(text))
         found.append(match.captured(1));
     return found;
-}
-
-QStringList sorted(QStringList list)
-{
-    list.sort();
-    list.removeDuplicates();
-    return list;
 }
 
 // What the pages say.
