@@ -219,6 +219,7 @@ private:
             {"/usr/share/korvel-print", share + "/korvel-print"},
             {"tcp://192.168.1.50:9100", network},
             {"tcp://192.168.1.50", network},
+            {"/dev/tcp/192.168.1.50/9100", "/dev/tcp/" + network.mid(6).replace(':', '/')},
             {"127.0.0.1:9100", simulated},
             {"/dev/tcp/127.0.0.1/9100", "/dev/tcp/" + QString(simulated).replace(':', '/')},
             {"/dev/ttyS0", serial},
