@@ -101,13 +101,11 @@ class TestPageCommands : public QObject
 private slots:
     void initTestCase()
     {
-        for (const char *component : {"print", "delivery"}) {
-            const Run install = runProgram("cmake",
-                                           {"--install", KORVEL_BINARY_DIR, "--component",
-                                            component, "--prefix", installed.path()},
-                                           {});
-            QVERIFY2(install.status == 0, install.standardError.constData());
-        }
+        const Run install = runProgram(
+            "cmake",
+            {"--install", KORVEL_BINARY_DIR, "--component", "print", "--prefix", installed.path()},
+            {});
+        QVERIFY2(install.status == 0, install.standardError.constData());
     }
 
     void commandsRun_data()
@@ -215,7 +213,6 @@ private:
         const QString share = installed.filePath("share");
         return {
             {"/usr/share/doc/korvel-print/examples", share + "/doc/korvel-print/examples"},
-            {"/usr/share/doc/korvel-delivery/examples", share + "/doc/korvel-delivery/examples"},
             {"/usr/share/korvel-print", share + "/korvel-print"},
             {"tcp://192.168.1.50:9100", network},
             {"tcp://192.168.1.50", network},
