@@ -289,6 +289,16 @@ private slots:
                  said.split('\n'));
     }
 
+    /// What is set apart is an example, which is run below.
+    void displaysAreExamples_data() { addPrograms(); }
+
+    void displaysAreExamples()
+    {
+        const QString page = pageOf(QTest::currentDataTag());
+        QCOMPARE(page.count("\n.Bd "), section(page, "EXAMPLES").count("\n.Bd -literal"));
+        QCOMPARE(page.count("\n.Dl "), 0);
+    }
+
     /// The editor's examples open a window and wait for its user; they are not run.
     void examples_data()
     {
