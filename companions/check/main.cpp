@@ -106,6 +106,8 @@ int checkFiles(const QCommandLineParser &parser, Report &report)
         settings = std::make_unique<check::SettingsFile>(*bytes);
         report.add(path, checkSettings(*settings));
     }
+    if (const QString missing = remarkOnMissingSettings(); !settings && !missing.isEmpty())
+        remark(missing);
     for (const QString &path : parser.positionalArguments()) {
         const auto job = readWhole(path, largestJob, error);
         if (!job)

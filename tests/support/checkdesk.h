@@ -5,13 +5,26 @@
 #include "support/files.h"
 #include "support/program.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
 inline const QString top = KORVEL_SOURCE_DIR "/";
 
+/// The user has settings, from now on: without any, each run would say so.
+inline void haveSettings()
+{
+    static const QTemporaryDir home;
+    if (qgetenv("HOME") == home.path().toUtf8())
+        return;
+    QVERIFY(QDir(home.path()).mkpath(".korvel/conf"));
+    writeFile(home.filePath(".korvel/conf/korvel.conf"), {});
+    qputenv("HOME", home.path().toUtf8());
+}
+
 inline Run checker(const QStringList &arguments, const Surroundings &surroundings = {})
 {
+    haveSettings();
     return runProgram(KORVEL_CHECK, arguments, surroundings);
 }
 
@@ -50,6 +63,7 @@ class Desk
 public:
     Desk()
     {
+        haveSettings();
         writeFile(path("clean.xml"), cleanJob);
         writeFile(path("warning.xml"), jobWithWarning);
         writeFile(path("error.xml"), jobWithError);
