@@ -1,7 +1,8 @@
-# What cmake --install installs, in six components: print, tools, delivery, queue, settings
+# What cmake --install installs, in seven components: print, check, tools, delivery, queue, settings
 # and development.
 #
-#   korvel_install_program(target component)   a program and its manual page, docs/man/<target>.1.in
+#   korvel_install_program(target component)   a program, its manual page, docs/man/<target>.1.in,
+#                                              and its completion
 #   korvel_install_library(name headers...)    the library korvel-<name>, in the CMake package
 #                                              korvel::<name>, and headers under the path by which
 #                                              they are included
@@ -27,6 +28,9 @@ function(korvel_install_program target component)
     korvel_compress(${CMAKE_CURRENT_BINARY_DIR}/${target}.1 ${target}.1.gz)
     install(FILES ${KORVEL_COMPRESSED_DIR}/${target}.1.gz
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ${component})
+    install(FILES ${PROJECT_SOURCE_DIR}/packaging/completion.bash
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+        RENAME ${target} COMPONENT ${component})
 endfunction()
 
 function(korvel_install_library name)

@@ -6,13 +6,26 @@
 #include "support/jsonschema.h"
 #include "support/program.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
 inline const QString top = KORVEL_SOURCE_DIR "/";
 
+/// The user has settings, from now on: without any, each run would say so.
+inline void haveSettings()
+{
+    static const QTemporaryDir home;
+    if (qgetenv("HOME") == home.path().toUtf8())
+        return;
+    QVERIFY(QDir(home.path()).mkpath(".korvel/conf"));
+    writeFile(home.filePath(".korvel/conf/korvel.conf"), {});
+    qputenv("HOME", home.path().toUtf8());
+}
+
 inline Run checker(const QStringList &arguments, const Surroundings &surroundings = {})
 {
+    haveSettings();
     return runProgram(KORVEL_CHECK, arguments, surroundings);
 }
 
@@ -51,6 +64,7 @@ class CheckDesk
 public:
     CheckDesk()
     {
+        haveSettings();
         writeFile(path("clean.xml"), cleanJob);
         writeFile(path("warning.xml"), jobWithWarning);
         writeFile(path("error.xml"), jobWithError);

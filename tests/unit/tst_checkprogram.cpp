@@ -120,6 +120,32 @@ private slots:
                      valid);
     }
 
+    /// Who has no settings is told so, and how to take some; the findings are what they are.
+    void withoutSettings()
+    {
+        const Desk desk;
+        const auto run = [&](const QStringList &arguments) {
+            return checker(arguments, {desk.folder.path(), {"HOME=" + desk.path("nobody")}, {}});
+        };
+        const QByteArray remark = "korvel-check: there are no settings in "
+                                  + desk.path("nobody/.korvel/conf/korvel.conf").toUtf8()
+                                  + "; this takes the sample shop's: install -bDm644 /";
+        const QByteArray command = "/share/korvel-print/korvel.conf ~/.korvel/conf/korvel.conf\n";
+        const Run clean = run({"clean.xml"});
+        QVERIFY2(clean.standardError.startsWith(remark), clean.standardError.constData());
+        QVERIFY2(clean.standardError.endsWith(command), clean.standardError.constData());
+        QCOMPARE(clean.standardError.count('\n'), 1);
+        QCOMPARE(clean.status, 0);
+        QCOMPARE(linesOf(clean.standardOutput), QStringList());
+        const Run wrong = run({"--json", "error.xml"});
+        QCOMPARE(wrong.standardError, clean.standardError);
+        QCOMPARE(wrong.status, 1);
+        QCOMPARE(wrong.standardOutput.count('\n'), 1);
+
+        VERIFY_ENDED(run({"--settings", "korvel.conf", "clean.xml"}), 0);
+        VERIFY_ENDED(run({"--list-codes"}), 0);
+    }
+
     void outputIsUtf8InAnyLocale()
     {
         const CheckDesk desk;

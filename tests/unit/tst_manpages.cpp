@@ -329,12 +329,14 @@ private slots:
         const QStringList variables = {
             "PATH=" + path,
             "EXAMPLES=" + installed.filePath("share/doc/korvel-print/examples"),
+            "SAMPLE=" + installed.filePath("share/korvel-print/korvel.conf"),
             "CATALOGUES=" + installed.filePath("share/korvel-print/translations"),
         };
         for (const Example &example : examples) {
             QString script = example.script;
             QVERIFY(!script.isEmpty());
             script.replace("/usr/share/doc/korvel-print/examples", "\"$EXAMPLES\"")
+                .replace("/usr/share/korvel-print/korvel.conf", "\"$SAMPLE\"")
                 .replace("/usr/share/korvel-print/translations", "\"$CATALOGUES\"")
                 .replace("/dev/usb/lp0", "printed");
             const Run run = runProgram("/bin/sh", {"-e", "-c", "exec 2>&1\n" + script},
