@@ -123,7 +123,7 @@ private slots:
     /// Who has no settings is told so, and how to take some; the findings are what they are.
     void withoutSettings()
     {
-        const Desk desk;
+        const CheckDesk desk;
         const auto run = [&](const QStringList &arguments) {
             return checker(arguments, {desk.folder.path(), {"HOME=" + desk.path("nobody")}, {}});
         };

@@ -33,6 +33,7 @@ const QList<Program> programs = {
 // clang-format on
 
 const QString renderer = "korvel-print";
+const QString driver = "korvel-queue"; // of CUPS, whose programs nobody calls
 
 QString pathOf(const QString &name)
 {
@@ -53,9 +54,9 @@ QStringList captured(const QString &text, const char *pattern)
 
 // What the pages say.
 
-QString pageOf(const QString &name)
+QString pageOf(const QString &name, const QString &section = "1")
 {
-    return QString::fromUtf8(bytesOf(top + "docs/man/" + name + ".1.in"));
+    return QString::fromUtf8(bytesOf(top + "docs/man/" + name + '.' + section + ".in"));
 }
 
 QString section(const QString &page, const QString &heading)
@@ -171,6 +172,7 @@ private slots:
         QStringList files;
         for (const Program &program : programs)
             files.append(program.name + ".1.in");
+        files.insert(files.indexOf("korvel-recode.1.in"), driver + ".8.in");
         QCOMPARE(QDir(top + "docs/man").entryList({"*.in"}, QDir::Files, QDir::Name), files);
     }
 
@@ -263,9 +265,19 @@ private slots:
         for (const Program &program : programs)
             if (program.name != name)
                 others.append(program.name);
+        others.append(driver);
         const QString page = pageOf(name);
-        QCOMPARE(captured(section(page, "SEE ALSO"), "^\\.Xr (\\S+) 1\\b"), others);
-        QCOMPARE(sorted(captured(page, "\\bXr (\\S+)")), others);
+        QCOMPARE(captured(section(page, "SEE ALSO"), "^\\.Xr (\\S+) [18]\\b"), others);
+        QCOMPARE(sorted(captured(page, "\\bXr (\\S+)")), sorted(others));
+    }
+
+    void referencesOfTheDriver()
+    {
+        QStringList all;
+        for (const Program &program : programs)
+            all.append(program.name);
+        QCOMPARE(captured(section(pageOf(driver, "8"), "SEE ALSO"), "^\\.Xr (\\S+) [18]\\b"),
+                 all + QStringList({"lp", "lpadmin"}));
     }
 
     /// Each message of the renderer, in its order, is a row of its page.
