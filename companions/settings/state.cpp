@@ -107,9 +107,10 @@ State::State(QObject *parent)
     : QObject(parent)
 {
     connect(&stack, &QUndoStack::indexChanged, this, &State::noteChange);
-    const QString file = u":/examples/korvel.conf"_s;
+    // Without a name the store would make no row of the file, which all groups are below.
+    const QString name = u":/examples/korvel.conf"_s;
     Config sample;
-    sample.readBytes(resource(file), file, u"cfg"_s);
+    sample.readBytes(resource(name), name, u"cfg"_s);
     inSample = valuesOf(*std::unique_ptr<QTreeWidget>(sample.newConfigListView()));
 }
 
