@@ -14,16 +14,30 @@
 struct PageBlock
 {
     enum Kind {
-        Commands, // indented, or fenced as "sh"
+        Commands, // indented, or fenced as "sh" or without a language
         File,     // fenced, with a name behind the language: the reader saves it
         Output,   // fenced as "text"
-        Other     // any other fence
+        Content,  // fenced as what no reader types
+        Unknown   // any other fence
     };
     Kind kind;
     int line;     // of its first line on the page, from 1
     QString name; // of a file
     QString text;
 };
+
+/// What is fenced with a language and the name of a file.
+inline PageBlock::Kind kindOfFence(const QString &language, const QString &name)
+{
+    static const QStringList contents = {"cmake", "conf", "cpp", "json", "stream", "udev", "xml"};
+    if (!name.isEmpty())
+        return PageBlock::File;
+    if (language.isEmpty() || language == "sh")
+        return PageBlock::Commands;
+    if (language == "text")
+        return PageBlock::Output;
+    return contents.contains(language) ? PageBlock::Content : PageBlock::Unknown;
+}
 
 /// The blocks of a page, in their order.
 inline QList<PageBlock> blocksOf(const QString &page)
@@ -40,13 +54,7 @@ inline QList<PageBlock> blocksOf(const QString &page)
             const QString language = line.mid(3).section(' ', 0, 0);
             const QString name = line.section(' ', 1);
             if (isFenced)
-                blocks.append({!name.isEmpty()      ? PageBlock::File
-                               : language == "sh"   ? PageBlock::Commands
-                               : language == "text" ? PageBlock::Output
-                                                    : PageBlock::Other,
-                               int(i + 2),
-                               name,
-                               {}});
+                blocks.append({kindOfFence(language, name), int(i + 2), name, {}});
             continue;
         }
         if (isFenced) {
