@@ -1,7 +1,10 @@
-# What cmake --install installs, in six components: print, tools, delivery, queue, settings
+# What cmake --install installs, in seven components: print, check, tools, delivery, queue, settings
 # and development.
 #
-#   korvel_install_program(target component)   a program and its manual page, docs/man/<target>.1.in
+#   korvel_install_program(target component)   a program, its manual page, docs/man/<target>.1.in,
+#                                              and its completion
+#   korvel_install_page(name section component)
+#                                              a manual page, docs/man/<name>.<section>.in
 #   korvel_install_library(name headers...)    the library korvel-<name>, in the CMake package
 #                                              korvel::<name>, and headers under the path by which
 #                                              they are included
@@ -21,12 +24,20 @@ function(korvel_compress source name)
     add_custom_target(compressed-${name} ALL DEPENDS ${KORVEL_COMPRESSED_DIR}/${name})
 endfunction()
 
+function(korvel_install_page name section component)
+    set(page ${name}.${section})
+    configure_file(${PROJECT_SOURCE_DIR}/docs/man/${page}.in ${page} @ONLY)
+    korvel_compress(${CMAKE_CURRENT_BINARY_DIR}/${page} ${page}.gz)
+    install(FILES ${KORVEL_COMPRESSED_DIR}/${page}.gz
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man${section} COMPONENT ${component})
+endfunction()
+
 function(korvel_install_program target component)
     install(TARGETS ${target} COMPONENT ${component})
-    configure_file(${PROJECT_SOURCE_DIR}/docs/man/${target}.1.in ${target}.1 @ONLY)
-    korvel_compress(${CMAKE_CURRENT_BINARY_DIR}/${target}.1 ${target}.1.gz)
-    install(FILES ${KORVEL_COMPRESSED_DIR}/${target}.1.gz
-        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ${component})
+    korvel_install_page(${target} 1 ${component})
+    install(FILES ${PROJECT_SOURCE_DIR}/packaging/completion.bash
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+        RENAME ${target} COMPONENT ${component})
 endfunction()
 
 function(korvel_install_library name)

@@ -21,6 +21,9 @@ target_link_libraries(korvel-options INTERFACE korvel-warnings)
 target_compile_definitions(korvel-options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_USE_QSTRINGBUILDER)
 
+# Resources without the times of their files, so that the same sources are built to the same bytes.
+set(KORVEL_RESOURCES OPTIONS --format-version 1)
+
 if(KORVEL_SANITIZERS)
     # Every object is instrumented, or a library built without would hide its own faults.
     add_compile_options(-fsanitize=${KORVEL_SANITIZERS} -fno-sanitize-recover=all

@@ -26,6 +26,10 @@ execute_process(
     COMMAND date --utc --rfc-email --date "${KORVEL_RELEASE_DATE} 12:00"
     OUTPUT_VARIABLE KORVEL_RELEASE_TIME OUTPUT_STRIP_TRAILING_WHITESPACE
     COMMAND_ERROR_IS_FATAL ANY)
+execute_process(
+    COMMAND date --utc +%s --date "${KORVEL_RELEASE_DATE} 12:00"
+    OUTPUT_VARIABLE release_epoch OUTPUT_STRIP_TRAILING_WHITESPACE
+    COMMAND_ERROR_IS_FATAL ANY)
 configure_file(${PROJECT_SOURCE_DIR}/packaging/changelog.in changelog.Debian @ONLY)
 korvel_compress(${PROJECT_BINARY_DIR}/changelog.Debian changelog.Debian.gz)
 korvel_compress(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog.gz)
@@ -33,7 +37,7 @@ korvel_compress(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog.gz)
 # Packages of one version only fit each other.
 macro(korvel_package component name)
     cmake_parse_arguments(package
-        "" "SECTION;SYNOPSIS;DESCRIPTION" "DEPENDS;RECOMMENDS;SUGGESTS" ${ARGN})
+        "" "SECTION;SYNOPSIS;DESCRIPTION" "DEPENDS;RECOMMENDS;SUGGESTS;BREAKS;REPLACES" ${ARGN})
     install(FILES
         ${PROJECT_SOURCE_DIR}/packaging/copyright
         ${KORVEL_COMPRESSED_DIR}/changelog.gz
@@ -45,14 +49,14 @@ macro(korvel_package component name)
     set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${name})
     set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${package_SECTION})
     set(CPACK_DEBIAN_${upper}_DESCRIPTION "${package_SYNOPSIS}\n${package_DESCRIPTION}")
-    foreach(relation DEPENDS RECOMMENDS SUGGESTS)
+    foreach(relation DEPENDS RECOMMENDS SUGGESTS BREAKS REPLACES)
         list(JOIN package_${relation} ", " CPACK_DEBIAN_${upper}_PACKAGE_${relation})
     endforeach()
 endmacro()
 
 korvel_package(print korvel-print
     SECTION utils
-    SUGGESTS korvel-settings korvel-tools
+    SUGGESTS korvel-check korvel-settings korvel-tools
     SYNOPSIS "print-job renderer for points of sale"
     DESCRIPTION
 "korvel-print turns a point of sale's print job, a small XML file, into the
@@ -63,20 +67,31 @@ settings of the shop say.
 The labels print in English, German, Spanish, French or Italian. The renderer
 needs no display.")
 
+# What needs no display library is a package of its own, for servers. Once korvel-tools had it.
+korvel_package(check korvel-check
+    SECTION utils
+    RECOMMENDS korvel-print
+    BREAKS "korvel-tools (<< ${KORVEL_DEBIAN_VERSION})"
+    REPLACES "korvel-tools (<< ${KORVEL_DEBIAN_VERSION})"
+    SYNOPSIS "checker of print jobs, and code pages, for korvel-print"
+    DESCRIPTION
+"korvel-check says what is wrong with a print job or with the settings of a
+shop, before anything is printed. korvel-recode converts a command stream to
+the code page of an 8-bit printer and keeps its columns. Neither needs a
+display.
+
+Schemas of print jobs, in RELAX NG and as an XSD, are included.")
+
 korvel_package(tools korvel-tools
     SECTION utils
+    DEPENDS "korvel-check (= ${KORVEL_DEBIAN_VERSION})"
     RECOMMENDS fonts-dejavu-core korvel-print
-    SYNOPSIS "preview, checker, code pages and printer simulator for korvel-print"
+    SYNOPSIS "preview and printer simulator for korvel-print"
     DESCRIPTION
 "korvel-preview shows what a print job or a command stream would put on the
 paper of a fiscal receipt printer, in the terminal or as a PNG, SVG or PDF, and
-says what is wrong with it. korvel-check says what is wrong with a print job or
-with the settings of a shop, before anything is printed. korvel-recode converts
-a command stream to the code page of an 8-bit printer and keeps its columns.
-korvel-printer-sim takes streams like the printer, over the network or on a
-serial line, for tills and their tests.
-
-Schemas of print jobs, in RELAX NG and as an XSD, are included.")
+says what is wrong with it. korvel-printer-sim takes streams like the printer,
+over the network or on a serial line, for tills and their tests.")
 
 korvel_package(delivery korvel-delivery
     SECTION utils
@@ -84,10 +99,10 @@ korvel_package(delivery korvel-delivery
     SUGGESTS korvel-tools
     SYNOPSIS "delivery of print jobs, each at most once, for korvel-print"
     DESCRIPTION
-"korvel-deliver checks a print job, renders it with korvel-print and sends it to
-a printer in the network, at USB or on a serial line. A document is sent at most
-once under one id, whatever is killed, unplugged or full; what may have reached
-the printer is not sent again until a person has looked at the paper.
+"korvel-deliver checks a print job, renders it with korvel-print and sends it
+to a printer in the network, at USB or on a serial line. A document is sent at
+most once under one id, whatever is killed, unplugged or full; what may have
+reached the printer is not sent again until a person has looked at the paper.
 
 korvel-journal says what became of each document, proves that nothing was
 changed since, and adds up what was registered.")
@@ -101,8 +116,8 @@ korvel_package(queue printer-driver-korvel
     DESCRIPTION
 "With this driver a till prints its jobs by lp to a queue of CUPS. Each job is
 checked, rendered with korvel-print, and sent to the printer at most once. A
-queue waits for a printer that is off. A job that may have been printed, and may
-not, is held until a person has looked at the paper.
+queue waits for a printer that is off. A job that may have been printed, and
+may not, is held until a person has looked at the paper.
 
 Each queue has settings and a code page of its own, and a journal says what
 became of each job.")
@@ -146,4 +161,7 @@ set(CPACK_DEBIAN_PACKAGE_SOURCE korvel-print)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+# Whoever packs the same sources, whenever and wherever, gets the same packages.
+file(WRITE ${PROJECT_BINARY_DIR}/PackageTime.cmake "set(ENV{SOURCE_DATE_EPOCH} ${release_epoch})\n")
+set(CPACK_PROJECT_CONFIG_FILE ${PROJECT_BINARY_DIR}/PackageTime.cmake)
 include(CPack)

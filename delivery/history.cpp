@@ -129,7 +129,8 @@ void Journal::eachEvent(const QDateTime &since, const std::function<void(const E
 {
     QList<qint64> numbers;
     {
-        Statement event(*database, "SELECT number FROM events WHERE time >= ? ORDER BY number");
+        // The plus keeps from the index of numbers, in which all would be looked through.
+        Statement event(*database, "SELECT number FROM events WHERE time >= ? ORDER BY +number");
         event.with(boundOf(since));
         while (event.step())
             numbers.append(event.number(0));

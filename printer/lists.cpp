@@ -58,8 +58,9 @@ void PrinterDriver::printStatementOfAccount(const QString &qName, const QXmlAttr
 
     if (qName == element::statement_list) {
         setBold();
-        println(descriptionRow(tr("Date"), tr("Description"), tr("Amount"), {}, u' ',
-                               style::dateAmountType));
+        // Where other documents have a description, a statement has room for a short word alone.
+        println(descriptionRow(tr("Date"), tr("Description", "of a movement, in 6 characters"),
+                               tr("Amount"), {}, u' ', style::dateAmountType));
         reset(); // where other documents set the character size
     } else if (qName == element::statement) {
         println(descriptionRow(value(attribute::date) + ": "_L1,

@@ -195,5 +195,10 @@
         <source>Serials</source>
         <translation>Numéros</translation>
     </message>
+    <message>
+        <source>Description</source>
+        <comment>of a movement, in 6 characters</comment>
+        <translation>Type</translation>
+    </message>
 </context>
 </TS>

@@ -195,5 +195,10 @@
         <source>Serials</source>
         <translation>Numeri</translation>
     </message>
+    <message>
+        <source>Description</source>
+        <comment>of a movement, in 6 characters</comment>
+        <translation>Tipo</translation>
+    </message>
 </context>
 </TS>

@@ -40,7 +40,7 @@ const QCommandLineOption explainOption(u"explain"_s,
                                        u"Say what a code means, and what to do, by an example."_s,
                                        u"code"_s);
 const QCommandLineOption schemaOption(u"schema"_s,
-                                      u"Write a schema of jobs: RELAX NG (rng), or xsd."_s);
+                                      u"Write a schema of jobs, RELAX NG or XSD: rng or xsd."_s);
 
 /// Findings as lines, and the status that they make.
 struct Report
@@ -106,6 +106,8 @@ int checkFiles(const QCommandLineParser &parser, Report &report)
         settings = std::make_unique<check::SettingsFile>(*bytes);
         report.add(path, checkSettings(*settings));
     }
+    if (const QString missing = remarkOnMissingSettings(); !settings && !missing.isEmpty())
+        remark(missing);
     for (const QString &path : parser.positionalArguments()) {
         const auto job = readWhole(path, largestJob, error);
         if (!job)

@@ -18,10 +18,21 @@ namespace {
 using journal::Call;
 using journal::Part;
 
+/// All states, for the help and a message.
+QString stateNames()
+{
+    QStringList names;
+    for (const delivery::StateInfo &row : delivery::stateTable)
+        names.append(row.name);
+    const QString last = names.takeLast();
+    return names.join(u", "_s) + u" or "_s + last;
+}
+
 const QCommandLineOption journalOption(u"journal"_s, u"Read this journal, not the user's."_s,
                                        u"file"_s);
-const QCommandLineOption stateOption(u"state"_s, u"list: only documents in this state."_s,
-                                     u"state"_s);
+const QCommandLineOption
+    stateOption(u"state"_s, u"list: only documents in this state: "_s + stateNames() + u'.',
+                u"state"_s);
 const QCommandLineOption sinceOption(u"since"_s,
                                      u"list, export: only what happened at this date or later."_s,
                                      u"date"_s);
@@ -98,16 +109,6 @@ QString description()
     text += u"\nA DATE is a day of this place, such as 2026-05-12, or a time such as "
             "2026-05-12T18:30."_s;
     return text;
-}
-
-/// All states, for a message.
-QString stateNames()
-{
-    QStringList names;
-    for (const delivery::StateInfo &row : delivery::stateTable)
-        names.append(row.name);
-    const QString last = names.takeLast();
-    return names.join(u", "_s) + u" or "_s + last;
 }
 
 /// Reads the values of the options; why one does not fit, empty when all do.

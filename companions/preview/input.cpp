@@ -31,13 +31,13 @@ QByteArray sampleSettings()
 /// The settings to render by; see readInput().
 std::optional<Settings> settingsFor(const QString &given, QString &note, QString &error)
 {
-    const QString path =
-        given.isEmpty() ? korvel::path::home() + korvel::path::settingsInHome : given;
-    if (given.isEmpty() && korvel::path::kindOf(path) == korvel::path::Kind::Nothing) {
-        note = u"there are no settings in "_s + path
-               + u": shown by those of the sample shop; --settings names others"_s;
+    const QString missing = given.isEmpty() ? shared::remarkOnMissingSettings() : QString();
+    if (!missing.isEmpty()) {
+        note = u"shown by the sample shop's settings: "_s + missing;
         return Settings{u"sample settings"_s, sampleSettings()};
     }
+    const QString path =
+        given.isEmpty() ? korvel::path::home() + korvel::path::settingsInHome : given;
     const auto bytes = shared::readSettings(path, error);
     if (!bytes) {
         error = path + u": "_s + error;

@@ -31,8 +31,8 @@ const QCommandLineOption formatOption(u"format"_s,
                                       u"Of the output, whatever its name: png, svg, pdf or html."_s,
                                       u"kind"_s);
 const QCommandLineOption lookOption(u"look"_s,
-                                    u"Of the picture: plain, or thermal, dot by dot on paper of "
-                                    "80 mm."_s,
+                                    u"Of the picture, thermal being dot by dot on paper of 80 mm: "
+                                    "plain or thermal."_s,
                                     u"name"_s, u"plain"_s);
 const QCommandLineOption transparentOption(u"transparent"_s,
                                            u"Leave out what is around the paper."_s);

@@ -73,13 +73,18 @@ int main(int argc, char *argv[])
 
     // What lies in temporary folders goes with the window, on a signal too.
     StopSignals stop;
-    QObject::connect(&stop, &StopSignals::stopped, [] { QCoreApplication::exit(); });
+    bool isStopped = false;
+    QObject::connect(&stop, &StopSignals::stopped, [&isStopped] {
+        isStopped = true;
+        QCoreApplication::exit();
+    });
     int status = 0;
     {
         SettingsWindow window(file, Rendering::findRenderer());
         window.show();
-        window.begin();
-        status = QApplication::exec();
+        window.begin(); // which may ask, and be stopped meanwhile
+        if (!isStopped)
+            status = QApplication::exec();
     }
     stop.obey();
     return status;

@@ -2,8 +2,10 @@
 #include "companions/settings/paperview.h"
 
 #include "companions/preview/look.h"
+#include "companions/settings/paperaccess.h"
 #include "vocabulary/paper.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -23,6 +25,7 @@ constexpr int border = 16; // around the paper, in pixels
 PaperView::PaperView(QWidget *parent)
     : QWidget(parent)
 {
+    makePaperReadable(); // before anything is told of it
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Paper"));
 }
@@ -48,7 +51,7 @@ void PaperView::showMessage(const QString &text)
 void PaperView::showContent()
 {
     litRows.clear();
-    setAccessibleDescription(text());
+    setAccessibleDescription({});
     resize(sizeHint());
     updateGeometry();
     update();
@@ -75,6 +78,14 @@ QString PaperView::text() const
     for (const preview::PaperRow &row : rows)
         lines.append(row.text);
     return lines.join(u'\n');
+}
+
+int PaperView::startOf(int row) const
+{
+    qsizetype start = 0;
+    for (const preview::PaperRow &before : rows.first(std::min<qsizetype>(row, rows.size())))
+        start += before.text.size() + 1;
+    return static_cast<int>(start);
 }
 
 void PaperView::light(const QList<int> &newRows, const std::optional<Span> &columns)
@@ -162,13 +173,12 @@ void PaperView::mousePressEvent(QMouseEvent *event)
 
 void PaperView::keyPressEvent(QKeyEvent *event)
 {
-    const int last = static_cast<int>(rows.size()) - 1;
     switch (event->key()) {
     case Qt::Key_Down:
-        current = std::min(current + 1, last);
+        setCurrentRow(current + 1);
         break;
     case Qt::Key_Up:
-        current = std::min(std::max(current - 1, 0), last);
+        setCurrentRow(current - 1);
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -177,11 +187,18 @@ void PaperView::keyPressEvent(QKeyEvent *event)
         return;
     default:
         QWidget::keyPressEvent(event);
-        return;
     }
-    if (current >= 0)
+}
+
+void PaperView::setCurrentRow(int row)
+{
+    current = std::min(std::max(row, 0), static_cast<int>(rows.size()) - 1);
+    if (current >= 0) {
         setAccessibleDescription(
-            tr("Line %1: %2").arg(current + 1).arg(rows[current].text.trimmed()) + u'\n' + text());
+            tr("Line %1: %2").arg(current + 1).arg(rows[current].text.trimmed()));
+        QAccessibleTextCursorEvent moved(this, startOf(current));
+        QAccessible::updateAccessibility(&moved);
+    }
     update();
 }
 

@@ -43,6 +43,12 @@ public:
     /// The row that the arrow keys are at, -1 for none.
     [[nodiscard]] int currentRow() const { return current; }
 
+    /// Has the arrow keys go on from this row, or from the nearest that there is.
+    void setCurrentRow(int row);
+
+    /// Where a row begins in the text, or would behind its end.
+    [[nodiscard]] int startOf(int row) const;
+
     /// Pixels of the screen for a dot of the picture.
     void setZoom(double factor);
     [[nodiscard]] double zoom() const { return factor; }
@@ -52,6 +58,9 @@ public:
 
     /// Where a column begins, from the widget's left.
     [[nodiscard]] double leftOf(int column) const;
+
+    /// Where columns of a row are.
+    [[nodiscard]] QRectF rectOf(int row, const Span &columns) const;
 
     /// The middle of a column in a row.
     [[nodiscard]] QPoint placeOf(int row, int column = 0) const;
@@ -75,7 +84,6 @@ protected:
 private:
     void showMessage(const QString &text);
     void showContent();
-    [[nodiscard]] QRectF rectOf(int row, const Span &columns) const;
 
     QList<preview::PaperRow> rows;
     std::optional<preview::Picture> picture;

@@ -107,8 +107,10 @@ State::State(QObject *parent)
     : QObject(parent)
 {
     connect(&stack, &QUndoStack::indexChanged, this, &State::noteChange);
+    // Without a name the store would make no row of the file, which all groups are below.
+    const QString name = u":/examples/korvel.conf"_s;
     Config sample;
-    sample.readBytes(resource(u":/examples/korvel.conf"_s), {}, u"cfg"_s);
+    sample.readBytes(resource(name), name, u"cfg"_s);
     inSample = valuesOf(*std::unique_ptr<QTreeWidget>(sample.newConfigListView()));
 }
 

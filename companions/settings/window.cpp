@@ -141,6 +141,12 @@ void SettingsWindow::buildPanes(const QString &renderer)
 void SettingsWindow::connectPanes()
 {
     connect(documents, &QListWidget::currentRowChanged, this, &SettingsWindow::chooseDocument);
+    // Who has no keyboard but the accessibility bus selects, which makes no row the current one.
+    connect(documents, &QListWidget::itemSelectionChanged, this, [this] {
+        const QList<QListWidgetItem *> selected = documents->selectedItems();
+        if (selected.size() == 1 && selected.constFirst() != documents->currentItem())
+            documents->setCurrentItem(selected.constFirst());
+    });
     connect(form, &FormPane::entered, paper, &PaperPane::lightSetting);
     connect(expert, &ExpertPane::entered, paper, &PaperPane::lightSetting);
     connect(paper, &PaperPane::settingChosen, this, &SettingsWindow::chooseSetting);

@@ -71,6 +71,16 @@ std::optional<QByteArray> readSettings(const QString &path, QString &error, qint
     return readWhole(path, limit, error);
 }
 
+QString remarkOnMissingSettings()
+{
+    const QString path = korvel::path::home() + korvel::path::settingsInHome;
+    if (korvel::path::kindOf(path) != korvel::path::Kind::Nothing)
+        return {};
+    return u"there are no settings in "_s + path
+           + u"; this takes the sample shop's: install -bDm644 "_s + QStringLiteral(KORVEL_SAMPLE)
+           + u" ~"_s + korvel::path::settingsInHome;
+}
+
 bool writeWhole(const QString &path, const QByteArray &bytes, QString &error)
 {
     QByteArray target = korvel::path::toBytes(path);

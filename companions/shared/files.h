@@ -36,6 +36,12 @@ std::optional<QByteArray> readSettings(const QString &path, QString &error,
                                        qint64 limit = largestSettings);
 
 /**
+ * What a user without settings is told: that there are none, and the command that takes those of
+ * the sample shop, in one line; empty for who has some, whatever is in them.
+ */
+QString remarkOnMissingSettings();
+
+/**
  * Replaces a file by these bytes, or makes a new one: whole, or not at all. What a link leads to is
  * replaced, a link that leads nowhere is itself.
  *

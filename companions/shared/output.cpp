@@ -23,10 +23,15 @@ const QString unwritable = u"cannot write to standard output"_s;
 
 QString programName() { return QFileInfo(QCoreApplication::applicationFilePath()).fileName(); }
 
-int trouble(const QString &text)
+void remark(const QString &text)
 {
     const QByteArray line = (programName() + u": "_s + inOneLine(text) + u'\n').toUtf8();
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
+}
+
+int trouble(const QString &text)
+{
+    remark(text);
     return Trouble;
 }
 

@@ -17,7 +17,10 @@ enum ExitStatus {
 /// The name of the program's file.
 QString programName();
 
-/// Says in one line on standard error, behind the program's name, why it ends; gives Trouble.
+/// Says something in one line on standard error, behind the program's name.
+void remark(const QString &text);
+
+/// The same of why the program ends; gives Trouble.
 int trouble(const QString &text);
 
 /// Standard output, as UTF-8.

@@ -1,6 +1,8 @@
 // The faults and how they are spelt.
 #include "companions/simulator/fault.h"
 
+#include <QStringList>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::simulator {
@@ -60,15 +62,11 @@ std::optional<Fault> faultNamed(const QString &text)
 
 QString faultNames()
 {
-    QString names;
-    for (const Spelling &row : spellings) {
-        if (!names.isEmpty())
-            names += u", "_s;
-        names += row.name;
-        if (!row.number.isEmpty())
-            names += u'=' + QString(row.number);
-    }
-    return names;
+    QStringList names;
+    for (const Spelling &row : spellings)
+        names.append(row.number.isEmpty() ? QString(row.name) : row.name + u'=' + row.number);
+    const QString last = names.takeLast();
+    return names.join(u", "_s) + u" or "_s + last;
 }
 
 } // namespace korvel::simulator

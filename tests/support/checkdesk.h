@@ -3,15 +3,29 @@
 
 #include "support/bytes.h"
 #include "support/files.h"
+#include "support/jsonschema.h"
 #include "support/program.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
 inline const QString top = KORVEL_SOURCE_DIR "/";
 
+/// The user has settings, from now on: without any, each run would say so.
+inline void haveSettings()
+{
+    static const QTemporaryDir home;
+    if (qgetenv("HOME") == home.path().toUtf8())
+        return;
+    QVERIFY(QDir(home.path()).mkpath(".korvel/conf"));
+    writeFile(home.filePath(".korvel/conf/korvel.conf"), {});
+    qputenv("HOME", home.path().toUtf8());
+}
+
 inline Run checker(const QStringList &arguments, const Surroundings &surroundings = {})
 {
+    haveSettings();
     return runProgram(KORVEL_CHECK, arguments, surroundings);
 }
 
@@ -45,11 +59,12 @@ inline auto addRuns()
 }
 
 /// A folder with a job of each kind, and settings.
-class Desk
+class CheckDesk
 {
 public:
-    Desk()
+    CheckDesk()
     {
+        haveSettings();
         writeFile(path("clean.xml"), cleanJob);
         writeFile(path("warning.xml"), jobWithWarning);
         writeFile(path("error.xml"), jobWithError);
@@ -80,22 +95,6 @@ inline QStringList linesWithoutEnds(const QByteArray &output)
     else
         lines.removeLast();
     return lines;
-}
-
-/// Lines that the schema refuses, as their numbers, counted from 1; anything else that the
-/// validator says is added, so that it is not taken for a refusal.
-inline QStringList refused(const QByteArray &lines)
-{
-    // The machine's own interpreter is the one that sees the machine's packages.
-    const Run run = runProgram("/usr/bin/python3",
-                               {top + "tests/support/validate.py", top + "docs/check.schema.json"},
-                               {{}, {}, lines});
-    QStringList numbers;
-    for (const QString &line : linesOf(run.standardOutput))
-        numbers.append(line.section(':', 0, 0));
-    if (!run.exited || run.status != 0 || !run.standardError.isEmpty())
-        numbers.append(QString::fromUtf8(run.standardError));
-    return numbers;
 }
 
 /// Fails the test unless a run ended by itself with this status, and said nothing beside it.

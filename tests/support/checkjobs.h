@@ -54,7 +54,7 @@ inline QByteArray receipt(const QByteArray &elements)
     return documentOf("printFullOrderReceipt", elements);
 }
 
-inline QByteArray fiscal(const QByteArray &elements)
+inline QByteArray fiscalJob(const QByteArray &elements)
 {
     return documentOf("printFullOrderFiscal", elements);
 }

@@ -4,6 +4,7 @@
 #include "support/bytes.h"
 #include "support/files.h"
 #include "support/program.h"
+#include "support/samples.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -54,9 +55,6 @@ public:
 private:
     const QTemporaryDir folder;
 };
-
-/// What the sample shop's receipt is to the printer.
-inline QByteArray receipt() { return bytesOf(KORVEL_SOURCE_DIR "/examples/expected/receipt.out"); }
 
 /// Fails the test unless a run ended with this status and said this in one line: on standard output
 /// for 0, else on standard error.

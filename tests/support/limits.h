@@ -1,8 +1,8 @@
 // Jobs and texts of any size, for tests of what the renderer takes.
 #pragma once
 
-#include "support/printed.h"
 #include "support/shop.h"
+#include "support/streams.h"
 
 #include <QByteArray>
 

@@ -4,19 +4,11 @@
 #include "support/bytes.h"
 #include "support/cupsdesk.h"
 #include "support/paperprinter.h"
+#include "support/samples.h"
 
 #include <QObject>
 
 #include <memory>
-
-inline QString sample(const QString &name) { return KORVEL_SOURCE_DIR "/examples/jobs/" + name; }
-inline QString expected(const QString &name)
-{
-    return KORVEL_SOURCE_DIR "/examples/expected/" + name;
-}
-
-/// What the sample shop's receipt is to the printer.
-inline QByteArray receipt() { return bytesOf(expected("receipt.out")); }
 
 /// What such tests share; their slots open, begin, end and close it.
 class QueueTest : public QObject

@@ -32,7 +32,8 @@ inline QByteArray printJobOf(const QByteArray &method, const QByteArray &element
 inline const QByteArray kitchenItem = "<receipe number=\"1\" name=\"x\"/>";
 inline const QByteArray pricedItem =
     "<receipe number=\"1\" name=\"x\" price=\"1\" totalPrice=\"1\"/>";
-inline const QByteArray saleRow = "<receipe department=\"1\" number=\"1\" name=\"x\" price=\"1\"/>";
+inline const QByteArray saleItem =
+    "<receipe department=\"1\" number=\"1\" name=\"x\" price=\"1\"/>";
 
 /// A data row for each example, one of each document.
 inline void addExampleJobs()
@@ -201,11 +202,11 @@ private:
     void addOthers()
     {
         here("printFullOrderFiscal", "a department left out",
-             "<receipe number=\"1\" name=\"x\" price=\"1\"/>", saleRow);
-        here("printFullOrderFiscal", "a customer", "<customer name=\"x\"/>" + saleRow, saleRow);
-        here("printFullOrderFiscal", "a shared element", "<company name=\"x\"/>" + saleRow,
-             saleRow);
-        here("printFullOrderFiscal", "an item of a receipt", pricedItem, saleRow);
+             "<receipe number=\"1\" name=\"x\" price=\"1\"/>", saleItem);
+        here("printFullOrderFiscal", "a customer", "<customer name=\"x\"/>" + saleItem, saleItem);
+        here("printFullOrderFiscal", "a shared element", "<company name=\"x\"/>" + saleItem,
+             saleItem);
+        here("printFullOrderFiscal", "an item of a receipt", pricedItem, saleItem);
         here("printAbstractOrder", "an item", kitchenItem, "");
         here("printAbstractOrder", "a shared element", "<logo/>", "");
         here("printAbstractOrderReceipt", "a customer",
@@ -216,7 +217,7 @@ private:
                    "<receipe_type number=\"1\" name=\"x\" price=\"1\"/>");
         here("printAbstractOrderInvoice", "an item of an invoice", pricedItem,
              "<receipe_type number=\"1\" name=\"x\" price=\"1\"/>");
-        here("printAbstractOrderFiscal", "an item", saleRow,
+        here("printAbstractOrderFiscal", "an item", saleItem,
              "<receipe_type department=\"1\" name=\"x\" price=\"1\"/>");
         everywhere("printReport", "cancelled documents without their total",
                    "<cancelledsummary number=\"1\" a=\"1\" b=\"2\" c=\"3\"/>",

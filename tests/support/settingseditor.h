@@ -3,8 +3,8 @@
 
 #include "companions/settings/paperview.h"
 #include "companions/settings/window.h"
-#include "support/printed.h"
 #include "support/settingsfiles.h"
+#include "support/streams.h"
 #include "support/temporaryhome.h"
 
 #include <QAction>

@@ -2,9 +2,13 @@
 #pragma once
 
 #include <QByteArrayList>
+#include <QString>
 
 /// A line: its text begins 4 bytes behind its start.
 inline QByteArray line(const QByteArray &content) { return "=\"/(" + content + " )\n"; }
+
+/// The same as linesOf() shows it.
+inline QString shownLine(const QString &content) { return "=\"/(" + content + " )\\n"; }
 
 /// A document with one line in it.
 inline QByteArray documentOf(const QByteArray &text) { return "=o\n" + line(text) + "=o\n"; }

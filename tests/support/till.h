@@ -5,6 +5,7 @@
 #include "support/bytes.h"
 #include "support/jobs.h"
 #include "support/recordingdriver.h"
+#include "support/streams.h"
 #include "support/temporaryhome.h"
 #include "support/vocabularytables.h"
 
@@ -163,6 +164,3 @@ private:
     QString path;
     QStringList frame;
 };
-
-/// A text line as the printer gets it.
-inline QString line(const QString &content) { return "=\"/(" + content + " )\\n"; }

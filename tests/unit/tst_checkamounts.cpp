@@ -147,8 +147,8 @@ private slots:
     {
         QFETCH(QString, value);
         QFETCH(QStringList, codes);
-        QCOMPARE(codesIn(fiscal("<receipe department=\"1\" number=\"1\" name=\"x\""
-                                + attribute("price", value.toUtf8()) + "/>")),
+        QCOMPARE(codesIn(fiscalJob("<receipe department=\"1\" number=\"1\" name=\"x\""
+                                   + attribute("price", value.toUtf8()) + "/>")),
                  codes);
         QCOMPARE(codesIn(documentOf("printAbstractOrderFiscal",
                                     "<receipe_type department=\"1\" name=\"x\""
@@ -188,8 +188,8 @@ private slots:
     {
         QFETCH(QString, value);
         QFETCH(QStringList, codes);
-        QCOMPARE(codesIn(fiscal("<receipe department=\"1\" name=\"x\" price=\"1\""
-                                + attribute("number", value.toUtf8()) + "/>")),
+        QCOMPARE(codesIn(fiscalJob("<receipe department=\"1\" name=\"x\" price=\"1\""
+                                   + attribute("number", value.toUtf8()) + "/>")),
                  codes);
     }
 

@@ -37,7 +37,7 @@ private slots:
         QStringList texts;
         for (const QByteArray &job : QByteArrayList{
                  documentOf("%2", {}),
-                 fiscal("<receipe department=\"1\" number=\"%3\" name=\"x\" price=\"%1\"/>"),
+                 fiscalJob("<receipe department=\"1\" number=\"%3\" name=\"x\" price=\"%1\"/>"),
              }) {
             for (const check::Finding &finding : check::checkJob(job, nullptr))
                 texts.append(finding.text);

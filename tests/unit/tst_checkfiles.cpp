@@ -29,7 +29,7 @@ class TestCheckFiles : public QObject
 private slots:
     void standardInput()
     {
-        const Desk desk;
+        const CheckDesk desk;
         const Run alone = desk.run({"-"}, jobWithError);
         VERIFY_ENDED(alone, 1);
         QCOMPARE(alone.standardOutput, "-" + error);
@@ -76,14 +76,14 @@ private slots:
     {
         QFETCH(QStringList, arguments);
         QFETCH(QByteArray, output);
-        const Run run = Desk().run(arguments);
+        const Run run = CheckDesk().run(arguments);
         VERIFY_TROUBLE(run, output);
     }
 
     /// Settings that are given as a job, which what is in them shows.
     void settingsForAJob()
     {
-        const Desk desk;
+        const CheckDesk desk;
         const QByteArray said = "settings.xml: settings, not a job; check them with korvel-check "
                                 "--settings FILE\n";
         for (const QByteArray settings :
@@ -107,7 +107,7 @@ private slots:
     {
         QFETCH(QByteArray, name);
         QFETCH(QByteArray, shown);
-        const Desk desk;
+        const CheckDesk desk;
         const Sweeper sweeper(desk.folder.path());
         const QByteArray folder = desk.folder.path().toUtf8();
         const QByteArray path = folder + '/' + name;
@@ -131,7 +131,7 @@ private slots:
         VERIFY_ENDED(json, 1);
         QVERIFY2(json.standardOutput.contains("\"file\":\"" + inJson(name) + "\","),
                  json.standardOutput.constData());
-        QCOMPARE(refused(json.standardOutput), QStringList());
+        QCOMPARE(refusedBy(checkSchema, json.standardOutput), QStringList());
 
         writeNamed(path, bytesOf(desk.path("korvel.conf")));
         const Run settings = run({"--settings", name});
@@ -148,7 +148,7 @@ private slots:
 
     void filesThatAreTooLarge()
     {
-        const Desk desk;
+        const CheckDesk desk;
         QFile file(desk.path("large"));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(qint64(64) * 1024 * 1024 + 1));
         VERIFY_TROUBLE(desk.run({"large", "error.xml"}), "error.xml" + error);
@@ -171,7 +171,7 @@ private slots:
     void outputThatCannotBeWritten()
     {
         QFETCH(QStringList, arguments);
-        const Desk desk;
+        const CheckDesk desk;
         VERIFY_TROUBLE(checker(arguments, {desk.folder.path(), {}, {}, "/dev/full"}), QByteArray());
     }
 };

@@ -18,7 +18,7 @@ class TestCheckJson : public QObject
 private slots:
     void json()
     {
-        const Desk desk;
+        const CheckDesk desk;
         const Run clean = desk.run({"--json", "clean.xml"});
         VERIFY_ENDED(clean, 0);
         QCOMPARE(clean.standardOutput, QByteArray());
@@ -39,7 +39,7 @@ private slots:
                                        "the job ends here")},
         };
         QCOMPARE(object, expected);
-        QCOMPARE(refused(texts.standardOutput), QStringList());
+        QCOMPARE(refusedBy(checkSchema, texts.standardOutput), QStringList());
     }
 
     /// The schema of a line accepts every finding, and refuses what is none.
@@ -54,7 +54,7 @@ private slots:
         VERIFY_ENDED(run, 1);
         const qsizetype count = run.standardOutput.count('\n');
         QVERIFY(count > 300);
-        QCOMPARE(refused(run.standardOutput), QStringList());
+        QCOMPARE(refusedBy(checkSchema, run.standardOutput), QStringList());
 
         const QJsonObject line{
             {"file", "x"},      {"line", 1},       {"column", 1},
@@ -90,7 +90,7 @@ private slots:
         for (int number = 1; number <= wrong.count('\n'); ++number)
             numbers.append(QString::number(number));
         add(line); // accepted
-        QCOMPARE(refused(wrong), numbers);
+        QCOMPARE(refusedBy(checkSchema, wrong), numbers);
     }
 
     void jsonSchemaTakesAllCodes()
@@ -107,7 +107,7 @@ private slots:
             };
             lines += QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
         }
-        QCOMPARE(refused(lines), QStringList());
+        QCOMPARE(refusedBy(checkSchema, lines), QStringList());
     }
 };
 

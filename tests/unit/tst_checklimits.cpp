@@ -114,8 +114,8 @@ private slots:
             return receipt("<total" + attribute("price", price) + "/>");
         };
         const auto sale = [](const QByteArray &number, const QByteArray &price) {
-            return fiscal("<receipe department=\"1\" name=\"x\"" + attribute("number", number)
-                          + attribute("price", price) + "/>");
+            return fiscalJob("<receipe department=\"1\" name=\"x\"" + attribute("number", number)
+                             + attribute("price", price) + "/>");
         };
         constexpr int length = 1'000'000;
         const QByteArray zeros(length, '0');

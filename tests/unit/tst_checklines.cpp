@@ -105,7 +105,7 @@ private slots:
     void findings()
     {
         QFETCH(QByteArray, character);
-        const Desk desk;
+        const CheckDesk desk;
         const auto written = [&](const QByteArrayList &templates, const QString &ending) {
             QStringList names;
             for (QByteArray text : templates) {
@@ -143,7 +143,7 @@ private slots:
     /// What is no character, and a group's name, show as blanks.
     void namesInSettings()
     {
-        const Desk desk;
+        const CheckDesk desk;
         writeFile(desk.path("shop.conf"),
                   "korvel:\n{\n  a\x1B[1m:\n  {\n    b\x1B[2m = \"1\";\n  };\n"
                   "  doc:\n  {\n    b\x1B[2m = \"1\";\n  };\n};\n");
@@ -166,7 +166,7 @@ private slots:
     void namesOfFiles()
     {
         QFETCH(QByteArray, name);
-        const Desk desk;
+        const CheckDesk desk;
         const Sweeper sweeper(desk.folder.path());
         const QByteArray folder = desk.folder.path().toUtf8();
         writeNamed(folder + '/' + name, jobWithError);

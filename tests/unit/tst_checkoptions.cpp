@@ -44,7 +44,7 @@ private slots:
         QFETCH(QStringList, arguments);
         QFETCH(int, status);
         QFETCH(QByteArray, output);
-        const Run run = Desk().run(arguments);
+        const Run run = CheckDesk().run(arguments);
         VERIFY_ENDED(run, status);
         QCOMPARE(linesOf(run.standardOutput), linesOf(output));
     }
@@ -54,8 +54,8 @@ private slots:
         QStringList all;
         for (const check::CodeInfo &row : check::codes())
             all.append(row.name);
-        const Run run = Desk().run({"--strict", "--ignore", all.join(','), "--settings",
-                                    "korvel.conf", "warning.xml", "error.xml"});
+        const Run run = CheckDesk().run({"--strict", "--ignore", all.join(','), "--settings",
+                                         "korvel.conf", "warning.xml", "error.xml"});
         VERIFY_ENDED(run, 0);
         QCOMPARE(run.standardOutput, QByteArray());
     }
@@ -102,7 +102,7 @@ private slots:
     {
         QFETCH(QStringList, arguments);
         QFETCH(QByteArray, says);
-        const Run run = Desk().run(arguments);
+        const Run run = CheckDesk().run(arguments);
         VERIFY_TROUBLE(run, QByteArray());
         QCOMPARE(run.standardError, "korvel-check: " + says + '\n');
     }

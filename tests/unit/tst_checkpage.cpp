@@ -96,7 +96,7 @@ private slots:
 
     void exampleOfThePage()
     {
-        const Desk desk;
+        const CheckDesk desk;
         const QByteArray job = blockOfPage("xml receipt.xml");
         QVERIFY(job.contains("<method "));
         writeFile(desk.path("receipt.xml"), job);
@@ -124,7 +124,7 @@ private slots:
         QCOMPARE(lines.size(), 2);
         for (const QString &line : lines) {
             QVERIFY2(line.endsWith("?>"), qPrintable(line));
-            const Desk desk;
+            const CheckDesk desk;
             writeFile(desk.path("clean.xml"), line.toUtf8() + '\n' + cleanJob);
             const Run run = desk.run({"--strict", "clean.xml"});
             VERIFY_ENDED(run, 0);

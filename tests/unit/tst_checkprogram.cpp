@@ -43,7 +43,7 @@ private slots:
         QFETCH(QStringList, arguments);
         QFETCH(int, status);
         QFETCH(QByteArray, output);
-        const Run run = Desk().run(arguments);
+        const Run run = CheckDesk().run(arguments);
         VERIFY_ENDED(run, status);
         QCOMPARE(linesOf(run.standardOutput), linesOf(output));
     }
@@ -79,7 +79,7 @@ private slots:
     void wrongUsage()
     {
         QFETCH(QStringList, arguments);
-        VERIFY_TROUBLE(Desk().run(arguments), QByteArray());
+        VERIFY_TROUBLE(CheckDesk().run(arguments), QByteArray());
     }
 
     void version()
@@ -106,7 +106,7 @@ private slots:
         QFETCH(QString, language);
         const Run run = checker(arguments);
         VERIFY_ENDED(run, 0);
-        const Desk desk;
+        const CheckDesk desk;
         writeFile(desk.path("job.schema"), run.standardOutput);
         const QByteArray sound = "<printjob><method name=\"printSold\"/></printjob>";
         writeFile(desk.path("sound.xml"), sound);
@@ -120,9 +120,35 @@ private slots:
                      valid);
     }
 
+    /// Who has no settings is told so, and how to take some; the findings are what they are.
+    void withoutSettings()
+    {
+        const CheckDesk desk;
+        const auto run = [&](const QStringList &arguments) {
+            return checker(arguments, {desk.folder.path(), {"HOME=" + desk.path("nobody")}, {}});
+        };
+        const QByteArray remark = "korvel-check: there are no settings in "
+                                  + desk.path("nobody/.korvel/conf/korvel.conf").toUtf8()
+                                  + "; this takes the sample shop's: install -bDm644 /";
+        const QByteArray command = "/share/korvel-print/korvel.conf ~/.korvel/conf/korvel.conf\n";
+        const Run clean = run({"clean.xml"});
+        QVERIFY2(clean.standardError.startsWith(remark), clean.standardError.constData());
+        QVERIFY2(clean.standardError.endsWith(command), clean.standardError.constData());
+        QCOMPARE(clean.standardError.count('\n'), 1);
+        QCOMPARE(clean.status, 0);
+        QCOMPARE(linesOf(clean.standardOutput), QStringList());
+        const Run wrong = run({"--json", "error.xml"});
+        QCOMPARE(wrong.standardError, clean.standardError);
+        QCOMPARE(wrong.status, 1);
+        QCOMPARE(wrong.standardOutput.count('\n'), 1);
+
+        VERIFY_ENDED(run({"--settings", "korvel.conf", "clean.xml"}), 0);
+        VERIFY_ENDED(run({"--list-codes"}), 0);
+    }
+
     void outputIsUtf8InAnyLocale()
     {
-        const Desk desk;
+        const CheckDesk desk;
         writeFile(desk.path("name.xml"), "<job><method name=\"Caff\xC3\xA8\"/></job>");
         const Run run = checker({"name.xml"}, {desk.folder.path(), {"LC_ALL=C"}, {}});
         VERIFY_ENDED(run, 1);

@@ -1,5 +1,6 @@
 // The command line: argument counts, files that are missing or broken, environments.
 #include "support/bytenames.h"
+#include "support/files.h"
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
 #include "support/test.h"
@@ -23,13 +24,6 @@ const QStringList stream = {
     QString::fromUtf8("=\"/(  2 Caffè                      )\\n"),
     "=o\\n",
 };
-
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
 
 /// A shop's HOME, in which a job lies ready and the renderer runs.
 class Shop

@@ -2,6 +2,7 @@
 #include "printer/company/companyprinterdriver.h"
 #include "support/bytes.h"
 #include "support/capturedoutput.h"
+#include "support/streams.h"
 #include "support/temporaryhome.h"
 #include "support/test.h"
 
@@ -34,9 +35,6 @@ QStringList streamOf(const Calls &calls)
     return linesOf(bytesOf(path));
 }
 
-/// A line as the printer gets it.
-QString line(const QString &content) { return "=\"/(" + content + " )\\n"; }
-
 const QString sixteen(16, ' ');
 
 class TestCompany : public QObject
@@ -52,42 +50,43 @@ private slots:
             QTest::newRow(name) << calls << stream;
         };
 
-        row("a line is framed", [](Printer &p) { p.println("abc"); }, {line("abc")});
-        row("an empty line is opener and closer", [](Printer &p) { p.println(""); }, {line("")});
-        row("an indent is spaces", [](Printer &p) { p.println(4, "abc"); }, {line("    abc")});
+        row("a line is framed", [](Printer &p) { p.println("abc"); }, {shownLine("abc")});
+        row("an empty line is opener and closer", [](Printer &p) { p.println(""); },
+            {shownLine("")});
+        row("an indent is spaces", [](Printer &p) { p.println(4, "abc"); }, {shownLine("    abc")});
         row("print and println make one line",
             [](Printer &p) {
                 p.print(2, "A");
                 p.println(0, "B");
             },
-            {line("  AB")});
+            {shownLine("  AB")});
         row("each line starts anew",
             [](Printer &p) {
                 p.println(1, "A");
                 p.println("B");
             },
-            {line(" A"), line("B")});
+            {shownLine(" A"), shownLine("B")});
         row("a line wider than the paper is not cut",
-            [](Printer &p) { p.println(QString(40, 'x')); }, {line(QString(40, 'x'))});
+            [](Printer &p) { p.println(QString(40, 'x')); }, {shownLine(QString(40, 'x'))});
         row("TOTALE gets a zero", [](Printer &p) { p.println("TOTALE 1 TOTALE"); },
-            {line("T0TALE 1 T0TALE")});
+            {shownLine("T0TALE 1 T0TALE")});
         row("TOTALE inside a word gets a zero", [](Printer &p) { p.println("SUBTOTALEX"); },
-            {line("SUBT0TALEX")});
+            {shownLine("SUBT0TALEX")});
         row("TOTALE in another letter case is kept",
             [](Printer &p) { p.println("Totale totale TOTALe TOTAL"); },
-            {line("Totale totale TOTALe TOTAL")});
+            {shownLine("Totale totale TOTALe TOTAL")});
         row("TOTALE in two pieces is kept",
             [](Printer &p) {
                 p.print(0, "TOT");
                 p.println("ALE");
             },
-            {line("TOTALE")});
+            {shownLine("TOTALE")});
         row("TOTALE in print gets a zero",
             [](Printer &p) {
                 p.print(1, "TOTALE");
                 p.println("");
             },
-            {line(" T0TALE")});
+            {shownLine(" T0TALE")});
         row("a text left pending is lost at the end", [](Printer &p) { p.print(0, "A"); }, {});
         row("a pending text waits for the next line",
             [](Printer &p) {
@@ -96,9 +95,9 @@ private slots:
                 p.printRowFiscal("1", "1", "X", "1");
                 p.println("B");
             },
-            {"=o\\n", "=R1/$100/*1/(X)\\n", line("AB")});
+            {"=o\\n", "=R1/$100/*1/(X)\\n", shownLine("AB")});
         row("text is UTF-8", [](Printer &p) { p.println(QString::fromUtf8("Caffè €")); },
-            {line("Caffè €")});
+            {shownLine("Caffè €")});
         row("bold, cut, pulse and logo write nothing",
             [](Printer &p) {
                 p.setBold();
@@ -150,7 +149,7 @@ private slots:
                      p.setCenterJustify();
                      p.println(content);
                  }),
-                 QStringList(line(QString(spaces, ' ') + content)));
+                 QStringList(shownLine(QString(spaces, ' ') + content)));
     }
 
     void centringCountsTheIndent()
@@ -160,7 +159,7 @@ private slots:
                      p.print(1, "Date:");
                      p.println(1, "x");
                  }),
-                 QStringList(line(QString(12, ' ') + " Date: x"))); // (32 - 8) / 2
+                 QStringList(shownLine(QString(12, ' ') + " Date: x"))); // (32 - 8) / 2
     }
 
     void justificationStaysUntilASizeIsSet()
@@ -177,7 +176,8 @@ private slots:
                      p.setCharSize(1);
                      p.println("");
                  }),
-                 QStringList({line(sixteen), line(sixteen), line(""), line(sixteen), line("")}));
+                 QStringList({shownLine(sixteen), shownLine(sixteen), shownLine(""),
+                              shownLine(sixteen), shownLine("")}));
     }
 
     void sections_data()

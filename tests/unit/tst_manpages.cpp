@@ -2,6 +2,7 @@
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
 #include "support/test.h"
+#include "support/vocabularytables.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -32,6 +33,7 @@ const QList<Program> programs = {
 // clang-format on
 
 const QString renderer = "korvel-print";
+const QString driver = "korvel-queue"; // of CUPS, whose programs nobody calls
 
 QString pathOf(const QString &name)
 {
@@ -50,18 +52,11 @@ QStringList captured(const QString &text, const char *pattern)
     return found;
 }
 
-QStringList sorted(QStringList list)
-{
-    list.sort();
-    list.removeDuplicates();
-    return list;
-}
-
 // What the pages say.
 
-QString pageOf(const QString &name)
+QString pageOf(const QString &name, const QString &section = "1")
 {
-    return QString::fromUtf8(bytesOf(top + "docs/man/" + name + ".1.in"));
+    return QString::fromUtf8(bytesOf(top + "docs/man/" + name + '.' + section + ".in"));
 }
 
 QString section(const QString &page, const QString &heading)
@@ -177,6 +172,7 @@ private slots:
         QStringList files;
         for (const Program &program : programs)
             files.append(program.name + ".1.in");
+        files.insert(files.indexOf("korvel-recode.1.in"), driver + ".8.in");
         QCOMPARE(QDir(top + "docs/man").entryList({"*.in"}, QDir::Files, QDir::Name), files);
     }
 
@@ -269,9 +265,19 @@ private slots:
         for (const Program &program : programs)
             if (program.name != name)
                 others.append(program.name);
+        others.append(driver);
         const QString page = pageOf(name);
-        QCOMPARE(captured(section(page, "SEE ALSO"), "^\\.Xr (\\S+) 1\\b"), others);
-        QCOMPARE(sorted(captured(page, "\\bXr (\\S+)")), others);
+        QCOMPARE(captured(section(page, "SEE ALSO"), "^\\.Xr (\\S+) [18]\\b"), others);
+        QCOMPARE(sorted(captured(page, "\\bXr (\\S+)")), sorted(others));
+    }
+
+    void referencesOfTheDriver()
+    {
+        QStringList all;
+        for (const Program &program : programs)
+            all.append(program.name);
+        QCOMPARE(captured(section(pageOf(driver, "8"), "SEE ALSO"), "^\\.Xr (\\S+) [18]\\b"),
+                 all + QStringList({"lp", "lpadmin"}));
     }
 
     /// Each message of the renderer, in its order, is a row of its page.
@@ -335,12 +341,14 @@ private slots:
         const QStringList variables = {
             "PATH=" + path,
             "EXAMPLES=" + installed.filePath("share/doc/korvel-print/examples"),
+            "SAMPLE=" + installed.filePath("share/korvel-print/korvel.conf"),
             "CATALOGUES=" + installed.filePath("share/korvel-print/translations"),
         };
         for (const Example &example : examples) {
             QString script = example.script;
             QVERIFY(!script.isEmpty());
             script.replace("/usr/share/doc/korvel-print/examples", "\"$EXAMPLES\"")
+                .replace("/usr/share/korvel-print/korvel.conf", "\"$SAMPLE\"")
                 .replace("/usr/share/korvel-print/translations", "\"$CATALOGUES\"")
                 .replace("/dev/usb/lp0", "printed");
             const Run run = runProgram("/bin/sh", {"-e", "-c", "exec 2>&1\n" + script},

@@ -1,4 +1,5 @@
 // The JSON and the list that korvel-preview writes, and the schema of the JSON.
+#include "support/jsonschema.h"
 #include "support/previewdesk.h"
 #include "support/streams.h"
 #include "support/test.h"
@@ -17,21 +18,6 @@ const QString schema = top + "docs/preview.schema.json";
 QByteArray json(const QJsonObject &object)
 {
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
-}
-
-/// Lines that the schema refuses, as their numbers, counted from 1; anything else that the
-/// validator says is added, so that it is not taken for a refusal.
-QStringList refused(const QByteArray &lines)
-{
-    // The machine's own interpreter is the one that sees the machine's packages.
-    const Run run = runProgram("/usr/bin/python3", {top + "tests/support/validate.py", schema},
-                               {{}, {}, lines});
-    QStringList numbers;
-    for (const QString &line : linesOf(run.standardOutput))
-        numbers.append(line.section(':', 0, 0));
-    if (!run.exited || run.status != 0 || !run.standardError.isEmpty())
-        numbers.append(QString::fromUtf8(run.standardError));
-    return numbers;
 }
 
 class TestPreviewJson : public QObject
@@ -145,7 +131,7 @@ private slots:
             origins += QStringList(run.standardOutput.count('\n'), name);
         }
         QStringList refusedOf;
-        for (const QString &number : refused(lines))
+        for (const QString &number : refusedBy(schema, lines))
             refusedOf.append(origins.value(number.toInt() - 1, number));
         QCOMPARE(refusedOf, QStringList());
         QVERIFY(origins.size() > 1000);
@@ -204,7 +190,7 @@ private slots:
     void schemaAllowsNothingElse()
     {
         QFETCH(QJsonObject, object);
-        QCOMPARE(refused(json(object)), QStringList());
+        QCOMPARE(refusedBy(schema, json(object)), QStringList());
 
         const auto with = [&](const QString &key, const QJsonValue &value) {
             QJsonObject changed = object;
@@ -258,7 +244,7 @@ private slots:
         QStringList numbers;
         for (int i = 1; i <= wrong.size(); ++i)
             numbers.append(QString::number(i));
-        QCOMPARE(refused(wrong.join()), numbers);
+        QCOMPARE(refusedBy(schema, wrong.join()), numbers);
     }
 };
 

@@ -128,15 +128,20 @@ private slots:
     void temporaryFoldersGoOnASignal_data()
     {
         QTest::addColumn<int>("signal");
-        QTest::newRow("SIGTERM") << SIGTERM;
-        QTest::newRow("SIGINT") << SIGINT;
-        QTest::newRow("SIGHUP") << SIGHUP;
+        QTest::addColumn<bool>("hasSettings");
+        QTest::newRow("SIGTERM") << SIGTERM << true;
+        QTest::newRow("SIGINT") << SIGINT << true;
+        QTest::newRow("SIGHUP") << SIGHUP << true;
+        QTest::newRow("while it asks for the sample") << SIGTERM << false;
     }
 
     void temporaryFoldersGoOnASignal()
     {
         QFETCH(int, signal);
+        QFETCH(bool, hasSettings);
         const TemporaryHome home(example("korvel.conf"));
+        if (!hasSettings)
+            QVERIFY(QFile::remove(home.settingsPath()));
         const QTemporaryDir folder;
         const QDir temporary(folder.path());
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

@@ -82,7 +82,7 @@ void addMessages()
 }
 
 /// All places where a pattern fits, sorted.
-QStringList matches(const QString &text, const char *pattern)
+QStringList allThatFit(const QString &text, const char *pattern)
 {
     QStringList found;
     auto it = QRegularExpression(pattern).globalMatch(text);
@@ -201,15 +201,15 @@ private slots:
     {
         QFETCH(QString, source);
         QFETCH(QString, translation);
-        QCOMPARE(matches(translation, "%\\d"), matches(source, "%\\d"));
-        QCOMPARE(matches(translation, "\\[\\*\\]"), matches(source, "\\[\\*\\]"));
+        QCOMPARE(allThatFit(translation, "%\\d"), allThatFit(source, "%\\d"));
+        QCOMPARE(allThatFit(translation, "\\[\\*\\]"), allThatFit(source, "\\[\\*\\]"));
         QCOMPARE(translation.count('&'), source.count('&'));
         QCOMPARE(translation.count('\n'), source.count('\n'));
-        QCOMPARE(matches(translation, "\"[^\"]*\""), matches(source, "\"[^\"]*\""));
-        QCOMPARE(matches(translation, "\\([*. a-z]*\\)(;;)?"),
-                 matches(source, "\\([*. a-z]*\\)(;;)?")); // the file dialog's filters
-        QCOMPARE(matches(translation, "\\d+"), matches(source, "\\d+"));
-        QCOMPARE(matches(translation, "( …|[.:?])$"), matches(source, "( …|[.:?])$"));
+        QCOMPARE(allThatFit(translation, "\"[^\"]*\""), allThatFit(source, "\"[^\"]*\""));
+        QCOMPARE(allThatFit(translation, "\\([*. a-z]*\\)(;;)?"),
+                 allThatFit(source, "\\([*. a-z]*\\)(;;)?")); // the file dialog's filters
+        QCOMPARE(allThatFit(translation, "\\d+"), allThatFit(source, "\\d+"));
+        QCOMPARE(allThatFit(translation, "( …|[.:?])$"), allThatFit(source, "( …|[.:?])$"));
     }
 
     /// A translation may name the element where the English text has a pronoun.
@@ -219,8 +219,8 @@ private slots:
     {
         QFETCH(QString, source);
         QFETCH(QString, translation);
-        const QStringList names = matches(translation, "`[^`]*`");
-        for (const QString &name : matches(source, "`[^`]*`"))
+        const QStringList names = allThatFit(translation, "`[^`]*`");
+        for (const QString &name : allThatFit(source, "`[^`]*`"))
             QVERIFY2(names.contains(name), qPrintable(name));
         for (const QString &name : names)
             QVERIFY2(name == "`/`"

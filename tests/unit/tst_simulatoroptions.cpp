@@ -35,7 +35,7 @@ private slots:
         const auto row = [](const QStringList &arguments, const QString &words) {
             QTest::newRow(qPrintable(arguments.join(' '))) << arguments << words;
         };
-        const QString faults = "refuse, reset=N, stall=N, slow=RATE, keep-open, deaf";
+        const QString faults = "refuse, reset=N, stall=N, slow=RATE, keep-open or deaf";
 
         row({"receipt.out"}, "no argument is taken; see --help");
         row({anyPort, "--pty"}, "--listen and --pty exclude each other");

@@ -61,7 +61,9 @@ private slots:
         QStringList faults;
         for (const QStringList &row : rowsBelow("Faults"))
             faults.append(sorted(matches(row.first(), "`(.*)`")));
-        QCOMPARE(faults.join(", ").toUtf8(),
+        QVERIFY(faults.size() > 1);
+        const QString last = faults.takeLast();
+        QCOMPARE((faults.join(", ") + " or " + last).toUtf8(),
                  run.standardError.mid(run.standardError.indexOf("one of ") + 7).trimmed());
     }
 

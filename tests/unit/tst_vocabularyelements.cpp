@@ -63,7 +63,7 @@ private slots:
             tag(element->name, plainAttributes(*element, method->document), another);
         QStringList withoutIt;
         if (element->name == "headers")
-            withoutIt = {line(QString(16, ' ')), line(QString(50, '='))};
+            withoutIt = {shownLine(QString(16, ' ')), shownLine(QString(50, '='))};
 
         const QString setting = element->setting;
         const QStringList alone = Till(*method, with(everythingOff, {setting}, "true")).lines(job);
