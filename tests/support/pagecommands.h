@@ -131,19 +131,19 @@ public:
             QString("exec > '%1/%2' 2>&1\n").arg(folder.path()).arg(line) + here(commands) + '\n';
     }
 
-    /// Runs all of it.
+    /// Runs all of it. Where what is typed is no command of a shell, the status is not 0.
     /// @param programs folders of programs
     [[nodiscard]] Run run(const QStringList &programs)
     {
         const QString path = folder.filePath("programs") + ':' + programs.join(':')
                              + ":/usr/bin:/bin:" + QString::fromLocal8Bit(qgetenv("PATH"));
-        return runProgram(
-            "timeout",
-            {"-k", "1", "50", "bash", "-c", script + "trap - ERR\nkill $(jobs -p) 2> /dev/null"},
-            {home(),
-             {"HOME=" + home(), "PATH=" + path, "LC_ALL=C.UTF-8", "LOCPATH", "XDG_DATA_HOME",
-              "FAILED=" + folder.filePath("failed")},
-             {}});
+        return runProgram("timeout",
+                          {"-k", "1", "50", "bash", "-c",
+                           script + "trap - ERR\nkill $(jobs -p) 2> /dev/null\nexit 0"},
+                          {home(),
+                           {"HOME=" + home(), "PATH=" + path, "LC_ALL=C.UTF-8", "LOCPATH",
+                            "XDG_DATA_HOME", "FAILED=" + folder.filePath("failed")},
+                           {}});
     }
 
     /// The commands that ended with another status than 0, a line each.
