@@ -10,6 +10,7 @@ import fs from 'node:fs';
 
 const cannotPrint = 2;
 const tryAgain = 3;
+const notStarted = [126, 127]; // what shells and the system's loader say
 
 // What korvel-deliver ends with: the folder that the sale goes to, and the words for the cashier.
 const outcomes = new Map([
@@ -90,10 +91,11 @@ function deliver(sales, id, options) {
     const path = `${sales}/open/${id}.xml`;
     const run = spawnSync('korvel-deliver', [`--id=${id}`, ...options, '--', path],
         { stdio: ['ignore', 'ignore', 'pipe'], encoding: 'utf8', maxBuffer: Infinity });
-    const status = run.error ? cannotPrint : run.status;
-    const reason = run.error ? 'korvel-deliver cannot be started\n' : run.stderr;
+    const isStarted = !run.error && !notStarted.includes(run.status);
+    const status = isStarted ? run.status : cannotPrint;
+    const reason = isStarted ? run.stderr : 'korvel-deliver cannot be started\n';
     const [folder, words] = outcomes.get(status) ?? ['open', ended];
-    if (folder !== 'open')
+    if (folder !== 'open' && fs.existsSync(path)) // or another try was quicker
         fs.renameSync(path, `${sales}/${folder}/${id}.xml`);
     process.stdout.write(`${words(id)}\n${status === 0 ? '' : reason}`);
     return outcomes.has(status) ? status : tryAgain;

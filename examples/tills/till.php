@@ -9,6 +9,7 @@
 
 const CANNOT_PRINT = 2;
 const TRY_AGAIN = 3;
+const NOT_STARTED = [126, 127]; // what shells and the system's loader say
 
 // What korvel-deliver ends with: the folder that the sale goes to, and the words for the cashier.
 const OUTCOMES = [
@@ -92,7 +93,7 @@ function run(array $command): array
     while ($process && ($end = proc_get_status($process))['running']) {
         usleep(1000);
     }
-    if (!$process || $end['exitcode'] === 126 || $end['exitcode'] === 127) {
+    if (!$process || in_array($end['exitcode'], NOT_STARTED, true)) {
         return [CANNOT_PRINT, "korvel-deliver cannot be started\n"];
     }
     return [$end['signaled'] ? null : $end['exitcode'], $reason];
@@ -104,7 +105,7 @@ function deliver(string $sales, string $id, array $options): int
     $path = "$sales/open/$id.xml";
     [$status, $reason] = run(['korvel-deliver', "--id=$id", ...$options, '--', $path]);
     [$folder, $words] = OUTCOMES[$status] ?? ['open', ENDED];
-    if ($folder !== 'open') {
+    if ($folder !== 'open' && file_exists($path)) { // or another try was quicker
         rename($path, "$sales/$folder/$id.xml");
     }
     echo str_replace('{0}', $id, $words), "\n", $status === 0 ? '' : $reason;

@@ -9,10 +9,12 @@ import os
 import re
 import subprocess
 import sys
+from contextlib import suppress
 from xml.sax.saxutils import quoteattr
 
 CANNOT_PRINT = 2
 TRY_AGAIN = 3
+NOT_STARTED = (126, 127)  # what shells and the system's loader say
 
 # What korvel-deliver ends with: the folder that the sale goes to, and the words for the cashier.
 OUTCOMES = {
@@ -84,10 +86,13 @@ def deliver(sales, id, options):
                              stderr=subprocess.PIPE)
         status, reason = run.returncode, run.stderr.decode(errors="replace")
     except OSError:
+        status = NOT_STARTED[0]
+    if status in NOT_STARTED:
         status, reason = CANNOT_PRINT, "korvel-deliver cannot be started\n"
     folder, words = OUTCOMES.get(status, ("open", ENDED))
     if folder != "open":
-        os.rename(path, f"{sales}/{folder}/{id}.xml")
+        with suppress(FileNotFoundError):  # another try was quicker
+            os.rename(path, f"{sales}/{folder}/{id}.xml")
     print(words.format(id))
     print(reason if status != 0 else "", end="", flush=True)
     return status if status in OUTCOMES else TRY_AGAIN

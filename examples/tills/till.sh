@@ -76,7 +76,7 @@ deliver() { # sales, id, option...
             folder=refused
             echo "$id: not printed: the receipt is wrong. Call for help; it is not tried again."
             ;;
-        "$cannot_print" | 126 | 127)
+        "$cannot_print" | 126 | 127) # the latter two are what shells and the system's loader say
             [ "$status" = $cannot_print ] || reason='korvel-deliver cannot be started'
             status=$cannot_print
             echo "$id: not printed: the till cannot print. Call for help, then try again."
@@ -97,11 +97,14 @@ END
             ;;
         *)
             status=$try_again
+            reason= # how the shell calls the signal
             echo "$id: the delivery was ended. Try again; nothing is printed twice."
             ;;
     esac
     [ "$status" = 0 ] || [ -z "$reason" ] || printf '%s\n' "$reason"
-    [ $folder = open ] || mv "$path" "$sales/$folder/$id.xml"
+    if [ $folder != open ] && [ -e "$path" ]; then # or another try was quicker
+        mv "$path" "$sales/$folder/$id.xml"
+    fi
     return "$status"
 }
 

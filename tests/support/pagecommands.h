@@ -14,16 +14,30 @@
 struct PageBlock
 {
     enum Kind {
-        Commands, // indented, or fenced as "sh"
+        Commands, // indented, or fenced as "sh" or without a language
         File,     // fenced, with a name behind the language: the reader saves it
         Output,   // fenced as "text"
-        Other     // any other fence
+        Content,  // fenced as what no reader types
+        Unknown   // any other fence
     };
     Kind kind;
     int line;     // of its first line on the page, from 1
     QString name; // of a file
     QString text;
 };
+
+/// What is fenced with a language and the name of a file.
+inline PageBlock::Kind kindOfFence(const QString &language, const QString &name)
+{
+    static const QStringList contents = {"cmake", "conf", "cpp", "json", "stream", "udev", "xml"};
+    if (!name.isEmpty())
+        return PageBlock::File;
+    if (language.isEmpty() || language == "sh")
+        return PageBlock::Commands;
+    if (language == "text")
+        return PageBlock::Output;
+    return contents.contains(language) ? PageBlock::Content : PageBlock::Unknown;
+}
 
 /// The blocks of a page, in their order.
 inline QList<PageBlock> blocksOf(const QString &page)
@@ -40,13 +54,7 @@ inline QList<PageBlock> blocksOf(const QString &page)
             const QString language = line.mid(3).section(' ', 0, 0);
             const QString name = line.section(' ', 1);
             if (isFenced)
-                blocks.append({!name.isEmpty()      ? PageBlock::File
-                               : language == "sh"   ? PageBlock::Commands
-                               : language == "text" ? PageBlock::Output
-                                                    : PageBlock::Other,
-                               int(i + 2),
-                               name,
-                               {}});
+                blocks.append({kindOfFence(language, name), int(i + 2), name, {}});
             continue;
         }
         if (isFenced) {
@@ -123,14 +131,15 @@ public:
             QString("exec > '%1/%2' 2>&1\n").arg(folder.path()).arg(line) + here(commands) + '\n';
     }
 
-    /// Runs all of it; the status is 0 when the shell came to the end.
+    /// Runs all of it. Where what is typed is no command of a shell, the status is not 0.
     /// @param programs folders of programs
     [[nodiscard]] Run run(const QStringList &programs)
     {
         const QString path = folder.filePath("programs") + ':' + programs.join(':')
                              + ":/usr/bin:/bin:" + QString::fromLocal8Bit(qgetenv("PATH"));
-        const QString end = "trap - ERR\nkill $(jobs -p) 2> /dev/null\nexit 0";
-        return runProgram("timeout", {"-k", "1", "50", "bash", "-c", script + end},
+        return runProgram("timeout",
+                          {"-k", "1", "50", "bash", "-c",
+                           script + "trap - ERR\nkill $(jobs -p) 2> /dev/null\nexit 0"},
                           {home(),
                            {"HOME=" + home(), "PATH=" + path, "LC_ALL=C.UTF-8", "LOCPATH",
                             "XDG_DATA_HOME", "FAILED=" + folder.filePath("failed")},

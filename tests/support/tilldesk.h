@@ -79,17 +79,16 @@ public:
     /// one.
     void replaceDelivery(const QByteArray &script)
     {
-        QDir().mkpath(path("replaced"));
         for (const char *name : {"basename", "cat", "expr", "grep", "iconv", "ln", "mkdir", "mv",
                                  "rm", "sed", "sync"}) {
-            QFile::link(interpreterNamed(name), path("replaced/") + name);
+            QFile::link(interpreterNamed(name), replaced.filePath(name));
         }
-        programs = path("replaced");
+        programs = replaced.path();
         if (script.isEmpty())
             return;
-        const QString replaced = path("replaced/korvel-deliver");
-        writeFile(replaced, "#!/bin/sh\n" + script);
-        QFile::setPermissions(replaced, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        const QString delivery = replaced.filePath("korvel-deliver");
+        writeFile(delivery, "#!/bin/sh\n" + script);
+        QFile::setPermissions(delivery, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
     void restoreDelivery() { programs.reset(); }
 
@@ -125,7 +124,10 @@ private:
     }
 
     const TillProgram till;
-    const QTemporaryDir folder;
+    // In memory, where the machine has such a folder: each sale waits for the disk several times.
+    const QTemporaryDir folder{(QFile::exists("/dev/shm") ? "/dev/shm" : QDir::tempPath())
+                               + "/korvel-till-XXXXXX"};
+    const QTemporaryDir replaced; // from where a program may be started
     Simulator printer;
     std::optional<QString> programs; // in the place of PATH
 };

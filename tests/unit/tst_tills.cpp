@@ -182,12 +182,18 @@ private slots:
         QCOMPARE(linesOf(desk.paper()), linesOf(receipt));
     }
 
-    void cannotBeStarted_data() { addTills(); }
+    void cannotBeStarted_data()
+    {
+        addForEachTill({{"it is not there", ""},
+                        {"it is not for this machine", "exit 126\n"},
+                        {"a library of it is missing", "echo lost >&2\nexit 127\n"}});
+    }
 
     void cannotBeStarted()
     {
+        QFETCH(QByteArray, what);
         TillDesk desk(currentTill());
-        desk.replaceDelivery({});
+        desk.replaceDelivery(what);
         VERIFY_TILL(desk.sell(id, items, desk.device()), 2, words[2],
                     "korvel-deliver cannot be started\n");
         QCOMPARE(desk.sales(), isOpen);
@@ -248,6 +254,18 @@ private slots:
         QCOMPARE(desk.sales(), isOpen);
         desk.restoreDelivery();
         VERIFY_TILL(desk.again(desk.device()), 0, words[0]);
+        QCOMPARE(linesOf(desk.paper()), linesOf(receipt));
+    }
+
+    /// Two tries at once are one document, and whoever comes first puts the sale away.
+    void anotherTryIsQuicker_data() { addTills(); }
+
+    void anotherTryIsQuicker()
+    {
+        TillDesk desk(currentTill());
+        desk.replaceDelivery("\"$REAL\" \"$@\" && mv sales/open/* sales/printed\n");
+        VERIFY_TILL(desk.sell(id, items, desk.device()), 0, words[0]);
+        QCOMPARE(desk.sales(), isPrinted);
         QCOMPARE(linesOf(desk.paper()), linesOf(receipt));
     }
 
