@@ -22,7 +22,7 @@ struct Excuse
 const Excuse notRun[] = {
     {"sudo .*",                    "needs root; scripts/package --check installs the packages"},
     {"(lp|lpstat) .*",             "needs a print server with the driver: tst_queue*.cpp have one"},
-    {"\\./(scripts/|\\.ci/).*",     "builds or measures for minutes: each change runs it"},
+    {"\\./(scripts/|\\.ci/).*",    "builds or measures for minutes: each change runs it"},
     {"git .*",                     "makes a release"},
     {"cmake .*",                   "builds for minutes: the tests consumer* do the same"},
     {"HOME=\\$PWD/build/print.*",  "runs what was built: the test consumer does the same"},
