@@ -160,7 +160,8 @@ void noteLost(Context &context, const Tag &tag, const QList<const JobAttribute *
     const bool one = figures.size() == 1;
     context.figureLost.insert(&tag);
     context.note(figures.constFirst()->place, Code::LostFigure, quoted(names), tag.name,
-                 context.method->title, one ? phrase::figureLost : phrase::figuresLost,
+                 vocabulary::titleOf(*context.method),
+                 one ? phrase::figureLost : phrase::figuresLost,
                  one ? orNearest(names.constFirst(), unused) : QString());
 }
 

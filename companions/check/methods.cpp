@@ -263,10 +263,10 @@ bool checkMethod(Context &context, const Tag &tag)
         return false;
     }
     if (context.method)
-        context.note(tag.place, Code::SecondMethod, context.method->title);
+        context.note(tag.place, Code::SecondMethod, vocabulary::titleOf(*context.method));
     else if (name && selection.read != selection.said)
-        context.note(name->place, Code::WrongMethod, selection.read->title, selection.said->title,
-                     selection.read->name);
+        context.note(name->place, Code::WrongMethod, vocabulary::titleOf(*selection.read),
+                     vocabulary::titleOf(*selection.said), selection.read->name);
     context.method = selection.read;
     for (const JobAttribute &other : tag.attributes) {
         if (other.name != attribute::name && &other != naming.attribute)

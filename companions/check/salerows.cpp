@@ -67,7 +67,7 @@ bool isDepartment(const QString &value)
 
 /// A character that ends or splits the printer's command, as findings call it; empty for none.
 /// A description may have a slash.
-QLatin1StringView endOfCommand(const JobAttribute &attribute)
+QString endOfCommand(const JobAttribute &attribute)
 {
     if (attribute.lineBreak)
         return phrase::lineBreak;

@@ -63,7 +63,7 @@ void checkIgnored(Context &context, const Tag &tag, bool isRoot)
         const Code code = carriesFigure(tag) ? Code::LostElement : Code::IgnoredElement;
         if (code == Code::LostElement)
             context.lost.insert(&tag);
-        context.note(tag.place, code, tag.name, context.method->title,
+        context.note(tag.place, code, tag.name, vocabulary::titleOf(*context.method),
                      elsewhere == 0 ? QString()
                                     : filled(phrase::printedIn, vocabulary::titlesOf(elsewhere)),
                      orLonger(tag.name, own));

@@ -106,7 +106,7 @@ public:
         if (rows == 0 || (!total && (!printed || maybeTotal)))
             return;
         if (!total)
-            context.note(method.place, Code::NoTotal, context.method->title,
+            context.note(method.place, Code::NoTotal, vocabulary::titleOf(*context.method),
                          invoice ? element::totals : element::total);
         else if (behind && printed)
             context.note(behind->place, Code::BehindTotal, behind->name);

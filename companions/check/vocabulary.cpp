@@ -1,6 +1,8 @@
 // How the tables of the vocabulary are searched.
 #include "companions/check/vocabulary.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -129,9 +131,16 @@ QString titlesOf(Documents documents)
     QStringList titles;
     QStringList others;
     for (const Method &method : methods())
-        ((documents & method.document) != 0 ? titles : others).append(method.title);
-    return others.size() <= fewOthers ? u"all documents but "_s + others.join(", "_L1)
-                                      : titles.join(", "_L1);
+        ((documents & method.document) != 0 ? titles : others).append(titleOf(method));
+    return others.size() <= fewOthers
+               ? QCoreApplication::translate("findings", "all documents but %1")
+                     .arg(others.join(", "_L1))
+               : titles.join(", "_L1);
+}
+
+QString titleOf(const Method &method)
+{
+    return QCoreApplication::translate("documents", method.title.data());
 }
 
 } // namespace korvel::vocabulary

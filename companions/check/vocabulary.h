@@ -78,6 +78,9 @@ Documents documentsOf(QAnyStringView group);
 /// among them, "all documents but" those.
 QString titlesOf(Documents documents);
 
+/// A document's title, in the user's language where a translator has it.
+QString titleOf(const Method &method);
+
 } // namespace korvel::vocabulary
 
 namespace vocabulary = korvel::vocabulary;

@@ -16,6 +16,22 @@ namespace korvel::preview {
 namespace {
 
 using Kind = Command::Kind;
+using shared::filled;
+
+namespace phrase {
+
+using shared::Phrase;
+
+// TooWide: what is
+constexpr Phrase line{QT_TRANSLATE_NOOP("findings", "line")};
+
+// UnknownCommand: what does not fit
+constexpr Phrase cutShort{
+    QT_TRANSLATE_NOOP("findings", "unknown command that begins at byte %1: the stream ends here")};
+constexpr Phrase misplaced{
+    QT_TRANSLATE_NOOP("findings", "unknown command: %1 does not belong here")};
+
+} // namespace phrase
 
 /// Goes through the commands and notes what is wrong.
 class Inspector
@@ -70,7 +86,7 @@ private:
         case Kind::Line:
             inspectText(command.offset + commands::lineOpener.size() + command.spaces,
                         command.content);
-            inspectWidth(command, u"line"_s);
+            inspectWidth(command, phrase::line);
             break;
         case Kind::SectionOpened:
             if (open)
@@ -92,10 +108,10 @@ private:
             inspectAmount(command,
                           command.offset + commands::announceDeduction.size()
                               + commands::deductionAmount.size(),
-                          u"deduction"_s);
-            inspectWidth(command, u"deduction"_s);
+                          kindName(command.kind));
+            inspectWidth(command, kindName(command.kind));
             if (!counted)
-                inspectSize(command, Amount::of(command.amount), u"deduction"_s);
+                inspectSize(command, Amount::of(command.amount), kindName(command.kind));
             break;
         case Kind::Unknown:
             inspectUnknown(command);
@@ -111,14 +127,14 @@ private:
         const qsizetype description =
             quantity + row.quantity.size() + commands::saleDescription.size();
         inspectField(department, row.department);
-        inspectAmount(row, amount, u"sale row"_s);
+        inspectAmount(row, amount, kindName(row.kind));
         inspectField(quantity, row.quantity);
         if (!isQuantity(row.quantity))
             note(Code::WrongQuantity, quantity, quoted(row.quantity, page));
         else if (!counted)
-            inspectSize(row, Amount::of(row.amount, row.quantity), u"sale row"_s);
+            inspectSize(row, Amount::of(row.amount, row.quantity), kindName(row.kind));
         inspectText(description, row.description, Code::EndsField);
-        inspectWidth(row, u"sale row"_s);
+        inspectWidth(row, kindName(row.kind));
     }
 
     void inspectAmount(const Command &row, qsizetype amountAt, const QString &what)
@@ -183,8 +199,7 @@ private:
             if (command.begunAs)
                 note(Code::UnterminatedCommand, bad, kindName(*command.begunAs), begin);
             else
-                note(Code::UnknownCommand, bad,
-                     QString(u" that begins at byte "_s + begin + u": the stream ends here"_s));
+                note(Code::UnknownCommand, bad, filled(phrase::cutShort, begin));
             return;
         }
         const QByteArrayView rest = QByteArrayView(stream).sliced(bad);
@@ -193,7 +208,7 @@ private:
         if (command.begunAs)
             note(Code::BrokenCommand, bad, kindName(*command.begunAs), byte);
         else
-            note(Code::UnknownCommand, bad, QString(u": "_s + byte + u" does not belong here"_s));
+            note(Code::UnknownCommand, bad, filled(phrase::misplaced, byte));
     }
 
     /// Finds lines and rows, of which a stream with nothing wrong needs none.

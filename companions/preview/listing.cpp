@@ -2,6 +2,7 @@
 #include "companions/preview/listing.h"
 
 #include "companions/paper/text.h"
+#include "companions/shared/codes.h"
 
 #include <algorithm>
 #include <array>
@@ -18,30 +19,30 @@ using Kind = Command::Kind;
 struct KindNames
 {
     Kind kind;
-    QLatin1StringView name;
+    shared::Phrase name;
     QByteArrayView key; // in JSON
 };
 
 constexpr KindNames kinds[] = {
-    {Kind::Line, "text line"_L1, "line"},
-    {Kind::SectionOpened, "section opening"_L1, "section-opened"},
-    {Kind::SectionClosed, "section closing"_L1, "section-closed"},
-    {Kind::SaleRow, "sale row"_L1, "sale-row"},
-    {Kind::Deduction, "deduction"_L1, "deduction"},
-    {Kind::Unknown, "unknown command"_L1, "unknown"},
+    {Kind::Line, {QT_TRANSLATE_NOOP("findings", "text line")}, "line"},
+    {Kind::SectionOpened, {QT_TRANSLATE_NOOP("findings", "section opening")}, "section-opened"},
+    {Kind::SectionClosed, {QT_TRANSLATE_NOOP("findings", "section closing")}, "section-closed"},
+    {Kind::SaleRow, {QT_TRANSLATE_NOOP("findings", "sale row")}, "sale-row"},
+    {Kind::Deduction, {QT_TRANSLATE_NOOP("findings", "deduction")}, "deduction"},
+    {Kind::Unknown, {QT_TRANSLATE_NOOP("findings", "unknown command")}, "unknown"},
 };
 
 struct SectionNames
 {
     Section section;
-    QLatin1StringView name;
+    shared::Phrase name;
     QByteArrayView key; // in JSON
 };
 
 constexpr SectionNames sections[] = {
-    {Section::Fiscal, "fiscal section"_L1, "fiscal"},
-    {Section::Receipt, "receipt section"_L1, "receipt"},
-    {Section::Document, "document section"_L1, "document"},
+    {Section::Fiscal, {QT_TRANSLATE_NOOP("findings", "fiscal section")}, "fiscal"},
+    {Section::Receipt, {QT_TRANSLATE_NOOP("findings", "receipt section")}, "receipt"},
+    {Section::Document, {QT_TRANSLATE_NOOP("findings", "document section")}, "document"},
 };
 
 const KindNames &namesOf(Kind kind)

@@ -73,7 +73,7 @@ void FieldRow::lay(const QString &title)
     for (QLabel *text : {label, meaningLabel, warningLabel})
         text->setWordWrap(true);
     meaningLabel->setTextFormat(Qt::PlainText);
-    meaningLabel->setForegroundRole(QPalette::PlaceholderText);
+    dimMeaning();
     warningLabel->setTextFormat(Qt::PlainText);
     more->setText(u"…"_s);
     more->setAutoRaise(true);
@@ -93,6 +93,23 @@ void FieldRow::lay(const QString &title)
     grid->addWidget(more, 0, 2);
     grid->addWidget(meaningLabel, 1, 0, 1, 3);
     grid->addWidget(warningLabel, 2, 0, 1, 3);
+}
+
+/// Not every theme has a colour for what stands behind.
+void FieldRow::dimMeaning()
+{
+    QPalette colours = palette();
+    QColor dimmed = colours.color(QPalette::WindowText);
+    dimmed.setAlphaF(0.65F);
+    colours.setColor(QPalette::WindowText, dimmed);
+    meaningLabel->setPalette(colours);
+}
+
+void FieldRow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        dimMeaning();
+    QWidget::changeEvent(event);
 }
 
 QWidget *FieldRow::makeEditor(const QStringList &catalogues)

@@ -44,6 +44,9 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 signals:
     /// The field has got the focus.
     void entered();
@@ -54,6 +57,7 @@ private:
     QWidget *makeText();
     QWidget *makeCatalogues(const QStringList &catalogues);
     void lay(const QString &title);
+    void dimMeaning();
     void fillMenu();
     [[nodiscard]] bool isBeingTyped() const;
 

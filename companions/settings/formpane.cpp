@@ -44,7 +44,7 @@ QString introduction(const vocabulary::Method &method)
     for (const vocabulary::Method &other : vocabulary::methods()) {
         if (other.group == method.group && other.name != method.name
             && other.document != vocabulary::SummaryOrder)
-            others.append(QCoreApplication::translate("documents", other.title.data()));
+            others.append(vocabulary::titleOf(other));
     }
     return others.isEmpty()
                ? QString()

@@ -83,7 +83,7 @@ QString readBy(vocabulary::Documents documents)
     QStringList titles;
     for (const vocabulary::Method &method : vocabulary::methods()) {
         if ((documents & method.document) != 0)
-            titles.append(QCoreApplication::translate("documents", method.title.data()));
+            titles.append(vocabulary::titleOf(method));
     }
     return titles.isEmpty() ? QCoreApplication::translate("korvel::settings::hints",
                                                           "Nothing on the paper depends on it.")

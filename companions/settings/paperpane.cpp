@@ -43,7 +43,9 @@ QString wordsOf(const preview::Finding &finding, const QList<preview::PaperRow> 
             .arg(finding.row)
             .arg(rows.value(finding.row - 1).text.size())
             .arg(vocabulary::lineWidth);
-    static const QRegularExpression bytes(u" (that begins |opened )?at byte \\d+"_s);
+    static const QRegularExpression bytes(
+        u" ((that begins |opened )?at byte \\d+|\\((byte|octet) \\d+\\))"_s,
+        QRegularExpression::CaseInsensitiveOption);
     const QString text = QString(finding.text).remove(bytes);
     return finding.row > 0 ? PaperPane::tr("Line %1: %2").arg(finding.row).arg(text) : text;
 }
@@ -107,6 +109,9 @@ void PaperPane::build()
     scroll->setWidget(paper);
     scroll->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     scroll->setBackgroundRole(QPalette::Mid);
+    QPalette table = scroll->palette(); // what runs over the edge is red, whatever the theme is
+    table.setColor(QPalette::Mid, QColor(0xb8, 0xb8, 0xb8));
+    scroll->setPalette(table);
     scroll->setFocusPolicy(Qt::NoFocus);
     paper->installEventFilter(this);
     connect(scroll->horizontalScrollBar(), &QScrollBar::valueChanged, this,

@@ -139,6 +139,7 @@ void PaperView::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     if (!picture) {
+        painter.setPen(Qt::black);
         painter.drawText(rect().adjusted(border, border, -border, -border),
                          Qt::AlignCenter | Qt::TextWordWrap, note);
         return;

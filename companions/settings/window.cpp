@@ -102,9 +102,8 @@ void SettingsWindow::buildPanes(const QString &renderer)
     documents->setObjectName(u"documents"_s);
     documents->setAccessibleName(tr("Documents"));
     for (const vocabulary::Method &method : vocabulary::methods()) {
-        auto *item = new QListWidgetItem(
-            fields::capitalised(QCoreApplication::translate("documents", method.title.data())),
-            documents);
+        auto *item =
+            new QListWidgetItem(fields::capitalised(vocabulary::titleOf(method)), documents);
         item->setData(methodRole, QString(method.name));
     }
     documents->addItem(tr("Language"));

@@ -3,6 +3,8 @@
 
 #include "companions/shared/nearest.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace korvel::shared {
@@ -16,6 +18,8 @@ QString firstSentence(QLatin1StringView text)
 }
 
 } // namespace
+
+Phrase::operator QString() const { return QCoreApplication::translate("findings", text); }
 
 QLatin1StringView levelName(Level level)
 {

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <type_traits>
 
 namespace korvel::shared {
 
@@ -18,12 +19,23 @@ enum class Level { Error, Warning };
 /// "error" or "warning".
 QLatin1StringView levelName(Level level);
 
+/**
+ * A text of findings. Programs have it as it is, in English, for logs and for those who search
+ * them; one with a translator installed has it in the language of its user.
+ */
+struct Phrase
+{
+    const char *text; // QT_TRANSLATE_NOOP("findings", ...)
+
+    operator QString() const; // NOLINT(google-explicit-constructor): it stands where texts stand
+};
+
 /// All that is said of a kind of findings.
 struct CodeWords
 {
     Level level;
     QLatin1StringView name;    // as findings show it; stable: programs may rely on it
-    QLatin1StringView wording; // of a finding, in one line; words of what is wrong at %1, %2 ...
+    Phrase wording;            // of a finding, in one line; words of what is wrong at %1, %2 ...
     QLatin1StringView meaning; // what is wrong, in a sentence or two
     QLatin1StringView advice;  // what to do
 };
@@ -35,9 +47,9 @@ struct CodeRow : CodeWords
     Code code;
 
     constexpr CodeRow(Code kind, Level levelOfAll, QLatin1StringView shownName,
-                      QLatin1StringView shownWording, QLatin1StringView whatItMeans,
+                      const char *shownWording, QLatin1StringView whatItMeans,
                       QLatin1StringView whatToDo)
-        : CodeWords{levelOfAll, shownName, shownWording, whatItMeans, whatToDo}
+        : CodeWords{levelOfAll, shownName, {shownWording}, whatItMeans, whatToDo}
         , code(kind)
     {
     }
@@ -74,12 +86,18 @@ QStringList codeNames(const QList<CodeRow<Code>> &rows)
 
 /// A text with words at its places, the first at %1. A place within a word is no place.
 template<typename... Words>
-QString filled(QLatin1StringView text, const Words &...words)
+QString filled(const Phrase &text, const Words &...words)
 {
+    const auto asText = [](const auto &word) {
+        if constexpr (std::is_same_v<std::decay_t<decltype(word)>, Phrase>)
+            return QString(word);
+        else
+            return QAnyStringView(word).toString();
+    };
     if constexpr (sizeof...(words) == 0)
         return text;
     else
-        return QString(text).arg(words...);
+        return QString(text).arg(asText(words)...);
 }
 
 /// What a finding says: the wording of its code with words at its places, in one line.

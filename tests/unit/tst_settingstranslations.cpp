@@ -100,6 +100,7 @@ struct Same
 
 const QList<Same> sameAsSource = {
     {"it", "&File", "Italian took over the English word, and programs name this menu so"},
+    {"fr", "point", "the decimal mark has the same name"},
 };
 
 /// Notes the texts that it is asked for in the contexts of the catalogues.

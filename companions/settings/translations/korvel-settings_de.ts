@@ -196,6 +196,749 @@
     </message>
 </context>
 <context>
+    <name>findings</name>
+    <message>
+        <source>%1: nothing behind %2 was checked</source>
+        <translation>%1: hinter %2 wurde nichts geprüft</translation>
+    </message>
+    <message>
+        <source>no method: nothing is printed; %1</source>
+        <translation>keine Methode: nichts wird gedruckt; %1</translation>
+    </message>
+    <message>
+        <source>%1: the job ends here%2</source>
+        <translation>%1: der Auftrag endet hier%2</translation>
+    </message>
+    <message>
+        <source>most elements are those of the %1, not of the %2; did you mean &quot;%3&quot;?</source>
+        <translation>die meisten Elemente gehören zum Dokument %1, nicht zum Dokument %2; ist &quot;%3&quot; gemeint?</translation>
+    </message>
+    <message>
+        <source>a second method: the section of the %1 is not closed; send one document per job</source>
+        <translation>eine zweite Methode: Der Abschnitt des Dokuments %1 wird nicht geschlossen; ein Dokument je Auftrag senden</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; stands before the method and is not printed; move it behind &lt;method&gt;</source>
+        <translation>&lt;%1&gt; steht vor der Methode und wird nicht gedruckt; hinter &lt;method&gt; setzen</translation>
+    </message>
+    <message>
+        <source>no document knows &lt;%1&gt;: nothing is printed%2</source>
+        <translation>kein Dokument kennt &lt;%1&gt;: nichts wird gedruckt%2</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; prints nothing in the document &quot;%2&quot;%3%4</source>
+        <translation>&lt;%1&gt; druckt im Dokument &quot;%2&quot; nichts%3%4</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; prints nothing in the document &quot;%2&quot;: its figures are lost%3%4</source>
+        <translation>&lt;%1&gt; druckt im Dokument &quot;%2&quot; nichts: seine Zahlen gehen verloren%3%4</translation>
+    </message>
+    <message>
+        <source>nothing reads &quot;%1&quot; of &lt;%2&gt; in this document%3</source>
+        <translation>nichts liest &quot;%1&quot; von &lt;%2&gt; in diesem Dokument%3</translation>
+    </message>
+    <message>
+        <source>nothing reads %1 of &lt;%2&gt; in the document &quot;%3&quot;: %4%5</source>
+        <translation>nichts liest %1 von &lt;%2&gt; im Dokument &quot;%3&quot;: %4%5</translation>
+    </message>
+    <message>
+        <source>nothing reads &quot;%1&quot; of &lt;%2&gt;%3</source>
+        <translation>nichts liest &quot;%1&quot; von &lt;%2&gt;%3</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has no %2: %3</source>
+        <translation>&lt;%1&gt; hat kein %2: %3</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has no %2, which the settings switch on: %3</source>
+        <translation>&lt;%1&gt; hat kein %2, das die Einstellungen einschalten: %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, no number; it prints as it is</source>
+        <translation>&quot;%1&quot; ist %2, keine Zahl; gedruckt wird es, wie es ist</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, with parts of a hundredth; it prints as it is</source>
+        <translation>&quot;%1&quot; ist %2, mit Teilen eines Hundertstels; gedruckt wird es, wie es ist</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2; other amounts of this job have a %3 as their decimal mark</source>
+        <translation>&quot;%1&quot; ist %2; andere Beträge dieses Auftrags haben als Dezimalzeichen: %3</translation>
+    </message>
+    <message>
+        <source>the quantity %1 is no number and prints as &quot;-&quot;, something left out</source>
+        <translation>die Menge %1 ist keine Zahl und wird als &quot;-&quot; gedruckt, etwas Weggelassenes</translation>
+    </message>
+    <message>
+        <source>the sale row has no %1: %2</source>
+        <translation>in der Verkaufszeile fehlt %1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, %3</source>
+        <translation>&quot;%1&quot; einer Verkaufszeile ist %2, %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, with parts of a hundredth, which are sent</source>
+        <translation>&quot;%1&quot; einer Verkaufszeile ist %2, mit Teilen eines Hundertstels, die gesendet werden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, no number above 0</source>
+        <translation>&quot;%1&quot; einer Verkaufszeile ist %2, keine Zahl über 0</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2; the printer takes a whole number from 1 on</source>
+        <translation>&quot;%1&quot; einer Verkaufszeile ist %2; der Drucker nimmt eine ganze Zahl ab 1</translation>
+    </message>
+    <message>
+        <source>%1 times %2 is %3, and &quot;%4&quot; is %5</source>
+        <translation>%1 mal %2 ist %3, und &quot;%4&quot; ist %5</translation>
+    </message>
+    <message>
+        <source>the rows come to %1, and %2</source>
+        <translation>die Zeilen ergeben %1, und %2</translation>
+    </message>
+    <message>
+        <source>%1 %2, and &quot;%3&quot; is %4</source>
+        <translation>%1 %2, und &quot;%3&quot; ist %4</translation>
+    </message>
+    <message>
+        <source>the %1 has rows and no &lt;%2&gt;: no total is printed</source>
+        <translation>das Dokument %1 hat Zeilen und kein &lt;%2&gt;: keine Summe wird gedruckt</translation>
+    </message>
+    <message>
+        <source>the total stands here a second time, with no row in front of it, and prints again</source>
+        <translation>die Summe steht hier ein zweites Mal, ohne eine Zeile davor, und wird noch einmal gedruckt</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; stands behind the total and prints below it</source>
+        <translation>&lt;%1&gt; steht hinter der Summe und wird unter ihr gedruckt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2: a %3 in it breaks the printer&apos;s command</source>
+        <translation>&quot;%1&quot; einer Verkaufszeile ist %2: Darin bricht %3 den Befehl des Druckers</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has a line break, which breaks the printed line</source>
+        <translation>&quot;%1&quot; von &lt;%2&gt; hat einen Zeilenumbruch, der die gedruckte Zeile bricht</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has a &quot;)&quot;, which some printers take for the end of the line</source>
+        <translation>&quot;%1&quot; von &lt;%2&gt; hat eine &quot;)&quot;, die manche Drucker für das Ende der Zeile halten</translation>
+    </message>
+    <message>
+        <source>%1 a tab or another control character</source>
+        <translation>%1 einen Tabulator oder ein anderes Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has TOTALE, which prints as T0TALE</source>
+        <translation>&quot;%1&quot; von &lt;%2&gt; hat TOTALE, was als T0TALE gedruckt wird</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has an empty part: what follows is not printed</source>
+        <translation>&quot;%1&quot; hat einen leeren Teil: Was folgt, wird nicht gedruckt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, probably %3: UTF-8 was read as %4 and saved again</source>
+        <translation>&quot;%1&quot; ist %2, wohl %3: UTF-8 wurde als %4 gelesen und wieder gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 %2, which prints as it is: it was escaped twice</source>
+        <translation>%1 %2, was gedruckt wird, wie es ist: Es wurde zweimal maskiert</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has what %2 lacks: %3</source>
+        <translation>&quot;%1&quot; hat, was in %2 fehlt: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is off in %3</source>
+        <translation>%1: %2 ist aus in %3</translation>
+    </message>
+    <message>
+        <source>a line of %1 characters is wider than the paper (%2): %3%4</source>
+        <translation>eine Zeile von %1 Zeichen ist breiter als das Papier (%2): %3%4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is cut in the middle of %2, which prints as another character</source>
+        <translation>&quot;%1&quot; wird mitten in %2 abgeschnitten, was als anderes Zeichen gedruckt wird</translation>
+    </message>
+    <message>
+        <source>; did you mean &quot;%1&quot;?</source>
+        <translation>; ist &quot;%1&quot; gemeint?</translation>
+    </message>
+    <message>
+        <source>begin with &lt;method name=&quot;...&quot;/&gt;</source>
+        <translation>mit &lt;method name=&quot;...&quot;/&gt; beginnen</translation>
+    </message>
+    <message>
+        <source>did you mean &lt;method&gt; by &lt;%1&gt;?</source>
+        <translation>ist mit &lt;%1&gt; &lt;method&gt; gemeint?</translation>
+    </message>
+    <message>
+        <source>begin with &lt;method name=&quot;%1&quot;/&gt;</source>
+        <translation>mit &lt;method name=&quot;%1&quot;/&gt; beginnen</translation>
+    </message>
+    <message>
+        <source>this</source>
+        <translation>dieser Stelle</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>an instruction has no name</source>
+        <translation>eine Anweisung hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name</source>
+        <translation>&quot;%1&quot; ist kein Name</translation>
+    </message>
+    <message>
+        <source>XML %1 is not read; write 1.0</source>
+        <translation>XML %1 wird nicht gelesen; 1.0 schreiben</translation>
+    </message>
+    <message>
+        <source>%1 is named, but the job is written in %2: the paper ends here; name %2, or none</source>
+        <translation>genannt ist %1, aber der Auftrag ist in %2 geschrieben: Das Papier endet hier; %2 nennen oder nichts</translation>
+    </message>
+    <message>
+        <source>%1 is named, but the job is written in UTF-8: accents print wrongly; name UTF-8, or none</source>
+        <translation>genannt ist %1, aber der Auftrag ist in UTF-8 geschrieben: Akzente werden falsch gedruckt; UTF-8 nennen oder nichts</translation>
+    </message>
+    <message>
+        <source>the checker cannot read the encoding &quot;%1&quot;: nothing else was checked; write UTF-8</source>
+        <translation>die Kodierung &quot;%1&quot; lässt sich nicht lesen: Sonst wurde nichts geprüft; UTF-8 schreiben</translation>
+    </message>
+    <message>
+        <source>not %1: the bytes here print as a replacement character; save the job as UTF-8, or name what it is written in</source>
+        <translation>nicht %1: Die Bytes hier werden als Ersatzzeichen gedruckt; den Auftrag als UTF-8 speichern oder nennen, worin er geschrieben ist</translation>
+    </message>
+    <message>
+        <source>more than %1 elements nested in each other: the paper ends here</source>
+        <translation>mehr als %1 ineinander verschachtelte Elemente: Das Papier endet hier</translation>
+    </message>
+    <message>
+        <source>more than %1 namespaces declared: the paper ends here</source>
+        <translation>mehr als %1 Namensräume: Das Papier endet hier</translation>
+    </message>
+    <message>
+        <source>more entities than the renderer takes, longer ones, or one in itself: the paper ends here</source>
+        <translation>mehr oder längere Entitäten, als das Druckprogramm nimmt, oder eine in sich selbst: Das Papier endet hier</translation>
+    </message>
+    <message>
+        <source>more than %1 attributes in the document type: nothing behind this was checked</source>
+        <translation>mehr als %1 Attribute im Dokumenttyp: Dahinter wurde nichts geprüft</translation>
+    </message>
+    <message>
+        <source>groups and settings that are too many, too deep or too long are read over: %1</source>
+        <translation>zu viele, zu tief liegende oder zu lange Gruppen und Einstellungen werden überlesen: %1</translation>
+    </message>
+    <message>
+        <source>no document is called %1</source>
+        <translation>kein Dokument heißt %1</translation>
+    </message>
+    <message>
+        <source>the method has no name</source>
+        <translation>die Methode hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>; write &lt;method name=&quot;%1&quot;/&gt;</source>
+        <translation>; &lt;method name=&quot;%1&quot;/&gt; schreiben</translation>
+    </message>
+    <message>
+        <source>its figure is lost</source>
+        <translation>die Zahl darin geht verloren</translation>
+    </message>
+    <message>
+        <source>their figures are lost</source>
+        <translation>die Zahlen darin gehen verloren</translation>
+    </message>
+    <message>
+        <source>; did you mean &quot;%1&quot;, which is missing?</source>
+        <translation>; ist &quot;%1&quot; gemeint, das fehlt?</translation>
+    </message>
+    <message>
+        <source>, and its &quot;%1&quot; is missing</source>
+        <translation>, und es fehlt &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has %2 as an element, which prints nothing: write it as an attribute</source>
+        <translation>&lt;%1&gt; hat %2 als Element, das nichts druckt: als Attribut schreiben</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has %2 as elements, which print nothing: write them as attributes</source>
+        <translation>&lt;%1&gt; hat %2 als Elemente, die nichts drucken: als Attribute schreiben</translation>
+    </message>
+    <message>
+        <source>the text %1 in &lt;%2&gt; is not printed: write it as an attribute</source>
+        <translation>der Text %1 in &lt;%2&gt; wird nicht gedruckt: als Attribut schreiben</translation>
+    </message>
+    <message>
+        <source>; it is printed in %1</source>
+        <translation>; gedruckt wird es in: %1</translation>
+    </message>
+    <message>
+        <source>its place prints empty</source>
+        <translation>die Stelle bleibt leer</translation>
+    </message>
+    <message>
+        <source>their places print empty</source>
+        <translation>die Stellen bleiben leer</translation>
+    </message>
+    <message>
+        <source>it prints as &quot;-&quot;, something left out</source>
+        <translation>gedruckt wird &quot;-&quot;, etwas Weggelassenes</translation>
+    </message>
+    <message>
+        <source>&quot;number&quot; and &quot;totals&quot; must be the first two attributes, and are not: all others are taken for serial number, total and tax rate of one document after the other</source>
+        <translation>&quot;number&quot; und &quot;totals&quot; müssen die ersten beiden Attribute sein und sind es nicht: Alle anderen gelten als Seriennummer, Summe und Steuersatz eines Dokuments nach dem anderen</translation>
+    </message>
+    <message>
+        <source>each cancelled document takes three attributes behind &quot;number&quot; and &quot;totals&quot;, its serial number, total and tax rate; there are %1</source>
+        <translation>jedes stornierte Dokument braucht drei Attribute hinter &quot;number&quot; und &quot;totals&quot;: Seriennummer, Summe und Steuersatz; es sind %1</translation>
+    </message>
+    <message>
+        <source>&quot;number&quot; is %1, but the cancelled documents that are listed are %2</source>
+        <translation>&quot;number&quot; ist %1, aufgeführt sind aber %2 stornierte Dokumente</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>Komma</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; is %3</source>
+        <translation>&quot;%1&quot; von &lt;%2&gt; ist %3</translation>
+    </message>
+    <message>
+        <source>the tax lines come to %1</source>
+        <translation>die Steuerzeilen ergeben %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is</source>
+        <translation>%1 von %2 ist</translation>
+    </message>
+    <message>
+        <source>%1 and %2 come to</source>
+        <translation>%1 und %2 ergeben</translation>
+    </message>
+    <message>
+        <source>0 is registered</source>
+        <translation>gebucht wird 0</translation>
+    </message>
+    <message>
+        <source>the printer may refuse it</source>
+        <translation>der Drucker kann sie ablehnen</translation>
+    </message>
+    <message>
+        <source>no number: 0 is registered</source>
+        <translation>keine Zahl: gebucht wird 0</translation>
+    </message>
+    <message>
+        <source>no plain number</source>
+        <translation>keine einfache Zahl</translation>
+    </message>
+    <message>
+        <source>more than the printer takes</source>
+        <translation>mehr, als der Drucker nimmt</translation>
+    </message>
+    <message>
+        <source>line break</source>
+        <translation>ein Zeilenumbruch</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has</source>
+        <translation>&quot;%1&quot; von &lt;%2&gt; hat</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, with</source>
+        <translation>&quot;%1&quot; einer Verkaufszeile ist %2, mit</translation>
+    </message>
+    <message>
+        <source>U+FFFD in place of a character that was lost before</source>
+        <translation>U+FFFD statt eines Zeichens, das vorher verloren ging</translation>
+    </message>
+    <message>
+        <source>%1, a character without a shape; leave it out</source>
+        <translation>%1, ein Zeichen ohne Gestalt; weglassen</translation>
+    </message>
+    <message>
+        <source>%1 prints as %2</source>
+        <translation>%1 wird als %2 gedruckt</translation>
+    </message>
+    <message>
+        <source>, and %1 more</source>
+        <translation>, und %1 weitere</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is not printed</source>
+        <translation>&lt;%1&gt; wird nicht gedruckt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not printed</source>
+        <translation>&quot;%1&quot; wird nicht gedruckt</translation>
+    </message>
+    <message>
+        <source>of &lt;headers&gt; only the printer&apos;s name is printed</source>
+        <translation>von &lt;headers&gt; wird nur der Name des Druckers gedruckt</translation>
+    </message>
+    <message>
+        <source>; &quot;%1&quot; is %2 in a column of %3 (%4 in %5)</source>
+        <translation>; &quot;%1&quot; ist %2 in einer Spalte von %3 (%4 in %5)</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>sie ist leer</translation>
+    </message>
+    <message>
+        <source>it has no group korvel: { ... };</source>
+        <translation>sie hat keine Gruppe korvel: { ... };</translation>
+    </message>
+    <message>
+        <source>no setting stands in it</source>
+        <translation>keine Einstellung steht darin</translation>
+    </message>
+    <message>
+        <source>it is written as %1; settings are written korvel: { doc: { paperWidth = &quot;32&quot;; }; };</source>
+        <translation>sie ist als %1 geschrieben; Einstellungen schreibt man korvel: { doc: { paperWidth = &quot;32&quot;; }; };</translation>
+    </message>
+    <message>
+        <source>its first group is %1, not korvel%2</source>
+        <translation>ihre erste Gruppe ist %1, nicht korvel%2</translation>
+    </message>
+    <message>
+        <source>its first group has no name%1</source>
+        <translation>ihre erste Gruppe hat keinen Namen%1</translation>
+    </message>
+    <message>
+        <source>a byte order mark stands in front of it</source>
+        <translation>eine Bytereihenfolge-Marke steht davor</translation>
+    </message>
+    <message>
+        <source>it is written as UTF-16</source>
+        <translation>sie ist in UTF-16 geschrieben</translation>
+    </message>
+    <message>
+        <source>the group %1</source>
+        <translation>die Gruppe %1</translation>
+    </message>
+    <message>
+        <source>what follows</source>
+        <translation>was folgt</translation>
+    </message>
+    <message>
+        <source>%1 is %2: does the line end with ;?</source>
+        <translation>%1 ist %2: Endet die Zeile mit ;?</translation>
+    </message>
+    <message>
+        <source>; does the line end with ;?</source>
+        <translation>; endet die Zeile mit ;?</translation>
+    </message>
+    <message>
+        <source>a } has no ; behind it: %1 is skipped</source>
+        <translation>hinter einer } fehlt das ;: %1 wird übersprungen</translation>
+    </message>
+    <message>
+        <source>the group %1 is not closed: a }; is missing here</source>
+        <translation>die Gruppe %1 ist nicht geschlossen: Hier fehlt };</translation>
+    </message>
+    <message>
+        <source>the file ends inside the group %1: a }; is missing, if not more</source>
+        <translation>die Datei endet in der Gruppe %1: Mindestens eine }; fehlt</translation>
+    </message>
+    <message>
+        <source>a } closes %1 too early: what follows is not read</source>
+        <translation>eine } schließt %1 zu früh: Was folgt, wird nicht gelesen</translation>
+    </message>
+    <message>
+        <source>a } closes nothing: what follows is not read</source>
+        <translation>eine } schließt nichts: Was folgt, wird nicht gelesen</translation>
+    </message>
+    <message>
+        <source>the group %1 has no { behind its name</source>
+        <translation>die Gruppe %1 hat hinter dem Namen keine {</translation>
+    </message>
+    <message>
+        <source>the group %1 has no : behind its name%2</source>
+        <translation>die Gruppe %1 hat hinter dem Namen keinen :%2</translation>
+    </message>
+    <message>
+        <source>the group %1 has neither : nor { behind its name%2</source>
+        <translation>die Gruppe %1 hat hinter dem Namen weder : noch {%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands where the &quot;%2&quot; of %3 belongs</source>
+        <translation>&quot;%1&quot; steht, wo das &quot;%2&quot; von %3 hingehört</translation>
+    </message>
+    <message>
+        <source>%1 stands where a &quot; of %2 belongs, and becomes part of the value</source>
+        <translation>%1 steht, wo ein &quot; von %2 hingehört, und wird Teil des Wertes</translation>
+    </message>
+    <message>
+        <source>%1: it is read as %2</source>
+        <translation>%1: gelesen wird es als %2</translation>
+    </message>
+    <message>
+        <source>a { too many: %1 has one already</source>
+        <translation>eine { zu viel: %1 hat schon eine</translation>
+    </message>
+    <message>
+        <source>%1 has no = behind its name and is not read</source>
+        <translation>%1 hat hinter dem Namen kein = und wird nicht gelesen</translation>
+    </message>
+    <message>
+        <source>no name stands before the =: %1 is not read</source>
+        <translation>vor dem = steht kein Name: %1 wird nicht gelesen</translation>
+    </message>
+    <message>
+        <source>no catalogue is found as %1</source>
+        <translation>unter %1 findet sich kein Katalog</translation>
+    </message>
+    <message>
+        <source>%1 is no catalogue</source>
+        <translation>%1 ist kein Katalog</translation>
+    </message>
+    <message>
+        <source>; letters beyond ASCII are misread: leave them out of paths</source>
+        <translation>; Buchstaben jenseits von ASCII werden falsch gelesen: in Pfaden weglassen</translation>
+    </message>
+    <message>
+        <source>; file must begin with a /</source>
+        <translation>; file muss mit / beginnen</translation>
+    </message>
+    <message>
+        <source>the columns of the %1 leave no room for the description: the others and the blanks take %2 of %3 characters</source>
+        <translation>die Spalten des Dokuments (%1) lassen der Bezeichnung keinen Platz: Die anderen und die Leerzeichen nehmen %2 von %3 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1 is %2: the description of the %3 gets as many characters too many</source>
+        <translation>%1 ist %2: Um so viele Zeichen wird die Bezeichnung zu lang (%3)</translation>
+    </message>
+    <message>
+        <source>paperWidth is %1: lines are wider than the printer&apos;s %2 characters</source>
+        <translation>paperWidth ist %1: Die Zeilen sind breiter als die %2 Zeichen des Druckers</translation>
+    </message>
+    <message>
+        <source>no document reads the group %1</source>
+        <translation>kein Dokument liest die Gruppe %1</translation>
+    </message>
+    <message>
+        <source>a group has no name before its {</source>
+        <translation>eine Gruppe hat vor der { keinen Namen</translation>
+    </message>
+    <message>
+        <source>only the first group of the file is read, and %1 is another</source>
+        <translation>nur die erste Gruppe der Datei wird gelesen, und %1 ist eine andere</translation>
+    </message>
+    <message>
+        <source>documents&apos; groups stand in korvel itself, not in %1</source>
+        <translation>Gruppen von Dokumenten stehen in korvel selbst, nicht in %1</translation>
+    </message>
+    <message>
+        <source>what the one in line %1 sets counts, this one adds what it does not set</source>
+        <translation>es gilt, was die in Zeile %1 setzt; diese fügt hinzu, was jene nicht setzt</translation>
+    </message>
+    <message>
+        <source>this one counts, not that in line %1</source>
+        <translation>diese gilt, nicht die in Zeile %1</translation>
+    </message>
+    <message>
+        <source>; only true switches it on</source>
+        <translation>; nur true schaltet es ein</translation>
+    </message>
+    <message>
+        <source>it stands outside the group korvel</source>
+        <translation>es steht außerhalb der Gruppe korvel</translation>
+    </message>
+    <message>
+        <source>only the first group of the file is read, and it must be korvel</source>
+        <translation>nur die erste Gruppe der Datei wird gelesen, und sie muss korvel heißen</translation>
+    </message>
+    <message>
+        <source>settings stand in a document&apos;s group or in language, in korvel%1</source>
+        <translation>Einstellungen stehen in der Gruppe eines Dokuments oder in language, in korvel%1</translation>
+    </message>
+    <message>
+        <source>; does a } lack its ;?</source>
+        <translation>; fehlt einer } ihr ;?</translation>
+    </message>
+    <message>
+        <source>no document has such a group%1</source>
+        <translation>kein Dokument hat eine solche Gruppe%1</translation>
+    </message>
+    <message>
+        <source>there is no such setting%1</source>
+        <translation>eine solche Einstellung gibt es nicht%1</translation>
+    </message>
+    <message>
+        <source>it is commented out; nothing else is lost by it, but deleting it is safer</source>
+        <translation>es ist auskommentiert; sonst geht dadurch nichts verloren, aber Löschen ist sicherer</translation>
+    </message>
+    <message>
+        <source>nothing of the file is read: %1</source>
+        <translation>nichts in der Datei wird gelesen: %1</translation>
+    </message>
+    <message>
+        <source>nothing of the file is read: %1; save it as plain ASCII</source>
+        <translation>nichts in der Datei wird gelesen: %1; als reines ASCII speichern</translation>
+    </message>
+    <message>
+        <source>%1 is read as part of what follows: %2 is lost; there are no comments</source>
+        <translation>%1 wird als Teil des Folgenden gelesen: %2 geht verloren; es gibt keine Kommentare</translation>
+    </message>
+    <message>
+        <source>%1: its settings are lost%2</source>
+        <translation>%1: ihre Einstellungen gehen verloren%2</translation>
+    </message>
+    <message>
+        <source>labels stay English: %1</source>
+        <translation>die Beschriftungen bleiben englisch: %1</translation>
+    </message>
+    <message>
+        <source>nothing reads %1: %2</source>
+        <translation>nichts liest %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 stands here a second time: %2</source>
+        <translation>%1 steht hier ein zweites Mal: %2</translation>
+    </message>
+    <message>
+        <source>%1 is %2 and counts as off%3</source>
+        <translation>%1 ist %2 und zählt als aus%3</translation>
+    </message>
+    <message>
+        <source>%1 is %2, no whole number, and counts as 0%3</source>
+        <translation>%1 ist %2, keine ganze Zahl, und zählt als 0%3</translation>
+    </message>
+    <message>
+        <source>all documents but %1</source>
+        <translation>alle Dokumente außer: %1</translation>
+    </message>
+    <message>
+        <source>a %1 of %2 characters is wider than the paper (%3)</source>
+        <translation>%1 von %2 Zeichen ist breiter als das Papier (%3)</translation>
+    </message>
+    <message>
+        <source>the stream is empty: nothing is printed</source>
+        <translation>der Druckdatenstrom ist leer: nichts wird gedruckt</translation>
+    </message>
+    <message>
+        <source>the %1 opened here is never closed</source>
+        <translation>%1: hier geöffnet und nie geschlossen</translation>
+    </message>
+    <message>
+        <source>the %1 opened at byte %2 is still open where the %3 is opened</source>
+        <translation>%1, geöffnet (Byte %2), ist noch offen, wo %3 geöffnet wird</translation>
+    </message>
+    <message>
+        <source>the %1 is closed but not open</source>
+        <translation>%1 wird geschlossen, ist aber nicht offen</translation>
+    </message>
+    <message>
+        <source>a %1 outside a fiscal section</source>
+        <translation>%1 außerhalb eines Fiskalabschnitts</translation>
+    </message>
+    <message>
+        <source>the amount %1 is no whole number of hundredths</source>
+        <translation>der Betrag %1 ist keine ganze Zahl von Hundertsteln</translation>
+    </message>
+    <message>
+        <source>the quantity %1 is no number</source>
+        <translation>die Menge %1 ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>the %1 is too large for the preview to add up</source>
+        <translation>%1: zu groß, um in die Summe einzugehen</translation>
+    </message>
+    <message>
+        <source>a &quot;%1&quot; inside a text ends it early</source>
+        <translation>&quot;%1&quot; in einem Text beendet ihn zu früh</translation>
+    </message>
+    <message>
+        <source>a &quot;%1&quot; inside a field of a sale row ends it early</source>
+        <translation>&quot;%1&quot; in einem Feld einer Verkaufszeile beendet es zu früh</translation>
+    </message>
+    <message>
+        <source>the line break %1 inside a text ends it early</source>
+        <translation>der Zeilenumbruch %1 in einem Text beendet ihn zu früh</translation>
+    </message>
+    <message>
+        <source>the control character %1 inside a text</source>
+        <translation>das Steuerzeichen %1 in einem Text</translation>
+    </message>
+    <message>
+        <source>%1 is not %2</source>
+        <translation>%1 ist kein %2</translation>
+    </message>
+    <message>
+        <source>broken %1: %2 does not belong here</source>
+        <translation>%1, fehlerhaft: %2 gehört nicht hierher</translation>
+    </message>
+    <message>
+        <source>unterminated %1 that begins at byte %2: the stream ends here</source>
+        <translation>%1, unvollständig (Byte %2): Der Druckdatenstrom endet hier</translation>
+    </message>
+    <message>
+        <source>too much is wrong; no more is listed</source>
+        <translation>zu viel ist falsch; mehr wird nicht aufgeführt</translation>
+    </message>
+    <message>
+        <source>too much is odd; no more is listed</source>
+        <translation>zu viel ist seltsam; mehr wird nicht aufgeführt</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>text line</source>
+        <translation>Textzeile</translation>
+    </message>
+    <message>
+        <source>section opening</source>
+        <translation>Öffnen eines Abschnitts</translation>
+    </message>
+    <message>
+        <source>section closing</source>
+        <translation>Schließen eines Abschnitts</translation>
+    </message>
+    <message>
+        <source>sale row</source>
+        <translation>Verkaufszeile</translation>
+    </message>
+    <message>
+        <source>deduction</source>
+        <translation>Abzug</translation>
+    </message>
+    <message>
+        <source>unknown command</source>
+        <translation>unbekannter Befehl</translation>
+    </message>
+    <message>
+        <source>fiscal section</source>
+        <translation>Fiskalabschnitt</translation>
+    </message>
+    <message>
+        <source>receipt section</source>
+        <translation>Belegabschnitt</translation>
+    </message>
+    <message>
+        <source>document section</source>
+        <translation>Dokumentabschnitt</translation>
+    </message>
+    <message>
+        <source>unknown command that begins at byte %1: the stream ends here</source>
+        <translation>unbekannter Befehl (Byte %1): Der Druckdatenstrom endet hier</translation>
+    </message>
+    <message>
+        <source>unknown command: %1 does not belong here</source>
+        <translation>unbekannter Befehl: %1 gehört nicht hierher</translation>
+    </message>
+</context>
+<context>
     <name>jobs</name>
     <message>
         <source>%1 cannot be read: %2</source>

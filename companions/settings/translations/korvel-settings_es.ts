@@ -196,6 +196,749 @@
     </message>
 </context>
 <context>
+    <name>findings</name>
+    <message>
+        <source>%1: nothing behind %2 was checked</source>
+        <translation>%1: detrás de %2 no se comprobó nada</translation>
+    </message>
+    <message>
+        <source>no method: nothing is printed; %1</source>
+        <translation>ningún método: no se imprime nada; %1</translation>
+    </message>
+    <message>
+        <source>%1: the job ends here%2</source>
+        <translation>%1: el trabajo termina aquí%2</translation>
+    </message>
+    <message>
+        <source>most elements are those of the %1, not of the %2; did you mean &quot;%3&quot;?</source>
+        <translation>la mayoría de los elementos son del documento %1, no del documento %2; ¿quería decir &quot;%3&quot;?</translation>
+    </message>
+    <message>
+        <source>a second method: the section of the %1 is not closed; send one document per job</source>
+        <translation>un segundo método: la sección del documento %1 no se cierra; envíe un documento por trabajo</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; stands before the method and is not printed; move it behind &lt;method&gt;</source>
+        <translation>&lt;%1&gt; está antes del método y no se imprime; póngalo detrás de &lt;method&gt;</translation>
+    </message>
+    <message>
+        <source>no document knows &lt;%1&gt;: nothing is printed%2</source>
+        <translation>ningún documento conoce &lt;%1&gt;: no se imprime nada%2</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; prints nothing in the document &quot;%2&quot;%3%4</source>
+        <translation>&lt;%1&gt; no imprime nada en el documento &quot;%2&quot;%3%4</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; prints nothing in the document &quot;%2&quot;: its figures are lost%3%4</source>
+        <translation>&lt;%1&gt; no imprime nada en el documento &quot;%2&quot;: se pierden sus cifras%3%4</translation>
+    </message>
+    <message>
+        <source>nothing reads &quot;%1&quot; of &lt;%2&gt; in this document%3</source>
+        <translation>nada lee &quot;%1&quot; de &lt;%2&gt; en este documento%3</translation>
+    </message>
+    <message>
+        <source>nothing reads %1 of &lt;%2&gt; in the document &quot;%3&quot;: %4%5</source>
+        <translation>nada lee %1 de &lt;%2&gt; en el documento &quot;%3&quot;: %4%5</translation>
+    </message>
+    <message>
+        <source>nothing reads &quot;%1&quot; of &lt;%2&gt;%3</source>
+        <translation>nada lee &quot;%1&quot; de &lt;%2&gt;%3</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has no %2: %3</source>
+        <translation>a &lt;%1&gt; le falta %2: %3</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has no %2, which the settings switch on: %3</source>
+        <translation>a &lt;%1&gt; le falta %2, que los ajustes activan: %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, no number; it prints as it is</source>
+        <translation>&quot;%1&quot; es %2, que no es un número; se imprime tal cual</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, with parts of a hundredth; it prints as it is</source>
+        <translation>&quot;%1&quot; es %2, con fracciones de centésima; se imprime tal cual</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2; other amounts of this job have a %3 as their decimal mark</source>
+        <translation>&quot;%1&quot; es %2; otros importes de este trabajo tienen como signo decimal: %3</translation>
+    </message>
+    <message>
+        <source>the quantity %1 is no number and prints as &quot;-&quot;, something left out</source>
+        <translation>la cantidad %1 no es un número y se imprime como &quot;-&quot;, algo que se quita</translation>
+    </message>
+    <message>
+        <source>the sale row has no %1: %2</source>
+        <translation>a la línea de venta le falta %1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, %3</source>
+        <translation>&quot;%1&quot; de una línea de venta es %2, %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, with parts of a hundredth, which are sent</source>
+        <translation>&quot;%1&quot; de una línea de venta es %2, con fracciones de centésima, que se envían</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, no number above 0</source>
+        <translation>&quot;%1&quot; de una línea de venta es %2, que no es un número mayor que 0</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2; the printer takes a whole number from 1 on</source>
+        <translation>&quot;%1&quot; de una línea de venta es %2; la impresora admite un número entero desde 1</translation>
+    </message>
+    <message>
+        <source>%1 times %2 is %3, and &quot;%4&quot; is %5</source>
+        <translation>%1 por %2 es %3, y &quot;%4&quot; es %5</translation>
+    </message>
+    <message>
+        <source>the rows come to %1, and %2</source>
+        <translation>las líneas suman %1, y %2</translation>
+    </message>
+    <message>
+        <source>%1 %2, and &quot;%3&quot; is %4</source>
+        <translation>%1 %2, y &quot;%3&quot; es %4</translation>
+    </message>
+    <message>
+        <source>the %1 has rows and no &lt;%2&gt;: no total is printed</source>
+        <translation>el documento %1 tiene líneas y no &lt;%2&gt;: no se imprime ningún total</translation>
+    </message>
+    <message>
+        <source>the total stands here a second time, with no row in front of it, and prints again</source>
+        <translation>el total está aquí por segunda vez, sin ninguna línea delante, y se imprime de nuevo</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; stands behind the total and prints below it</source>
+        <translation>&lt;%1&gt; está detrás del total y se imprime debajo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2: a %3 in it breaks the printer&apos;s command</source>
+        <translation>&quot;%1&quot; de una línea de venta es %2: ahí %3 rompe la orden de la impresora</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has a line break, which breaks the printed line</source>
+        <translation>&quot;%1&quot; de &lt;%2&gt; tiene un salto de línea, que rompe la línea impresa</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has a &quot;)&quot;, which some printers take for the end of the line</source>
+        <translation>&quot;%1&quot; de &lt;%2&gt; tiene un &quot;)&quot;, que algunas impresoras toman por el fin de la línea</translation>
+    </message>
+    <message>
+        <source>%1 a tab or another control character</source>
+        <translation>%1 un tabulador u otro carácter de control</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has TOTALE, which prints as T0TALE</source>
+        <translation>&quot;%1&quot; de &lt;%2&gt; tiene TOTALE, que se imprime como T0TALE</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has an empty part: what follows is not printed</source>
+        <translation>&quot;%1&quot; tiene una parte vacía: lo que sigue no se imprime</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, probably %3: UTF-8 was read as %4 and saved again</source>
+        <translation>&quot;%1&quot; es %2, probablemente %3: se leyó UTF-8 como %4 y se volvió a guardar</translation>
+    </message>
+    <message>
+        <source>%1 %2, which prints as it is: it was escaped twice</source>
+        <translation>%1 %2, que se imprime tal cual: se escapó dos veces</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has what %2 lacks: %3</source>
+        <translation>&quot;%1&quot; tiene lo que falta en %2: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is off in %3</source>
+        <translation>%1: %2 está desactivado en %3</translation>
+    </message>
+    <message>
+        <source>a line of %1 characters is wider than the paper (%2): %3%4</source>
+        <translation>una línea de %1 caracteres es más ancha que el papel (%2): %3%4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is cut in the middle of %2, which prints as another character</source>
+        <translation>&quot;%1&quot; se corta en medio de %2, que se imprime como otro carácter</translation>
+    </message>
+    <message>
+        <source>; did you mean &quot;%1&quot;?</source>
+        <translation>; ¿quería decir &quot;%1&quot;?</translation>
+    </message>
+    <message>
+        <source>begin with &lt;method name=&quot;...&quot;/&gt;</source>
+        <translation>empiece por &lt;method name=&quot;...&quot;/&gt;</translation>
+    </message>
+    <message>
+        <source>did you mean &lt;method&gt; by &lt;%1&gt;?</source>
+        <translation>¿quería decir &lt;method&gt; con &lt;%1&gt;?</translation>
+    </message>
+    <message>
+        <source>begin with &lt;method name=&quot;%1&quot;/&gt;</source>
+        <translation>empiece por &lt;method name=&quot;%1&quot;/&gt;</translation>
+    </message>
+    <message>
+        <source>this</source>
+        <translation>este punto</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>la línea %1</translation>
+    </message>
+    <message>
+        <source>an instruction has no name</source>
+        <translation>una instrucción no tiene nombre</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name</source>
+        <translation>&quot;%1&quot; no es un nombre</translation>
+    </message>
+    <message>
+        <source>XML %1 is not read; write 1.0</source>
+        <translation>XML %1 no se lee; escriba 1.0</translation>
+    </message>
+    <message>
+        <source>%1 is named, but the job is written in %2: the paper ends here; name %2, or none</source>
+        <translation>se nombra %1, pero el trabajo está escrito en %2: el papel termina aquí; nombre %2, o nada</translation>
+    </message>
+    <message>
+        <source>%1 is named, but the job is written in UTF-8: accents print wrongly; name UTF-8, or none</source>
+        <translation>se nombra %1, pero el trabajo está escrito en UTF-8: los acentos se imprimen mal; nombre UTF-8, o nada</translation>
+    </message>
+    <message>
+        <source>the checker cannot read the encoding &quot;%1&quot;: nothing else was checked; write UTF-8</source>
+        <translation>no se puede leer la codificación &quot;%1&quot;: no se comprobó nada más; escriba UTF-8</translation>
+    </message>
+    <message>
+        <source>not %1: the bytes here print as a replacement character; save the job as UTF-8, or name what it is written in</source>
+        <translation>no es %1: estos bytes se imprimen como un carácter de sustitución; guarde el trabajo como UTF-8, o nombre en qué está escrito</translation>
+    </message>
+    <message>
+        <source>more than %1 elements nested in each other: the paper ends here</source>
+        <translation>más de %1 elementos anidados: el papel termina aquí</translation>
+    </message>
+    <message>
+        <source>more than %1 namespaces declared: the paper ends here</source>
+        <translation>más de %1 espacios de nombres declarados: el papel termina aquí</translation>
+    </message>
+    <message>
+        <source>more entities than the renderer takes, longer ones, or one in itself: the paper ends here</source>
+        <translation>más entidades de las que admite el programa de impresión, más largas, o una dentro de sí misma: el papel termina aquí</translation>
+    </message>
+    <message>
+        <source>more than %1 attributes in the document type: nothing behind this was checked</source>
+        <translation>más de %1 atributos en el tipo de documento: detrás no se comprobó nada</translation>
+    </message>
+    <message>
+        <source>groups and settings that are too many, too deep or too long are read over: %1</source>
+        <translation>los grupos y ajustes que son demasiados, demasiado hondos o demasiado largos no se leen: %1</translation>
+    </message>
+    <message>
+        <source>no document is called %1</source>
+        <translation>ningún documento se llama %1</translation>
+    </message>
+    <message>
+        <source>the method has no name</source>
+        <translation>el método no tiene nombre</translation>
+    </message>
+    <message>
+        <source>; write &lt;method name=&quot;%1&quot;/&gt;</source>
+        <translation>; escriba &lt;method name=&quot;%1&quot;/&gt;</translation>
+    </message>
+    <message>
+        <source>its figure is lost</source>
+        <translation>se pierde su cifra</translation>
+    </message>
+    <message>
+        <source>their figures are lost</source>
+        <translation>se pierden sus cifras</translation>
+    </message>
+    <message>
+        <source>; did you mean &quot;%1&quot;, which is missing?</source>
+        <translation>; ¿quería decir &quot;%1&quot;, que falta?</translation>
+    </message>
+    <message>
+        <source>, and its &quot;%1&quot; is missing</source>
+        <translation>, y falta &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has %2 as an element, which prints nothing: write it as an attribute</source>
+        <translation>&lt;%1&gt; tiene %2 como elemento, que no imprime nada: escríbalo como atributo</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has %2 as elements, which print nothing: write them as attributes</source>
+        <translation>&lt;%1&gt; tiene %2 como elementos, que no imprimen nada: escríbalos como atributos</translation>
+    </message>
+    <message>
+        <source>the text %1 in &lt;%2&gt; is not printed: write it as an attribute</source>
+        <translation>el texto %1 en &lt;%2&gt; no se imprime: escríbalo como atributo</translation>
+    </message>
+    <message>
+        <source>; it is printed in %1</source>
+        <translation>; se imprime en: %1</translation>
+    </message>
+    <message>
+        <source>its place prints empty</source>
+        <translation>su sitio queda vacío</translation>
+    </message>
+    <message>
+        <source>their places print empty</source>
+        <translation>sus sitios quedan vacíos</translation>
+    </message>
+    <message>
+        <source>it prints as &quot;-&quot;, something left out</source>
+        <translation>se imprime como &quot;-&quot;, algo que se quita</translation>
+    </message>
+    <message>
+        <source>&quot;number&quot; and &quot;totals&quot; must be the first two attributes, and are not: all others are taken for serial number, total and tax rate of one document after the other</source>
+        <translation>&quot;number&quot; y &quot;totals&quot; deben ser los dos primeros atributos y no lo son: los demás se toman por número de serie, total y tipo impositivo de un documento tras otro</translation>
+    </message>
+    <message>
+        <source>each cancelled document takes three attributes behind &quot;number&quot; and &quot;totals&quot;, its serial number, total and tax rate; there are %1</source>
+        <translation>cada documento anulado lleva tres atributos detrás de &quot;number&quot; y &quot;totals&quot;: número de serie, total y tipo impositivo; hay %1</translation>
+    </message>
+    <message>
+        <source>&quot;number&quot; is %1, but the cancelled documents that are listed are %2</source>
+        <translation>&quot;number&quot; es %1, pero los documentos anulados de la lista son %2</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>coma</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>punto</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; is %3</source>
+        <translation>&quot;%1&quot; de &lt;%2&gt; es %3</translation>
+    </message>
+    <message>
+        <source>the tax lines come to %1</source>
+        <translation>las líneas de impuestos suman %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is</source>
+        <translation>%1 de %2 es</translation>
+    </message>
+    <message>
+        <source>%1 and %2 come to</source>
+        <translation>%1 y %2 suman</translation>
+    </message>
+    <message>
+        <source>0 is registered</source>
+        <translation>se registra 0</translation>
+    </message>
+    <message>
+        <source>the printer may refuse it</source>
+        <translation>la impresora puede rechazarla</translation>
+    </message>
+    <message>
+        <source>no number: 0 is registered</source>
+        <translation>no es un número: se registra 0</translation>
+    </message>
+    <message>
+        <source>no plain number</source>
+        <translation>no es un número simple</translation>
+    </message>
+    <message>
+        <source>more than the printer takes</source>
+        <translation>más de lo que admite la impresora</translation>
+    </message>
+    <message>
+        <source>line break</source>
+        <translation>un salto de línea</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has</source>
+        <translation>&quot;%1&quot; de &lt;%2&gt; tiene</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, with</source>
+        <translation>&quot;%1&quot; de una línea de venta es %2, con</translation>
+    </message>
+    <message>
+        <source>U+FFFD in place of a character that was lost before</source>
+        <translation>U+FFFD en lugar de un carácter que se perdió antes</translation>
+    </message>
+    <message>
+        <source>%1, a character without a shape; leave it out</source>
+        <translation>%1, un carácter sin forma; quítelo</translation>
+    </message>
+    <message>
+        <source>%1 prints as %2</source>
+        <translation>%1 se imprime como %2</translation>
+    </message>
+    <message>
+        <source>, and %1 more</source>
+        <translation>, y %1 más</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is not printed</source>
+        <translation>&lt;%1&gt; no se imprime</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not printed</source>
+        <translation>&quot;%1&quot; no se imprime</translation>
+    </message>
+    <message>
+        <source>of &lt;headers&gt; only the printer&apos;s name is printed</source>
+        <translation>de &lt;headers&gt; solo se imprime el nombre de la impresora</translation>
+    </message>
+    <message>
+        <source>; &quot;%1&quot; is %2 in a column of %3 (%4 in %5)</source>
+        <translation>; &quot;%1&quot; es %2 en una columna de %3 (%4 en %5)</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vacío</translation>
+    </message>
+    <message>
+        <source>it has no group korvel: { ... };</source>
+        <translation>no tiene un grupo korvel: { ... };</translation>
+    </message>
+    <message>
+        <source>no setting stands in it</source>
+        <translation>no hay ningún ajuste en él</translation>
+    </message>
+    <message>
+        <source>it is written as %1; settings are written korvel: { doc: { paperWidth = &quot;32&quot;; }; };</source>
+        <translation>está escrito como %1; los ajustes se escriben korvel: { doc: { paperWidth = &quot;32&quot;; }; };</translation>
+    </message>
+    <message>
+        <source>its first group is %1, not korvel%2</source>
+        <translation>su primer grupo es %1, no korvel%2</translation>
+    </message>
+    <message>
+        <source>its first group has no name%1</source>
+        <translation>su primer grupo no tiene nombre%1</translation>
+    </message>
+    <message>
+        <source>a byte order mark stands in front of it</source>
+        <translation>hay una marca de orden de bytes delante</translation>
+    </message>
+    <message>
+        <source>it is written as UTF-16</source>
+        <translation>está escrito en UTF-16</translation>
+    </message>
+    <message>
+        <source>the group %1</source>
+        <translation>el grupo %1</translation>
+    </message>
+    <message>
+        <source>what follows</source>
+        <translation>lo que sigue</translation>
+    </message>
+    <message>
+        <source>%1 is %2: does the line end with ;?</source>
+        <translation>%1 es %2: ¿termina la línea en ;?</translation>
+    </message>
+    <message>
+        <source>; does the line end with ;?</source>
+        <translation>; ¿termina la línea en ;?</translation>
+    </message>
+    <message>
+        <source>a } has no ; behind it: %1 is skipped</source>
+        <translation>falta ; detrás de un }: se salta %1</translation>
+    </message>
+    <message>
+        <source>the group %1 is not closed: a }; is missing here</source>
+        <translation>el grupo %1 no está cerrado: falta }; aquí</translation>
+    </message>
+    <message>
+        <source>the file ends inside the group %1: a }; is missing, if not more</source>
+        <translation>el archivo termina dentro del grupo %1: falta al menos un };</translation>
+    </message>
+    <message>
+        <source>a } closes %1 too early: what follows is not read</source>
+        <translation>un } cierra %1 demasiado pronto: lo que sigue no se lee</translation>
+    </message>
+    <message>
+        <source>a } closes nothing: what follows is not read</source>
+        <translation>un } no cierra nada: lo que sigue no se lee</translation>
+    </message>
+    <message>
+        <source>the group %1 has no { behind its name</source>
+        <translation>el grupo %1 no tiene { detrás del nombre</translation>
+    </message>
+    <message>
+        <source>the group %1 has no : behind its name%2</source>
+        <translation>el grupo %1 no tiene : detrás del nombre%2</translation>
+    </message>
+    <message>
+        <source>the group %1 has neither : nor { behind its name%2</source>
+        <translation>el grupo %1 no tiene ni : ni { detrás del nombre%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands where the &quot;%2&quot; of %3 belongs</source>
+        <translation>&quot;%1&quot; está donde va el &quot;%2&quot; de %3</translation>
+    </message>
+    <message>
+        <source>%1 stands where a &quot; of %2 belongs, and becomes part of the value</source>
+        <translation>%1 está donde va un &quot; de %2, y pasa a ser parte del valor</translation>
+    </message>
+    <message>
+        <source>%1: it is read as %2</source>
+        <translation>%1: se lee como %2</translation>
+    </message>
+    <message>
+        <source>a { too many: %1 has one already</source>
+        <translation>sobra un {: %1 ya tiene uno</translation>
+    </message>
+    <message>
+        <source>%1 has no = behind its name and is not read</source>
+        <translation>%1 no tiene = detrás del nombre y no se lee</translation>
+    </message>
+    <message>
+        <source>no name stands before the =: %1 is not read</source>
+        <translation>no hay ningún nombre antes del =: %1 no se lee</translation>
+    </message>
+    <message>
+        <source>no catalogue is found as %1</source>
+        <translation>no se encuentra ningún catálogo en %1</translation>
+    </message>
+    <message>
+        <source>%1 is no catalogue</source>
+        <translation>%1 no es un catálogo</translation>
+    </message>
+    <message>
+        <source>; letters beyond ASCII are misread: leave them out of paths</source>
+        <translation>; las letras fuera de ASCII se leen mal: no las use en rutas</translation>
+    </message>
+    <message>
+        <source>; file must begin with a /</source>
+        <translation>; file debe empezar por /</translation>
+    </message>
+    <message>
+        <source>the columns of the %1 leave no room for the description: the others and the blanks take %2 of %3 characters</source>
+        <translation>las columnas del documento (%1) no dejan sitio a la descripción: las otras y los espacios ocupan %2 de %3 caracteres</translation>
+    </message>
+    <message>
+        <source>%1 is %2: the description of the %3 gets as many characters too many</source>
+        <translation>%1 es %2: la descripción tiene otros tantos caracteres de más (%3)</translation>
+    </message>
+    <message>
+        <source>paperWidth is %1: lines are wider than the printer&apos;s %2 characters</source>
+        <translation>paperWidth es %1: las líneas son más anchas que los %2 caracteres de la impresora</translation>
+    </message>
+    <message>
+        <source>no document reads the group %1</source>
+        <translation>ningún documento lee el grupo %1</translation>
+    </message>
+    <message>
+        <source>a group has no name before its {</source>
+        <translation>un grupo no tiene nombre antes de su {</translation>
+    </message>
+    <message>
+        <source>only the first group of the file is read, and %1 is another</source>
+        <translation>solo se lee el primer grupo del archivo, y %1 es otro</translation>
+    </message>
+    <message>
+        <source>documents&apos; groups stand in korvel itself, not in %1</source>
+        <translation>los grupos de documentos van en korvel mismo, no en %1</translation>
+    </message>
+    <message>
+        <source>what the one in line %1 sets counts, this one adds what it does not set</source>
+        <translation>vale lo que fija el de la línea %1; este añade lo que aquel no fija</translation>
+    </message>
+    <message>
+        <source>this one counts, not that in line %1</source>
+        <translation>vale este, no el de la línea %1</translation>
+    </message>
+    <message>
+        <source>; only true switches it on</source>
+        <translation>; solo true lo activa</translation>
+    </message>
+    <message>
+        <source>it stands outside the group korvel</source>
+        <translation>está fuera del grupo korvel</translation>
+    </message>
+    <message>
+        <source>only the first group of the file is read, and it must be korvel</source>
+        <translation>solo se lee el primer grupo del archivo, y debe ser korvel</translation>
+    </message>
+    <message>
+        <source>settings stand in a document&apos;s group or in language, in korvel%1</source>
+        <translation>los ajustes van en el grupo de un documento o en language, en korvel%1</translation>
+    </message>
+    <message>
+        <source>; does a } lack its ;?</source>
+        <translation>; ¿le falta a un } su ;?</translation>
+    </message>
+    <message>
+        <source>no document has such a group%1</source>
+        <translation>ningún documento tiene un grupo así%1</translation>
+    </message>
+    <message>
+        <source>there is no such setting%1</source>
+        <translation>no existe tal ajuste%1</translation>
+    </message>
+    <message>
+        <source>it is commented out; nothing else is lost by it, but deleting it is safer</source>
+        <translation>está comentado; no se pierde nada más, pero es más seguro borrarlo</translation>
+    </message>
+    <message>
+        <source>nothing of the file is read: %1</source>
+        <translation>no se lee nada del archivo: %1</translation>
+    </message>
+    <message>
+        <source>nothing of the file is read: %1; save it as plain ASCII</source>
+        <translation>no se lee nada del archivo: %1; guárdelo como ASCII simple</translation>
+    </message>
+    <message>
+        <source>%1 is read as part of what follows: %2 is lost; there are no comments</source>
+        <translation>%1 se lee como parte de lo que sigue: se pierde %2; no hay comentarios</translation>
+    </message>
+    <message>
+        <source>%1: its settings are lost%2</source>
+        <translation>%1: se pierden sus ajustes%2</translation>
+    </message>
+    <message>
+        <source>labels stay English: %1</source>
+        <translation>las etiquetas quedan en inglés: %1</translation>
+    </message>
+    <message>
+        <source>nothing reads %1: %2</source>
+        <translation>nada lee %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 stands here a second time: %2</source>
+        <translation>%1 está aquí por segunda vez: %2</translation>
+    </message>
+    <message>
+        <source>%1 is %2 and counts as off%3</source>
+        <translation>%1 es %2 y cuenta como desactivado%3</translation>
+    </message>
+    <message>
+        <source>%1 is %2, no whole number, and counts as 0%3</source>
+        <translation>%1 es %2, que no es un número entero, y cuenta como 0%3</translation>
+    </message>
+    <message>
+        <source>all documents but %1</source>
+        <translation>todos los documentos menos: %1</translation>
+    </message>
+    <message>
+        <source>a %1 of %2 characters is wider than the paper (%3)</source>
+        <translation>%1 de %2 caracteres, más ancho que el papel (%3)</translation>
+    </message>
+    <message>
+        <source>the stream is empty: nothing is printed</source>
+        <translation>el flujo está vacío: no se imprime nada</translation>
+    </message>
+    <message>
+        <source>the %1 opened here is never closed</source>
+        <translation>%1: se abre aquí y no se cierra nunca</translation>
+    </message>
+    <message>
+        <source>the %1 opened at byte %2 is still open where the %3 is opened</source>
+        <translation>%1 (byte %2) sigue abierto donde se abre %3</translation>
+    </message>
+    <message>
+        <source>the %1 is closed but not open</source>
+        <translation>%1: se cierra, pero no está abierto</translation>
+    </message>
+    <message>
+        <source>a %1 outside a fiscal section</source>
+        <translation>%1 fuera de una sección fiscal</translation>
+    </message>
+    <message>
+        <source>the amount %1 is no whole number of hundredths</source>
+        <translation>el importe %1 no es un número entero de centésimas</translation>
+    </message>
+    <message>
+        <source>the quantity %1 is no number</source>
+        <translation>la cantidad %1 no es un número</translation>
+    </message>
+    <message>
+        <source>the %1 is too large for the preview to add up</source>
+        <translation>%1: demasiado grande para sumarlo</translation>
+    </message>
+    <message>
+        <source>a &quot;%1&quot; inside a text ends it early</source>
+        <translation>&quot;%1&quot; dentro de un texto lo termina antes de tiempo</translation>
+    </message>
+    <message>
+        <source>a &quot;%1&quot; inside a field of a sale row ends it early</source>
+        <translation>&quot;%1&quot; dentro de un campo de una línea de venta lo termina antes de tiempo</translation>
+    </message>
+    <message>
+        <source>the line break %1 inside a text ends it early</source>
+        <translation>el salto de línea %1 dentro de un texto lo termina antes de tiempo</translation>
+    </message>
+    <message>
+        <source>the control character %1 inside a text</source>
+        <translation>el carácter de control %1 dentro de un texto</translation>
+    </message>
+    <message>
+        <source>%1 is not %2</source>
+        <translation>%1 no es %2</translation>
+    </message>
+    <message>
+        <source>broken %1: %2 does not belong here</source>
+        <translation>%1, con errores: %2 no va aquí</translation>
+    </message>
+    <message>
+        <source>unterminated %1 that begins at byte %2: the stream ends here</source>
+        <translation>%1, incompleto (byte %2): el flujo termina aquí</translation>
+    </message>
+    <message>
+        <source>too much is wrong; no more is listed</source>
+        <translation>hay demasiados errores; no se enumeran más</translation>
+    </message>
+    <message>
+        <source>too much is odd; no more is listed</source>
+        <translation>hay demasiadas rarezas; no se enumeran más</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>línea</translation>
+    </message>
+    <message>
+        <source>text line</source>
+        <translation>línea de texto</translation>
+    </message>
+    <message>
+        <source>section opening</source>
+        <translation>apertura de sección</translation>
+    </message>
+    <message>
+        <source>section closing</source>
+        <translation>cierre de sección</translation>
+    </message>
+    <message>
+        <source>sale row</source>
+        <translation>línea de venta</translation>
+    </message>
+    <message>
+        <source>deduction</source>
+        <translation>descuento</translation>
+    </message>
+    <message>
+        <source>unknown command</source>
+        <translation>orden desconocida</translation>
+    </message>
+    <message>
+        <source>fiscal section</source>
+        <translation>sección fiscal</translation>
+    </message>
+    <message>
+        <source>receipt section</source>
+        <translation>sección de recibo</translation>
+    </message>
+    <message>
+        <source>document section</source>
+        <translation>sección de documento</translation>
+    </message>
+    <message>
+        <source>unknown command that begins at byte %1: the stream ends here</source>
+        <translation>orden desconocida (byte %1): el flujo termina aquí</translation>
+    </message>
+    <message>
+        <source>unknown command: %1 does not belong here</source>
+        <translation>orden desconocida: %1 no va aquí</translation>
+    </message>
+</context>
+<context>
     <name>jobs</name>
     <message>
         <source>%1 cannot be read: %2</source>

@@ -196,6 +196,749 @@
     </message>
 </context>
 <context>
+    <name>findings</name>
+    <message>
+        <source>%1: nothing behind %2 was checked</source>
+        <translation>%1 : rien n&apos;a été contrôlé après %2</translation>
+    </message>
+    <message>
+        <source>no method: nothing is printed; %1</source>
+        <translation>aucune méthode : rien n&apos;est imprimé ; %1</translation>
+    </message>
+    <message>
+        <source>%1: the job ends here%2</source>
+        <translation>%1 : la tâche s&apos;arrête ici%2</translation>
+    </message>
+    <message>
+        <source>most elements are those of the %1, not of the %2; did you mean &quot;%3&quot;?</source>
+        <translation>la plupart des éléments sont du document %1, non du document %2 ; vouliez-vous dire &quot;%3&quot; ?</translation>
+    </message>
+    <message>
+        <source>a second method: the section of the %1 is not closed; send one document per job</source>
+        <translation>une deuxième méthode : la section du document %1 n&apos;est pas fermée ; envoyez un document par tâche</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; stands before the method and is not printed; move it behind &lt;method&gt;</source>
+        <translation>&lt;%1&gt; se trouve avant la méthode et n&apos;est pas imprimé ; placez-le après &lt;method&gt;</translation>
+    </message>
+    <message>
+        <source>no document knows &lt;%1&gt;: nothing is printed%2</source>
+        <translation>aucun document ne connaît &lt;%1&gt; : rien n&apos;est imprimé%2</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; prints nothing in the document &quot;%2&quot;%3%4</source>
+        <translation>&lt;%1&gt; n&apos;imprime rien dans le document &quot;%2&quot;%3%4</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; prints nothing in the document &quot;%2&quot;: its figures are lost%3%4</source>
+        <translation>&lt;%1&gt; n&apos;imprime rien dans le document &quot;%2&quot; : ses chiffres sont perdus%3%4</translation>
+    </message>
+    <message>
+        <source>nothing reads &quot;%1&quot; of &lt;%2&gt; in this document%3</source>
+        <translation>rien ne lit &quot;%1&quot; de &lt;%2&gt; dans ce document%3</translation>
+    </message>
+    <message>
+        <source>nothing reads %1 of &lt;%2&gt; in the document &quot;%3&quot;: %4%5</source>
+        <translation>rien ne lit %1 de &lt;%2&gt; dans le document &quot;%3&quot; : %4%5</translation>
+    </message>
+    <message>
+        <source>nothing reads &quot;%1&quot; of &lt;%2&gt;%3</source>
+        <translation>rien ne lit &quot;%1&quot; de &lt;%2&gt;%3</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has no %2: %3</source>
+        <translation>&lt;%1&gt; n&apos;a pas de %2 : %3</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has no %2, which the settings switch on: %3</source>
+        <translation>&lt;%1&gt; n&apos;a pas de %2, que les réglages activent : %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, no number; it prints as it is</source>
+        <translation>&quot;%1&quot; est %2, qui n&apos;est pas un nombre ; imprimé tel quel</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, with parts of a hundredth; it prints as it is</source>
+        <translation>&quot;%1&quot; est %2, avec des fractions de centième ; imprimé tel quel</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2; other amounts of this job have a %3 as their decimal mark</source>
+        <translation>&quot;%1&quot; est %2 ; d&apos;autres montants de cette tâche ont pour signe décimal : %3</translation>
+    </message>
+    <message>
+        <source>the quantity %1 is no number and prints as &quot;-&quot;, something left out</source>
+        <translation>la quantité %1 n&apos;est pas un nombre et s&apos;imprime &quot;-&quot;, quelque chose en moins</translation>
+    </message>
+    <message>
+        <source>the sale row has no %1: %2</source>
+        <translation>il manque %1 à la ligne de vente : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, %3</source>
+        <translation>&quot;%1&quot; d&apos;une ligne de vente est %2, %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, with parts of a hundredth, which are sent</source>
+        <translation>&quot;%1&quot; d&apos;une ligne de vente est %2, avec des fractions de centième, qui sont envoyées</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, no number above 0</source>
+        <translation>&quot;%1&quot; d&apos;une ligne de vente est %2, qui n&apos;est pas un nombre supérieur à 0</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2; the printer takes a whole number from 1 on</source>
+        <translation>&quot;%1&quot; d&apos;une ligne de vente est %2 ; l&apos;imprimante prend un nombre entier à partir de 1</translation>
+    </message>
+    <message>
+        <source>%1 times %2 is %3, and &quot;%4&quot; is %5</source>
+        <translation>%1 fois %2 font %3, et &quot;%4&quot; est %5</translation>
+    </message>
+    <message>
+        <source>the rows come to %1, and %2</source>
+        <translation>les lignes font %1, et %2</translation>
+    </message>
+    <message>
+        <source>%1 %2, and &quot;%3&quot; is %4</source>
+        <translation>%1 %2, et &quot;%3&quot; est %4</translation>
+    </message>
+    <message>
+        <source>the %1 has rows and no &lt;%2&gt;: no total is printed</source>
+        <translation>le document %1 a des lignes et pas de &lt;%2&gt; : aucun total n&apos;est imprimé</translation>
+    </message>
+    <message>
+        <source>the total stands here a second time, with no row in front of it, and prints again</source>
+        <translation>le total se trouve ici une deuxième fois, sans ligne avant lui, et s&apos;imprime de nouveau</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; stands behind the total and prints below it</source>
+        <translation>&lt;%1&gt; se trouve après le total et s&apos;imprime au-dessous</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2: a %3 in it breaks the printer&apos;s command</source>
+        <translation>&quot;%1&quot; d&apos;une ligne de vente est %2 : %3 y rompt la commande de l&apos;imprimante</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has a line break, which breaks the printed line</source>
+        <translation>&quot;%1&quot; de &lt;%2&gt; a un saut de ligne, qui rompt la ligne imprimée</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has a &quot;)&quot;, which some printers take for the end of the line</source>
+        <translation>&quot;%1&quot; de &lt;%2&gt; a une &quot;)&quot;, que certaines imprimantes prennent pour la fin de la ligne</translation>
+    </message>
+    <message>
+        <source>%1 a tab or another control character</source>
+        <translation>%1 une tabulation ou un autre caractère de commande</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has TOTALE, which prints as T0TALE</source>
+        <translation>&quot;%1&quot; de &lt;%2&gt; contient TOTALE, qui s&apos;imprime T0TALE</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has an empty part: what follows is not printed</source>
+        <translation>&quot;%1&quot; a une partie vide : la suite n&apos;est pas imprimée</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, probably %3: UTF-8 was read as %4 and saved again</source>
+        <translation>&quot;%1&quot; est %2, sans doute %3 : de l&apos;UTF-8 a été lu comme %4 et réenregistré</translation>
+    </message>
+    <message>
+        <source>%1 %2, which prints as it is: it was escaped twice</source>
+        <translation>%1 %2, imprimé tel quel : échappé deux fois</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has what %2 lacks: %3</source>
+        <translation>&quot;%1&quot; a ce qui manque à %2 : %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is off in %3</source>
+        <translation>%1 : %2 est désactivé dans %3</translation>
+    </message>
+    <message>
+        <source>a line of %1 characters is wider than the paper (%2): %3%4</source>
+        <translation>une ligne de %1 caractères est plus large que le papier (%2) : %3%4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is cut in the middle of %2, which prints as another character</source>
+        <translation>&quot;%1&quot; est coupé au milieu de %2, qui s&apos;imprime comme un autre caractère</translation>
+    </message>
+    <message>
+        <source>; did you mean &quot;%1&quot;?</source>
+        <translation>; vouliez-vous dire &quot;%1&quot; ?</translation>
+    </message>
+    <message>
+        <source>begin with &lt;method name=&quot;...&quot;/&gt;</source>
+        <translation>commencez par &lt;method name=&quot;...&quot;/&gt;</translation>
+    </message>
+    <message>
+        <source>did you mean &lt;method&gt; by &lt;%1&gt;?</source>
+        <translation>vouliez-vous dire &lt;method&gt; par &lt;%1&gt; ?</translation>
+    </message>
+    <message>
+        <source>begin with &lt;method name=&quot;%1&quot;/&gt;</source>
+        <translation>commencez par &lt;method name=&quot;%1&quot;/&gt;</translation>
+    </message>
+    <message>
+        <source>this</source>
+        <translation>ce point</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>la ligne %1</translation>
+    </message>
+    <message>
+        <source>an instruction has no name</source>
+        <translation>une instruction n&apos;a pas de nom</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name</source>
+        <translation>&quot;%1&quot; n&apos;est pas un nom</translation>
+    </message>
+    <message>
+        <source>XML %1 is not read; write 1.0</source>
+        <translation>XML %1 n&apos;est pas lu ; écrivez 1.0</translation>
+    </message>
+    <message>
+        <source>%1 is named, but the job is written in %2: the paper ends here; name %2, or none</source>
+        <translation>%1 est indiqué, mais la tâche est écrite en %2 : le papier s&apos;arrête ici ; indiquez %2, ou rien</translation>
+    </message>
+    <message>
+        <source>%1 is named, but the job is written in UTF-8: accents print wrongly; name UTF-8, or none</source>
+        <translation>%1 est indiqué, mais la tâche est écrite en UTF-8 : les accents s&apos;impriment mal ; indiquez UTF-8, ou rien</translation>
+    </message>
+    <message>
+        <source>the checker cannot read the encoding &quot;%1&quot;: nothing else was checked; write UTF-8</source>
+        <translation>l&apos;encodage &quot;%1&quot; ne peut être lu : rien d&apos;autre n&apos;a été contrôlé ; écrivez UTF-8</translation>
+    </message>
+    <message>
+        <source>not %1: the bytes here print as a replacement character; save the job as UTF-8, or name what it is written in</source>
+        <translation>pas du %1 : ces octets s&apos;impriment comme un caractère de remplacement ; enregistrez la tâche en UTF-8, ou indiquez son encodage</translation>
+    </message>
+    <message>
+        <source>more than %1 elements nested in each other: the paper ends here</source>
+        <translation>plus de %1 éléments imbriqués : le papier s&apos;arrête ici</translation>
+    </message>
+    <message>
+        <source>more than %1 namespaces declared: the paper ends here</source>
+        <translation>plus de %1 espaces de noms déclarés : le papier s&apos;arrête ici</translation>
+    </message>
+    <message>
+        <source>more entities than the renderer takes, longer ones, or one in itself: the paper ends here</source>
+        <translation>des entités plus nombreuses ou plus longues que le programme d&apos;impression n&apos;en prend, ou une dans elle-même : le papier s&apos;arrête ici</translation>
+    </message>
+    <message>
+        <source>more than %1 attributes in the document type: nothing behind this was checked</source>
+        <translation>plus de %1 attributs dans le type de document : rien n&apos;a été contrôlé ensuite</translation>
+    </message>
+    <message>
+        <source>groups and settings that are too many, too deep or too long are read over: %1</source>
+        <translation>les groupes et réglages trop nombreux, trop profonds ou trop longs ne sont pas lus : %1</translation>
+    </message>
+    <message>
+        <source>no document is called %1</source>
+        <translation>aucun document ne s&apos;appelle %1</translation>
+    </message>
+    <message>
+        <source>the method has no name</source>
+        <translation>la méthode n&apos;a pas de nom</translation>
+    </message>
+    <message>
+        <source>; write &lt;method name=&quot;%1&quot;/&gt;</source>
+        <translation>; écrivez &lt;method name=&quot;%1&quot;/&gt;</translation>
+    </message>
+    <message>
+        <source>its figure is lost</source>
+        <translation>son chiffre est perdu</translation>
+    </message>
+    <message>
+        <source>their figures are lost</source>
+        <translation>leurs chiffres sont perdus</translation>
+    </message>
+    <message>
+        <source>; did you mean &quot;%1&quot;, which is missing?</source>
+        <translation>; vouliez-vous dire &quot;%1&quot;, qui manque ?</translation>
+    </message>
+    <message>
+        <source>, and its &quot;%1&quot; is missing</source>
+        <translation>, et il manque &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has %2 as an element, which prints nothing: write it as an attribute</source>
+        <translation>&lt;%1&gt; a %2 comme élément, qui n&apos;imprime rien : écrivez-le comme attribut</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has %2 as elements, which print nothing: write them as attributes</source>
+        <translation>&lt;%1&gt; a %2 comme éléments, qui n&apos;impriment rien : écrivez-les comme attributs</translation>
+    </message>
+    <message>
+        <source>the text %1 in &lt;%2&gt; is not printed: write it as an attribute</source>
+        <translation>le texte %1 dans &lt;%2&gt; n&apos;est pas imprimé : écrivez-le comme attribut</translation>
+    </message>
+    <message>
+        <source>; it is printed in %1</source>
+        <translation>; il est imprimé dans : %1</translation>
+    </message>
+    <message>
+        <source>its place prints empty</source>
+        <translation>sa place reste vide</translation>
+    </message>
+    <message>
+        <source>their places print empty</source>
+        <translation>leurs places restent vides</translation>
+    </message>
+    <message>
+        <source>it prints as &quot;-&quot;, something left out</source>
+        <translation>il s&apos;imprime &quot;-&quot;, quelque chose en moins</translation>
+    </message>
+    <message>
+        <source>&quot;number&quot; and &quot;totals&quot; must be the first two attributes, and are not: all others are taken for serial number, total and tax rate of one document after the other</source>
+        <translation>&quot;number&quot; et &quot;totals&quot; doivent être les deux premiers attributs et ne le sont pas : tous les autres sont pris pour numéro de série, total et taux de taxe d&apos;un document après l&apos;autre</translation>
+    </message>
+    <message>
+        <source>each cancelled document takes three attributes behind &quot;number&quot; and &quot;totals&quot;, its serial number, total and tax rate; there are %1</source>
+        <translation>chaque document annulé prend trois attributs après &quot;number&quot; et &quot;totals&quot; : numéro de série, total et taux de taxe ; il y en a %1</translation>
+    </message>
+    <message>
+        <source>&quot;number&quot; is %1, but the cancelled documents that are listed are %2</source>
+        <translation>&quot;number&quot; est %1, mais %2 documents annulés sont énumérés</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>virgule</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>point</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; is %3</source>
+        <translation>&quot;%1&quot; de &lt;%2&gt; est %3</translation>
+    </message>
+    <message>
+        <source>the tax lines come to %1</source>
+        <translation>les lignes de taxe font %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is</source>
+        <translation>%1 de %2 font</translation>
+    </message>
+    <message>
+        <source>%1 and %2 come to</source>
+        <translation>%1 et %2 font</translation>
+    </message>
+    <message>
+        <source>0 is registered</source>
+        <translation>0 est enregistré</translation>
+    </message>
+    <message>
+        <source>the printer may refuse it</source>
+        <translation>l&apos;imprimante peut la refuser</translation>
+    </message>
+    <message>
+        <source>no number: 0 is registered</source>
+        <translation>pas un nombre : 0 est enregistré</translation>
+    </message>
+    <message>
+        <source>no plain number</source>
+        <translation>pas un nombre simple</translation>
+    </message>
+    <message>
+        <source>more than the printer takes</source>
+        <translation>plus que l&apos;imprimante n&apos;en prend</translation>
+    </message>
+    <message>
+        <source>line break</source>
+        <translation>un saut de ligne</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has</source>
+        <translation>&quot;%1&quot; de &lt;%2&gt; a</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, with</source>
+        <translation>&quot;%1&quot; d&apos;une ligne de vente est %2, avec</translation>
+    </message>
+    <message>
+        <source>U+FFFD in place of a character that was lost before</source>
+        <translation>U+FFFD à la place d&apos;un caractère perdu auparavant</translation>
+    </message>
+    <message>
+        <source>%1, a character without a shape; leave it out</source>
+        <translation>%1, un caractère sans forme ; retirez-le</translation>
+    </message>
+    <message>
+        <source>%1 prints as %2</source>
+        <translation>%1 s&apos;imprime %2</translation>
+    </message>
+    <message>
+        <source>, and %1 more</source>
+        <translation>, et %1 de plus</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is not printed</source>
+        <translation>&lt;%1&gt; n&apos;est pas imprimé</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not printed</source>
+        <translation>&quot;%1&quot; n&apos;est pas imprimé</translation>
+    </message>
+    <message>
+        <source>of &lt;headers&gt; only the printer&apos;s name is printed</source>
+        <translation>de &lt;headers&gt;, seul le nom de l&apos;imprimante est imprimé</translation>
+    </message>
+    <message>
+        <source>; &quot;%1&quot; is %2 in a column of %3 (%4 in %5)</source>
+        <translation>; &quot;%1&quot; est %2 dans une colonne de %3 (%4 dans %5)</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>il est vide</translation>
+    </message>
+    <message>
+        <source>it has no group korvel: { ... };</source>
+        <translation>il n&apos;a pas de groupe korvel: { ... };</translation>
+    </message>
+    <message>
+        <source>no setting stands in it</source>
+        <translation>il ne contient aucun réglage</translation>
+    </message>
+    <message>
+        <source>it is written as %1; settings are written korvel: { doc: { paperWidth = &quot;32&quot;; }; };</source>
+        <translation>il est écrit en %1 ; les réglages s&apos;écrivent korvel: { doc: { paperWidth = &quot;32&quot;; }; };</translation>
+    </message>
+    <message>
+        <source>its first group is %1, not korvel%2</source>
+        <translation>son premier groupe est %1, non korvel%2</translation>
+    </message>
+    <message>
+        <source>its first group has no name%1</source>
+        <translation>son premier groupe n&apos;a pas de nom%1</translation>
+    </message>
+    <message>
+        <source>a byte order mark stands in front of it</source>
+        <translation>une marque d&apos;ordre des octets le précède</translation>
+    </message>
+    <message>
+        <source>it is written as UTF-16</source>
+        <translation>il est écrit en UTF-16</translation>
+    </message>
+    <message>
+        <source>the group %1</source>
+        <translation>le groupe %1</translation>
+    </message>
+    <message>
+        <source>what follows</source>
+        <translation>ce qui suit</translation>
+    </message>
+    <message>
+        <source>%1 is %2: does the line end with ;?</source>
+        <translation>%1 est %2 : la ligne finit-elle par ; ?</translation>
+    </message>
+    <message>
+        <source>; does the line end with ;?</source>
+        <translation>; la ligne finit-elle par ; ?</translation>
+    </message>
+    <message>
+        <source>a } has no ; behind it: %1 is skipped</source>
+        <translation>il manque ; après un } : %1 est sauté</translation>
+    </message>
+    <message>
+        <source>the group %1 is not closed: a }; is missing here</source>
+        <translation>le groupe %1 n&apos;est pas fermé : il manque }; ici</translation>
+    </message>
+    <message>
+        <source>the file ends inside the group %1: a }; is missing, if not more</source>
+        <translation>le fichier finit dans le groupe %1 : il manque au moins un };</translation>
+    </message>
+    <message>
+        <source>a } closes %1 too early: what follows is not read</source>
+        <translation>un } ferme %1 trop tôt : la suite n&apos;est pas lue</translation>
+    </message>
+    <message>
+        <source>a } closes nothing: what follows is not read</source>
+        <translation>un } ne ferme rien : la suite n&apos;est pas lue</translation>
+    </message>
+    <message>
+        <source>the group %1 has no { behind its name</source>
+        <translation>le groupe %1 n&apos;a pas de { après son nom</translation>
+    </message>
+    <message>
+        <source>the group %1 has no : behind its name%2</source>
+        <translation>le groupe %1 n&apos;a pas de : après son nom%2</translation>
+    </message>
+    <message>
+        <source>the group %1 has neither : nor { behind its name%2</source>
+        <translation>le groupe %1 n&apos;a ni : ni { après son nom%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands where the &quot;%2&quot; of %3 belongs</source>
+        <translation>&quot;%1&quot; se trouve à la place du &quot;%2&quot; de %3</translation>
+    </message>
+    <message>
+        <source>%1 stands where a &quot; of %2 belongs, and becomes part of the value</source>
+        <translation>%1 se trouve à la place d&apos;un &quot; de %2 et devient partie de la valeur</translation>
+    </message>
+    <message>
+        <source>%1: it is read as %2</source>
+        <translation>%1 : lu comme %2</translation>
+    </message>
+    <message>
+        <source>a { too many: %1 has one already</source>
+        <translation>un { de trop : %1 en a déjà un</translation>
+    </message>
+    <message>
+        <source>%1 has no = behind its name and is not read</source>
+        <translation>%1 n&apos;a pas de = après son nom et n&apos;est pas lu</translation>
+    </message>
+    <message>
+        <source>no name stands before the =: %1 is not read</source>
+        <translation>aucun nom ne précède le = : %1 n&apos;est pas lu</translation>
+    </message>
+    <message>
+        <source>no catalogue is found as %1</source>
+        <translation>aucun catalogue n&apos;est trouvé sous %1</translation>
+    </message>
+    <message>
+        <source>%1 is no catalogue</source>
+        <translation>%1 n&apos;est pas un catalogue</translation>
+    </message>
+    <message>
+        <source>; letters beyond ASCII are misread: leave them out of paths</source>
+        <translation>; les lettres hors d&apos;ASCII sont mal lues : évitez-les dans les chemins</translation>
+    </message>
+    <message>
+        <source>; file must begin with a /</source>
+        <translation>; file doit commencer par /</translation>
+    </message>
+    <message>
+        <source>the columns of the %1 leave no room for the description: the others and the blanks take %2 of %3 characters</source>
+        <translation>les colonnes du document (%1) ne laissent pas de place à la désignation : les autres et les espaces prennent %2 caractères sur %3</translation>
+    </message>
+    <message>
+        <source>%1 is %2: the description of the %3 gets as many characters too many</source>
+        <translation>%1 est %2 : la désignation a autant de caractères en trop (%3)</translation>
+    </message>
+    <message>
+        <source>paperWidth is %1: lines are wider than the printer&apos;s %2 characters</source>
+        <translation>paperWidth est %1 : les lignes sont plus larges que les %2 caractères de l&apos;imprimante</translation>
+    </message>
+    <message>
+        <source>no document reads the group %1</source>
+        <translation>aucun document ne lit le groupe %1</translation>
+    </message>
+    <message>
+        <source>a group has no name before its {</source>
+        <translation>un groupe n&apos;a pas de nom avant son {</translation>
+    </message>
+    <message>
+        <source>only the first group of the file is read, and %1 is another</source>
+        <translation>seul le premier groupe du fichier est lu, et %1 en est un autre</translation>
+    </message>
+    <message>
+        <source>documents&apos; groups stand in korvel itself, not in %1</source>
+        <translation>les groupes des documents se placent dans korvel même, non dans %1</translation>
+    </message>
+    <message>
+        <source>what the one in line %1 sets counts, this one adds what it does not set</source>
+        <translation>ce que fixe celui de la ligne %1 compte, celui-ci ajoute ce qu&apos;il ne fixe pas</translation>
+    </message>
+    <message>
+        <source>this one counts, not that in line %1</source>
+        <translation>celui-ci compte, non celui de la ligne %1</translation>
+    </message>
+    <message>
+        <source>; only true switches it on</source>
+        <translation>; seul true l&apos;active</translation>
+    </message>
+    <message>
+        <source>it stands outside the group korvel</source>
+        <translation>il est hors du groupe korvel</translation>
+    </message>
+    <message>
+        <source>only the first group of the file is read, and it must be korvel</source>
+        <translation>seul le premier groupe du fichier est lu, et ce doit être korvel</translation>
+    </message>
+    <message>
+        <source>settings stand in a document&apos;s group or in language, in korvel%1</source>
+        <translation>les réglages se placent dans le groupe d&apos;un document ou dans language, dans korvel%1</translation>
+    </message>
+    <message>
+        <source>; does a } lack its ;?</source>
+        <translation>; manque-t-il son ; à un } ?</translation>
+    </message>
+    <message>
+        <source>no document has such a group%1</source>
+        <translation>aucun document n&apos;a un tel groupe%1</translation>
+    </message>
+    <message>
+        <source>there is no such setting%1</source>
+        <translation>un tel réglage n&apos;existe pas%1</translation>
+    </message>
+    <message>
+        <source>it is commented out; nothing else is lost by it, but deleting it is safer</source>
+        <translation>il est en commentaire ; rien d&apos;autre n&apos;est perdu, mais l&apos;effacer est plus sûr</translation>
+    </message>
+    <message>
+        <source>nothing of the file is read: %1</source>
+        <translation>rien du fichier n&apos;est lu : %1</translation>
+    </message>
+    <message>
+        <source>nothing of the file is read: %1; save it as plain ASCII</source>
+        <translation>rien du fichier n&apos;est lu : %1 ; enregistrez-le en ASCII simple</translation>
+    </message>
+    <message>
+        <source>%1 is read as part of what follows: %2 is lost; there are no comments</source>
+        <translation>%1 est lu comme partie de ce qui suit : %2 est perdu ; il n&apos;y a pas de commentaires</translation>
+    </message>
+    <message>
+        <source>%1: its settings are lost%2</source>
+        <translation>%1 : ses réglages sont perdus%2</translation>
+    </message>
+    <message>
+        <source>labels stay English: %1</source>
+        <translation>les libellés restent en anglais : %1</translation>
+    </message>
+    <message>
+        <source>nothing reads %1: %2</source>
+        <translation>rien ne lit %1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 stands here a second time: %2</source>
+        <translation>%1 se trouve ici une deuxième fois : %2</translation>
+    </message>
+    <message>
+        <source>%1 is %2 and counts as off%3</source>
+        <translation>%1 est %2 et compte comme désactivé%3</translation>
+    </message>
+    <message>
+        <source>%1 is %2, no whole number, and counts as 0%3</source>
+        <translation>%1 est %2, qui n&apos;est pas un nombre entier, et compte comme 0%3</translation>
+    </message>
+    <message>
+        <source>all documents but %1</source>
+        <translation>tous les documents sauf : %1</translation>
+    </message>
+    <message>
+        <source>a %1 of %2 characters is wider than the paper (%3)</source>
+        <translation>%1 de %2 caractères, plus large que le papier (%3)</translation>
+    </message>
+    <message>
+        <source>the stream is empty: nothing is printed</source>
+        <translation>le flux est vide : rien n&apos;est imprimé</translation>
+    </message>
+    <message>
+        <source>the %1 opened here is never closed</source>
+        <translation>%1 : ouverture ici, jamais de fermeture</translation>
+    </message>
+    <message>
+        <source>the %1 opened at byte %2 is still open where the %3 is opened</source>
+        <translation>%1 (octet %2) encore ouvert là où s&apos;ouvre %3</translation>
+    </message>
+    <message>
+        <source>the %1 is closed but not open</source>
+        <translation>%1 : fermeture sans ouverture</translation>
+    </message>
+    <message>
+        <source>a %1 outside a fiscal section</source>
+        <translation>%1 hors d&apos;une section fiscale</translation>
+    </message>
+    <message>
+        <source>the amount %1 is no whole number of hundredths</source>
+        <translation>le montant %1 n&apos;est pas un nombre entier de centièmes</translation>
+    </message>
+    <message>
+        <source>the quantity %1 is no number</source>
+        <translation>la quantité %1 n&apos;est pas un nombre</translation>
+    </message>
+    <message>
+        <source>the %1 is too large for the preview to add up</source>
+        <translation>%1 : trop grand pour être additionné</translation>
+    </message>
+    <message>
+        <source>a &quot;%1&quot; inside a text ends it early</source>
+        <translation>&quot;%1&quot; dans un texte le termine trop tôt</translation>
+    </message>
+    <message>
+        <source>a &quot;%1&quot; inside a field of a sale row ends it early</source>
+        <translation>&quot;%1&quot; dans un champ d&apos;une ligne de vente le termine trop tôt</translation>
+    </message>
+    <message>
+        <source>the line break %1 inside a text ends it early</source>
+        <translation>le saut de ligne %1 dans un texte le termine trop tôt</translation>
+    </message>
+    <message>
+        <source>the control character %1 inside a text</source>
+        <translation>le caractère de commande %1 dans un texte</translation>
+    </message>
+    <message>
+        <source>%1 is not %2</source>
+        <translation>%1 n&apos;est pas du %2</translation>
+    </message>
+    <message>
+        <source>broken %1: %2 does not belong here</source>
+        <translation>%1, avec une erreur : %2 n&apos;a rien à faire ici</translation>
+    </message>
+    <message>
+        <source>unterminated %1 that begins at byte %2: the stream ends here</source>
+        <translation>%1, incomplet (octet %2) : le flux s&apos;arrête ici</translation>
+    </message>
+    <message>
+        <source>too much is wrong; no more is listed</source>
+        <translation>trop d&apos;erreurs ; la suite n&apos;est pas énumérée</translation>
+    </message>
+    <message>
+        <source>too much is odd; no more is listed</source>
+        <translation>trop de bizarreries ; la suite n&apos;est pas énumérée</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>ligne</translation>
+    </message>
+    <message>
+        <source>text line</source>
+        <translation>ligne de texte</translation>
+    </message>
+    <message>
+        <source>section opening</source>
+        <translation>ouverture de section</translation>
+    </message>
+    <message>
+        <source>section closing</source>
+        <translation>fermeture de section</translation>
+    </message>
+    <message>
+        <source>sale row</source>
+        <translation>ligne de vente</translation>
+    </message>
+    <message>
+        <source>deduction</source>
+        <translation>déduction</translation>
+    </message>
+    <message>
+        <source>unknown command</source>
+        <translation>commande inconnue</translation>
+    </message>
+    <message>
+        <source>fiscal section</source>
+        <translation>section fiscale</translation>
+    </message>
+    <message>
+        <source>receipt section</source>
+        <translation>section de reçu</translation>
+    </message>
+    <message>
+        <source>document section</source>
+        <translation>section de document</translation>
+    </message>
+    <message>
+        <source>unknown command that begins at byte %1: the stream ends here</source>
+        <translation>commande inconnue (octet %1) : le flux s&apos;arrête ici</translation>
+    </message>
+    <message>
+        <source>unknown command: %1 does not belong here</source>
+        <translation>commande inconnue : %1 n&apos;a rien à faire ici</translation>
+    </message>
+</context>
+<context>
     <name>jobs</name>
     <message>
         <source>%1 cannot be read: %2</source>

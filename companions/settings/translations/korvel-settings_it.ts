@@ -196,6 +196,749 @@
     </message>
 </context>
 <context>
+    <name>findings</name>
+    <message>
+        <source>%1: nothing behind %2 was checked</source>
+        <translation>%1: dopo %2 non è stato controllato nulla</translation>
+    </message>
+    <message>
+        <source>no method: nothing is printed; %1</source>
+        <translation>nessun metodo: non si stampa nulla; %1</translation>
+    </message>
+    <message>
+        <source>%1: the job ends here%2</source>
+        <translation>%1: il lavoro finisce qui%2</translation>
+    </message>
+    <message>
+        <source>most elements are those of the %1, not of the %2; did you mean &quot;%3&quot;?</source>
+        <translation>quasi tutti gli elementi sono del documento %1, non del documento %2; si intende &quot;%3&quot;?</translation>
+    </message>
+    <message>
+        <source>a second method: the section of the %1 is not closed; send one document per job</source>
+        <translation>un secondo metodo: la sezione del documento %1 non viene chiusa; inviare un documento per lavoro</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; stands before the method and is not printed; move it behind &lt;method&gt;</source>
+        <translation>&lt;%1&gt; sta prima del metodo e non viene stampato; spostarlo dopo &lt;method&gt;</translation>
+    </message>
+    <message>
+        <source>no document knows &lt;%1&gt;: nothing is printed%2</source>
+        <translation>nessun documento conosce &lt;%1&gt;: non si stampa nulla%2</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; prints nothing in the document &quot;%2&quot;%3%4</source>
+        <translation>&lt;%1&gt; non stampa nulla nel documento &quot;%2&quot;%3%4</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; prints nothing in the document &quot;%2&quot;: its figures are lost%3%4</source>
+        <translation>&lt;%1&gt; non stampa nulla nel documento &quot;%2&quot;: le sue cifre si perdono%3%4</translation>
+    </message>
+    <message>
+        <source>nothing reads &quot;%1&quot; of &lt;%2&gt; in this document%3</source>
+        <translation>nulla legge &quot;%1&quot; di &lt;%2&gt; in questo documento%3</translation>
+    </message>
+    <message>
+        <source>nothing reads %1 of &lt;%2&gt; in the document &quot;%3&quot;: %4%5</source>
+        <translation>nulla legge %1 di &lt;%2&gt; nel documento &quot;%3&quot;: %4%5</translation>
+    </message>
+    <message>
+        <source>nothing reads &quot;%1&quot; of &lt;%2&gt;%3</source>
+        <translation>nulla legge &quot;%1&quot; di &lt;%2&gt;%3</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has no %2: %3</source>
+        <translation>a &lt;%1&gt; manca %2: %3</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has no %2, which the settings switch on: %3</source>
+        <translation>a &lt;%1&gt; manca %2, che le impostazioni attivano: %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, no number; it prints as it is</source>
+        <translation>&quot;%1&quot; è %2, che non è un numero; si stampa così com&apos;è</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, with parts of a hundredth; it prints as it is</source>
+        <translation>&quot;%1&quot; è %2, con frazioni di centesimo; si stampa così com&apos;è</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2; other amounts of this job have a %3 as their decimal mark</source>
+        <translation>&quot;%1&quot; è %2; altri importi di questo lavoro hanno come segno decimale: %3</translation>
+    </message>
+    <message>
+        <source>the quantity %1 is no number and prints as &quot;-&quot;, something left out</source>
+        <translation>la quantità %1 non è un numero e si stampa come &quot;-&quot;, qualcosa di tolto</translation>
+    </message>
+    <message>
+        <source>the sale row has no %1: %2</source>
+        <translation>alla riga di vendita manca %1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, %3</source>
+        <translation>&quot;%1&quot; di una riga di vendita è %2, %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, with parts of a hundredth, which are sent</source>
+        <translation>&quot;%1&quot; di una riga di vendita è %2, con frazioni di centesimo, che vengono inviate</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, no number above 0</source>
+        <translation>&quot;%1&quot; di una riga di vendita è %2, che non è un numero maggiore di 0</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2; the printer takes a whole number from 1 on</source>
+        <translation>&quot;%1&quot; di una riga di vendita è %2; la stampante accetta un numero intero da 1 in su</translation>
+    </message>
+    <message>
+        <source>%1 times %2 is %3, and &quot;%4&quot; is %5</source>
+        <translation>%1 per %2 fa %3, e &quot;%4&quot; è %5</translation>
+    </message>
+    <message>
+        <source>the rows come to %1, and %2</source>
+        <translation>le righe fanno %1, e %2</translation>
+    </message>
+    <message>
+        <source>%1 %2, and &quot;%3&quot; is %4</source>
+        <translation>%1 %2, e &quot;%3&quot; è %4</translation>
+    </message>
+    <message>
+        <source>the %1 has rows and no &lt;%2&gt;: no total is printed</source>
+        <translation>il documento %1 ha righe e nessun &lt;%2&gt;: non si stampa alcun totale</translation>
+    </message>
+    <message>
+        <source>the total stands here a second time, with no row in front of it, and prints again</source>
+        <translation>il totale sta qui una seconda volta, senza righe prima, e si stampa di nuovo</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; stands behind the total and prints below it</source>
+        <translation>&lt;%1&gt; sta dopo il totale e si stampa sotto</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2: a %3 in it breaks the printer&apos;s command</source>
+        <translation>&quot;%1&quot; di una riga di vendita è %2: %3 vi spezza il comando della stampante</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has a line break, which breaks the printed line</source>
+        <translation>&quot;%1&quot; di &lt;%2&gt; ha un a capo, che spezza la riga stampata</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has a &quot;)&quot;, which some printers take for the end of the line</source>
+        <translation>&quot;%1&quot; di &lt;%2&gt; ha una &quot;)&quot;, che alcune stampanti prendono per la fine della riga</translation>
+    </message>
+    <message>
+        <source>%1 a tab or another control character</source>
+        <translation>%1 un tabulatore o un altro carattere di controllo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has TOTALE, which prints as T0TALE</source>
+        <translation>&quot;%1&quot; di &lt;%2&gt; ha TOTALE, che si stampa come T0TALE</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has an empty part: what follows is not printed</source>
+        <translation>&quot;%1&quot; ha una parte vuota: ciò che segue non si stampa</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, probably %3: UTF-8 was read as %4 and saved again</source>
+        <translation>&quot;%1&quot; è %2, probabilmente %3: UTF-8 è stato letto come %4 e salvato di nuovo</translation>
+    </message>
+    <message>
+        <source>%1 %2, which prints as it is: it was escaped twice</source>
+        <translation>%1 %2, che si stampa così com&apos;è: è stato codificato due volte</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has what %2 lacks: %3</source>
+        <translation>&quot;%1&quot; ha ciò che manca a %2: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is off in %3</source>
+        <translation>%1: %2 è disattivato in %3</translation>
+    </message>
+    <message>
+        <source>a line of %1 characters is wider than the paper (%2): %3%4</source>
+        <translation>una riga di %1 caratteri è più larga della carta (%2): %3%4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is cut in the middle of %2, which prints as another character</source>
+        <translation>&quot;%1&quot; è tagliato a metà di %2, che si stampa come un altro carattere</translation>
+    </message>
+    <message>
+        <source>; did you mean &quot;%1&quot;?</source>
+        <translation>; si intende &quot;%1&quot;?</translation>
+    </message>
+    <message>
+        <source>begin with &lt;method name=&quot;...&quot;/&gt;</source>
+        <translation>cominciare con &lt;method name=&quot;...&quot;/&gt;</translation>
+    </message>
+    <message>
+        <source>did you mean &lt;method&gt; by &lt;%1&gt;?</source>
+        <translation>con &lt;%1&gt; si intende &lt;method&gt;?</translation>
+    </message>
+    <message>
+        <source>begin with &lt;method name=&quot;%1&quot;/&gt;</source>
+        <translation>cominciare con &lt;method name=&quot;%1&quot;/&gt;</translation>
+    </message>
+    <message>
+        <source>this</source>
+        <translation>questo punto</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>la riga %1</translation>
+    </message>
+    <message>
+        <source>an instruction has no name</source>
+        <translation>un&apos;istruzione non ha nome</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name</source>
+        <translation>&quot;%1&quot; non è un nome</translation>
+    </message>
+    <message>
+        <source>XML %1 is not read; write 1.0</source>
+        <translation>XML %1 non viene letto; scrivere 1.0</translation>
+    </message>
+    <message>
+        <source>%1 is named, but the job is written in %2: the paper ends here; name %2, or none</source>
+        <translation>è indicato %1, ma il lavoro è scritto in %2: la carta finisce qui; indicare %2, o nulla</translation>
+    </message>
+    <message>
+        <source>%1 is named, but the job is written in UTF-8: accents print wrongly; name UTF-8, or none</source>
+        <translation>è indicato %1, ma il lavoro è scritto in UTF-8: gli accenti si stampano male; indicare UTF-8, o nulla</translation>
+    </message>
+    <message>
+        <source>the checker cannot read the encoding &quot;%1&quot;: nothing else was checked; write UTF-8</source>
+        <translation>la codifica &quot;%1&quot; non si può leggere: non è stato controllato altro; scrivere UTF-8</translation>
+    </message>
+    <message>
+        <source>not %1: the bytes here print as a replacement character; save the job as UTF-8, or name what it is written in</source>
+        <translation>non è %1: questi byte si stampano come carattere sostitutivo; salvare il lavoro in UTF-8, o indicare in che cosa è scritto</translation>
+    </message>
+    <message>
+        <source>more than %1 elements nested in each other: the paper ends here</source>
+        <translation>più di %1 elementi annidati: la carta finisce qui</translation>
+    </message>
+    <message>
+        <source>more than %1 namespaces declared: the paper ends here</source>
+        <translation>più di %1 spazi dei nomi dichiarati: la carta finisce qui</translation>
+    </message>
+    <message>
+        <source>more entities than the renderer takes, longer ones, or one in itself: the paper ends here</source>
+        <translation>più entità di quante ne accetti il programma di stampa, più lunghe, o una in se stessa: la carta finisce qui</translation>
+    </message>
+    <message>
+        <source>more than %1 attributes in the document type: nothing behind this was checked</source>
+        <translation>più di %1 attributi nel tipo di documento: dopo non è stato controllato nulla</translation>
+    </message>
+    <message>
+        <source>groups and settings that are too many, too deep or too long are read over: %1</source>
+        <translation>gruppi e impostazioni troppo numerosi, troppo annidati o troppo lunghi non vengono letti: %1</translation>
+    </message>
+    <message>
+        <source>no document is called %1</source>
+        <translation>nessun documento si chiama %1</translation>
+    </message>
+    <message>
+        <source>the method has no name</source>
+        <translation>il metodo non ha nome</translation>
+    </message>
+    <message>
+        <source>; write &lt;method name=&quot;%1&quot;/&gt;</source>
+        <translation>; scrivere &lt;method name=&quot;%1&quot;/&gt;</translation>
+    </message>
+    <message>
+        <source>its figure is lost</source>
+        <translation>la sua cifra si perde</translation>
+    </message>
+    <message>
+        <source>their figures are lost</source>
+        <translation>le loro cifre si perdono</translation>
+    </message>
+    <message>
+        <source>; did you mean &quot;%1&quot;, which is missing?</source>
+        <translation>; si intende &quot;%1&quot;, che manca?</translation>
+    </message>
+    <message>
+        <source>, and its &quot;%1&quot; is missing</source>
+        <translation>, e manca &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has %2 as an element, which prints nothing: write it as an attribute</source>
+        <translation>&lt;%1&gt; ha %2 come elemento, che non stampa nulla: scriverlo come attributo</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; has %2 as elements, which print nothing: write them as attributes</source>
+        <translation>&lt;%1&gt; ha %2 come elementi, che non stampano nulla: scriverli come attributi</translation>
+    </message>
+    <message>
+        <source>the text %1 in &lt;%2&gt; is not printed: write it as an attribute</source>
+        <translation>il testo %1 in &lt;%2&gt; non viene stampato: scriverlo come attributo</translation>
+    </message>
+    <message>
+        <source>; it is printed in %1</source>
+        <translation>; si stampa in: %1</translation>
+    </message>
+    <message>
+        <source>its place prints empty</source>
+        <translation>il suo posto resta vuoto</translation>
+    </message>
+    <message>
+        <source>their places print empty</source>
+        <translation>i loro posti restano vuoti</translation>
+    </message>
+    <message>
+        <source>it prints as &quot;-&quot;, something left out</source>
+        <translation>si stampa come &quot;-&quot;, qualcosa di tolto</translation>
+    </message>
+    <message>
+        <source>&quot;number&quot; and &quot;totals&quot; must be the first two attributes, and are not: all others are taken for serial number, total and tax rate of one document after the other</source>
+        <translation>&quot;number&quot; e &quot;totals&quot; devono essere i primi due attributi e non lo sono: tutti gli altri sono presi per numero di serie, totale e aliquota di un documento dopo l&apos;altro</translation>
+    </message>
+    <message>
+        <source>each cancelled document takes three attributes behind &quot;number&quot; and &quot;totals&quot;, its serial number, total and tax rate; there are %1</source>
+        <translation>ogni documento annullato prende tre attributi dopo &quot;number&quot; e &quot;totals&quot;: numero di serie, totale e aliquota; ce ne sono %1</translation>
+    </message>
+    <message>
+        <source>&quot;number&quot; is %1, but the cancelled documents that are listed are %2</source>
+        <translation>&quot;number&quot; è %1, ma i documenti annullati elencati sono %2</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>virgola</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>punto</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; is %3</source>
+        <translation>&quot;%1&quot; di &lt;%2&gt; è %3</translation>
+    </message>
+    <message>
+        <source>the tax lines come to %1</source>
+        <translation>le righe delle imposte fanno %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is</source>
+        <translation>%1 di %2 fa</translation>
+    </message>
+    <message>
+        <source>%1 and %2 come to</source>
+        <translation>%1 e %2 fanno</translation>
+    </message>
+    <message>
+        <source>0 is registered</source>
+        <translation>si registra 0</translation>
+    </message>
+    <message>
+        <source>the printer may refuse it</source>
+        <translation>la stampante può rifiutarla</translation>
+    </message>
+    <message>
+        <source>no number: 0 is registered</source>
+        <translation>non è un numero: si registra 0</translation>
+    </message>
+    <message>
+        <source>no plain number</source>
+        <translation>non è un numero semplice</translation>
+    </message>
+    <message>
+        <source>more than the printer takes</source>
+        <translation>più di quanto accetti la stampante</translation>
+    </message>
+    <message>
+        <source>line break</source>
+        <translation>un a capo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &lt;%2&gt; has</source>
+        <translation>&quot;%1&quot; di &lt;%2&gt; ha</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a sale row is %2, with</source>
+        <translation>&quot;%1&quot; di una riga di vendita è %2, con</translation>
+    </message>
+    <message>
+        <source>U+FFFD in place of a character that was lost before</source>
+        <translation>U+FFFD al posto di un carattere perso prima</translation>
+    </message>
+    <message>
+        <source>%1, a character without a shape; leave it out</source>
+        <translation>%1, un carattere senza forma; toglierlo</translation>
+    </message>
+    <message>
+        <source>%1 prints as %2</source>
+        <translation>%1 si stampa come %2</translation>
+    </message>
+    <message>
+        <source>, and %1 more</source>
+        <translation>, e altri %1</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is not printed</source>
+        <translation>&lt;%1&gt; non viene stampato</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not printed</source>
+        <translation>&quot;%1&quot; non viene stampato</translation>
+    </message>
+    <message>
+        <source>of &lt;headers&gt; only the printer&apos;s name is printed</source>
+        <translation>di &lt;headers&gt; si stampa solo il nome della stampante</translation>
+    </message>
+    <message>
+        <source>; &quot;%1&quot; is %2 in a column of %3 (%4 in %5)</source>
+        <translation>; &quot;%1&quot; è %2 in una colonna di %3 (%4 in %5)</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>è vuoto</translation>
+    </message>
+    <message>
+        <source>it has no group korvel: { ... };</source>
+        <translation>non ha un gruppo korvel: { ... };</translation>
+    </message>
+    <message>
+        <source>no setting stands in it</source>
+        <translation>non contiene impostazioni</translation>
+    </message>
+    <message>
+        <source>it is written as %1; settings are written korvel: { doc: { paperWidth = &quot;32&quot;; }; };</source>
+        <translation>è scritto come %1; le impostazioni si scrivono korvel: { doc: { paperWidth = &quot;32&quot;; }; };</translation>
+    </message>
+    <message>
+        <source>its first group is %1, not korvel%2</source>
+        <translation>il suo primo gruppo è %1, non korvel%2</translation>
+    </message>
+    <message>
+        <source>its first group has no name%1</source>
+        <translation>il suo primo gruppo non ha nome%1</translation>
+    </message>
+    <message>
+        <source>a byte order mark stands in front of it</source>
+        <translation>davanti c&apos;è un segno d&apos;ordine dei byte</translation>
+    </message>
+    <message>
+        <source>it is written as UTF-16</source>
+        <translation>è scritto in UTF-16</translation>
+    </message>
+    <message>
+        <source>the group %1</source>
+        <translation>il gruppo %1</translation>
+    </message>
+    <message>
+        <source>what follows</source>
+        <translation>ciò che segue</translation>
+    </message>
+    <message>
+        <source>%1 is %2: does the line end with ;?</source>
+        <translation>%1 è %2: la riga finisce con ;?</translation>
+    </message>
+    <message>
+        <source>; does the line end with ;?</source>
+        <translation>; la riga finisce con ;?</translation>
+    </message>
+    <message>
+        <source>a } has no ; behind it: %1 is skipped</source>
+        <translation>dopo una } manca ;: %1 viene saltato</translation>
+    </message>
+    <message>
+        <source>the group %1 is not closed: a }; is missing here</source>
+        <translation>il gruppo %1 non è chiuso: qui manca };</translation>
+    </message>
+    <message>
+        <source>the file ends inside the group %1: a }; is missing, if not more</source>
+        <translation>il file finisce nel gruppo %1: manca almeno una };</translation>
+    </message>
+    <message>
+        <source>a } closes %1 too early: what follows is not read</source>
+        <translation>una } chiude %1 troppo presto: ciò che segue non viene letto</translation>
+    </message>
+    <message>
+        <source>a } closes nothing: what follows is not read</source>
+        <translation>una } non chiude nulla: ciò che segue non viene letto</translation>
+    </message>
+    <message>
+        <source>the group %1 has no { behind its name</source>
+        <translation>il gruppo %1 non ha { dopo il nome</translation>
+    </message>
+    <message>
+        <source>the group %1 has no : behind its name%2</source>
+        <translation>il gruppo %1 non ha : dopo il nome%2</translation>
+    </message>
+    <message>
+        <source>the group %1 has neither : nor { behind its name%2</source>
+        <translation>il gruppo %1 non ha né : né { dopo il nome%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands where the &quot;%2&quot; of %3 belongs</source>
+        <translation>&quot;%1&quot; sta dove va il &quot;%2&quot; di %3</translation>
+    </message>
+    <message>
+        <source>%1 stands where a &quot; of %2 belongs, and becomes part of the value</source>
+        <translation>%1 sta dove va un &quot; di %2, e diventa parte del valore</translation>
+    </message>
+    <message>
+        <source>%1: it is read as %2</source>
+        <translation>%1: si legge come %2</translation>
+    </message>
+    <message>
+        <source>a { too many: %1 has one already</source>
+        <translation>una { di troppo: %1 ne ha già una</translation>
+    </message>
+    <message>
+        <source>%1 has no = behind its name and is not read</source>
+        <translation>%1 non ha = dopo il nome e non viene letto</translation>
+    </message>
+    <message>
+        <source>no name stands before the =: %1 is not read</source>
+        <translation>prima del = non c&apos;è un nome: %1 non viene letto</translation>
+    </message>
+    <message>
+        <source>no catalogue is found as %1</source>
+        <translation>nessun catalogo si trova in %1</translation>
+    </message>
+    <message>
+        <source>%1 is no catalogue</source>
+        <translation>%1 non è un catalogo</translation>
+    </message>
+    <message>
+        <source>; letters beyond ASCII are misread: leave them out of paths</source>
+        <translation>; le lettere oltre l&apos;ASCII vengono lette male: non usarle nei percorsi</translation>
+    </message>
+    <message>
+        <source>; file must begin with a /</source>
+        <translation>; file deve cominciare con /</translation>
+    </message>
+    <message>
+        <source>the columns of the %1 leave no room for the description: the others and the blanks take %2 of %3 characters</source>
+        <translation>le colonne del documento (%1) non lasciano posto alla descrizione: le altre e gli spazi prendono %2 caratteri su %3</translation>
+    </message>
+    <message>
+        <source>%1 is %2: the description of the %3 gets as many characters too many</source>
+        <translation>%1 è %2: la descrizione ha altrettanti caratteri di troppo (%3)</translation>
+    </message>
+    <message>
+        <source>paperWidth is %1: lines are wider than the printer&apos;s %2 characters</source>
+        <translation>paperWidth è %1: le righe sono più larghe dei %2 caratteri della stampante</translation>
+    </message>
+    <message>
+        <source>no document reads the group %1</source>
+        <translation>nessun documento legge il gruppo %1</translation>
+    </message>
+    <message>
+        <source>a group has no name before its {</source>
+        <translation>un gruppo non ha nome prima della {</translation>
+    </message>
+    <message>
+        <source>only the first group of the file is read, and %1 is another</source>
+        <translation>si legge solo il primo gruppo del file, e %1 è un altro</translation>
+    </message>
+    <message>
+        <source>documents&apos; groups stand in korvel itself, not in %1</source>
+        <translation>i gruppi dei documenti stanno in korvel stesso, non in %1</translation>
+    </message>
+    <message>
+        <source>what the one in line %1 sets counts, this one adds what it does not set</source>
+        <translation>vale ciò che imposta quello della riga %1; questo aggiunge ciò che esso non imposta</translation>
+    </message>
+    <message>
+        <source>this one counts, not that in line %1</source>
+        <translation>vale questa, non quella della riga %1</translation>
+    </message>
+    <message>
+        <source>; only true switches it on</source>
+        <translation>; lo attiva solo true</translation>
+    </message>
+    <message>
+        <source>it stands outside the group korvel</source>
+        <translation>sta fuori dal gruppo korvel</translation>
+    </message>
+    <message>
+        <source>only the first group of the file is read, and it must be korvel</source>
+        <translation>si legge solo il primo gruppo del file, che deve essere korvel</translation>
+    </message>
+    <message>
+        <source>settings stand in a document&apos;s group or in language, in korvel%1</source>
+        <translation>le impostazioni stanno nel gruppo di un documento o in language, in korvel%1</translation>
+    </message>
+    <message>
+        <source>; does a } lack its ;?</source>
+        <translation>; a una } manca il suo ;?</translation>
+    </message>
+    <message>
+        <source>no document has such a group%1</source>
+        <translation>nessun documento ha un gruppo simile%1</translation>
+    </message>
+    <message>
+        <source>there is no such setting%1</source>
+        <translation>non esiste un&apos;impostazione simile%1</translation>
+    </message>
+    <message>
+        <source>it is commented out; nothing else is lost by it, but deleting it is safer</source>
+        <translation>è commentato; non si perde altro, ma cancellarlo è più sicuro</translation>
+    </message>
+    <message>
+        <source>nothing of the file is read: %1</source>
+        <translation>del file non si legge nulla: %1</translation>
+    </message>
+    <message>
+        <source>nothing of the file is read: %1; save it as plain ASCII</source>
+        <translation>del file non si legge nulla: %1; salvarlo come ASCII semplice</translation>
+    </message>
+    <message>
+        <source>%1 is read as part of what follows: %2 is lost; there are no comments</source>
+        <translation>%1 si legge come parte di ciò che segue: %2 si perde; non ci sono commenti</translation>
+    </message>
+    <message>
+        <source>%1: its settings are lost%2</source>
+        <translation>%1: le sue impostazioni si perdono%2</translation>
+    </message>
+    <message>
+        <source>labels stay English: %1</source>
+        <translation>le etichette restano in inglese: %1</translation>
+    </message>
+    <message>
+        <source>nothing reads %1: %2</source>
+        <translation>nulla legge %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 stands here a second time: %2</source>
+        <translation>%1 sta qui una seconda volta: %2</translation>
+    </message>
+    <message>
+        <source>%1 is %2 and counts as off%3</source>
+        <translation>%1 è %2 e vale come disattivato%3</translation>
+    </message>
+    <message>
+        <source>%1 is %2, no whole number, and counts as 0%3</source>
+        <translation>%1 è %2, che non è un numero intero, e vale come 0%3</translation>
+    </message>
+    <message>
+        <source>all documents but %1</source>
+        <translation>tutti i documenti tranne: %1</translation>
+    </message>
+    <message>
+        <source>a %1 of %2 characters is wider than the paper (%3)</source>
+        <translation>%1 di %2 caratteri, più largo della carta (%3)</translation>
+    </message>
+    <message>
+        <source>the stream is empty: nothing is printed</source>
+        <translation>il flusso è vuoto: non si stampa nulla</translation>
+    </message>
+    <message>
+        <source>the %1 opened here is never closed</source>
+        <translation>%1: si apre qui e non si chiude mai</translation>
+    </message>
+    <message>
+        <source>the %1 opened at byte %2 is still open where the %3 is opened</source>
+        <translation>%1 (byte %2) ancora aperto dove si apre %3</translation>
+    </message>
+    <message>
+        <source>the %1 is closed but not open</source>
+        <translation>%1: si chiude, ma non è aperto</translation>
+    </message>
+    <message>
+        <source>a %1 outside a fiscal section</source>
+        <translation>%1 fuori da una sezione fiscale</translation>
+    </message>
+    <message>
+        <source>the amount %1 is no whole number of hundredths</source>
+        <translation>l&apos;importo %1 non è un numero intero di centesimi</translation>
+    </message>
+    <message>
+        <source>the quantity %1 is no number</source>
+        <translation>la quantità %1 non è un numero</translation>
+    </message>
+    <message>
+        <source>the %1 is too large for the preview to add up</source>
+        <translation>%1: troppo grande per essere sommato</translation>
+    </message>
+    <message>
+        <source>a &quot;%1&quot; inside a text ends it early</source>
+        <translation>&quot;%1&quot; in un testo lo chiude troppo presto</translation>
+    </message>
+    <message>
+        <source>a &quot;%1&quot; inside a field of a sale row ends it early</source>
+        <translation>&quot;%1&quot; in un campo di una riga di vendita lo chiude troppo presto</translation>
+    </message>
+    <message>
+        <source>the line break %1 inside a text ends it early</source>
+        <translation>l&apos;a capo %1 in un testo lo chiude troppo presto</translation>
+    </message>
+    <message>
+        <source>the control character %1 inside a text</source>
+        <translation>il carattere di controllo %1 in un testo</translation>
+    </message>
+    <message>
+        <source>%1 is not %2</source>
+        <translation>%1 non è %2</translation>
+    </message>
+    <message>
+        <source>broken %1: %2 does not belong here</source>
+        <translation>%1, con errori: %2 non va qui</translation>
+    </message>
+    <message>
+        <source>unterminated %1 that begins at byte %2: the stream ends here</source>
+        <translation>%1, incompleto (byte %2): il flusso finisce qui</translation>
+    </message>
+    <message>
+        <source>too much is wrong; no more is listed</source>
+        <translation>troppi errori; il resto non è elencato</translation>
+    </message>
+    <message>
+        <source>too much is odd; no more is listed</source>
+        <translation>troppe stranezze; il resto non è elencato</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>riga</translation>
+    </message>
+    <message>
+        <source>text line</source>
+        <translation>riga di testo</translation>
+    </message>
+    <message>
+        <source>section opening</source>
+        <translation>apertura di sezione</translation>
+    </message>
+    <message>
+        <source>section closing</source>
+        <translation>chiusura di sezione</translation>
+    </message>
+    <message>
+        <source>sale row</source>
+        <translation>riga di vendita</translation>
+    </message>
+    <message>
+        <source>deduction</source>
+        <translation>detrazione</translation>
+    </message>
+    <message>
+        <source>unknown command</source>
+        <translation>comando sconosciuto</translation>
+    </message>
+    <message>
+        <source>fiscal section</source>
+        <translation>sezione fiscale</translation>
+    </message>
+    <message>
+        <source>receipt section</source>
+        <translation>sezione di ricevuta</translation>
+    </message>
+    <message>
+        <source>document section</source>
+        <translation>sezione di documento</translation>
+    </message>
+    <message>
+        <source>unknown command that begins at byte %1: the stream ends here</source>
+        <translation>comando sconosciuto (byte %1): il flusso finisce qui</translation>
+    </message>
+    <message>
+        <source>unknown command: %1 does not belong here</source>
+        <translation>comando sconosciuto: %1 non va qui</translation>
+    </message>
+</context>
+<context>
     <name>jobs</name>
     <message>
         <source>%1 cannot be read: %2</source>
