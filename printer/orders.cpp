@@ -3,6 +3,7 @@
 
 #include "vocabulary/attributes.h"
 #include "vocabulary/columns.h"
+#include "vocabulary/numbers.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,9 +18,7 @@ namespace {
 QString variantDescription(const QXmlAttributes &attributes)
 {
     const QString quantity = attributes.value(attribute::quantity);
-    bool isNumber = false;
-    const double parsed = quantity.toDouble(&isNumber);
-    const double number = isNumber ? parsed : 0;
+    const double number = korvel::vocabulary::numberIn(quantity).value_or(0);
     QString mark = quantity;
     if (number == -1.0 || number == 0.0)
         mark = u"-"_s;

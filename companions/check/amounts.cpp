@@ -2,6 +2,7 @@
 #include "companions/check/context.h"
 #include "companions/check/synonyms.h"
 #include "companions/check/words.h"
+#include "vocabulary/numbers.h"
 
 #include <QRegularExpression>
 
@@ -126,9 +127,7 @@ void checkRate(Context &context, const Tag &tag, const JobAttribute &attribute)
 
 void checkVariantQuantity(Context &context, const JobAttribute &attribute)
 {
-    bool isNumber = false;
-    attribute.value.toDouble(&isNumber);
-    if (!isNumber)
+    if (!vocabulary::numberIn(attribute.value))
         context.note(attribute.place, Code::VariantQuantity, quoted(attribute.value));
 }
 

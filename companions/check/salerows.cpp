@@ -1,10 +1,12 @@
 // Rows that are sent to the printer to be registered: sales and deductions.
 #include "companions/check/context.h"
 #include "companions/check/words.h"
+#include "vocabulary/numbers.h"
 
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -27,9 +29,9 @@ QRegularExpressionMatch plainNumber(const QString &value)
 }
 
 /// A price as the renderer reads it.
-double registeredPrice(QString value, bool *isNumber = nullptr)
+std::optional<double> registeredPrice(QString value)
 {
-    return value.replace(u',', u'.').toDouble(isNumber);
+    return vocabulary::numberIn(value.replace(u',', u'.'));
 }
 
 void checkPrice(Context &context, const JobAttribute &attribute)
@@ -38,9 +40,7 @@ void checkPrice(Context &context, const JobAttribute &attribute)
         context.note(attribute.place, code, attribute.name, quoted(attribute.value), words...);
     };
     const auto number = plainNumber(attribute.value);
-    bool isNumber = false;
-    registeredPrice(attribute.value, &isNumber);
-    if (!isNumber)
+    if (!registeredPrice(attribute.value))
         note(Code::FiscalAmount, phrase::noNumber);
     else if (!number.hasMatch())
         note(Code::FiscalAmount, phrase::noPlainNumber);
@@ -95,7 +95,7 @@ bool isDeduction(const Tag &tag, const QList<Attribute> &known)
     });
 }
 
-bool isDeduction(const QString &price) { return registeredPrice(price) < 0; }
+bool isDeduction(const QString &price) { return registeredPrice(price).value_or(0) < 0; }
 
 void noteIncomplete(Context &context, const Tag &tag, const QStringList &lacking)
 {

@@ -1,6 +1,7 @@
 // The rows of a document beside each other: what they come to, the total, the tax.
 #include "companions/check/context.h"
 #include "companions/check/words.h"
+#include "vocabulary/numbers.h"
 
 #include <algorithm>
 #include <utility>
@@ -175,7 +176,7 @@ private:
     {
         const JobAttribute *quantity = tag.find(name::quantity);
         return tag.name == element::variant && amount > 0
-               && !(quantity && quantity->value.toDouble() > 0);
+               && !(quantity && vocabulary::numberIn(quantity->value).value_or(0) > 0);
     }
 
     /// What a sale row comes to; a deduction is its price, whatever its quantity.

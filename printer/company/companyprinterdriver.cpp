@@ -3,6 +3,7 @@
 
 #include "printer/company/commands.h"
 #include "vocabulary/methods.h"
+#include "vocabulary/numbers.h"
 
 #include <algorithm>
 
@@ -45,9 +46,7 @@ const Section &sectionOf(const QString &method)
 /// no number or is beyond the range of one.
 double amountOf(QString text)
 {
-    bool isNumber = false;
-    const double amount = text.replace(u',', u'.').toDouble(&isNumber);
-    return isNumber ? amount : 0;
+    return korvel::vocabulary::numberIn(text.replace(u',', u'.')).value_or(0);
 }
 
 /// Hundredths as the printer takes them: at most 15 digits, a fraction only where one remains.

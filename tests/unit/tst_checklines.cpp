@@ -12,6 +12,8 @@
 
 namespace tst_checklines {
 
+using namespace Qt::Literals::StringLiterals;
+
 /// Characters that end lines, turn texts round, have no shape or command terminals. XML forbids
 /// some of them.
 const QByteArrayList hostile = {
@@ -90,8 +92,8 @@ class TestCheckLines : public QObject
 private slots:
     void unshownIsNoticed()
     {
-        QCOMPARE(unshown(u"a è 日 \U0001F355 \uFFFD"_qs), QString());
-        QCOMPARE(unshown(u"\u001B\u009B\u2028\u2029\u202E\u2066\uE000\U000E0001"_qs),
+        QCOMPARE(unshown(u"a è 日 \U0001F355 \uFFFD"_s), QString());
+        QCOMPARE(unshown(u"\u001B\u009B\u2028\u2029\u202E\u2066\uE000\U000E0001"_s),
                  QString("1b 9b 2028 2029 202e 2066 e000 e0001"));
     }
 
