@@ -1364,6 +1364,10 @@ Mit den Beispieleinstellungen beginnen?</translation>
         <source>Read by nothing (%1)</source>
         <translation>Von nichts gelesen (%1)</translation>
     </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::State</name>

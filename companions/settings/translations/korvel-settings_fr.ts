@@ -1364,6 +1364,10 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
         <source>Read by nothing (%1)</source>
         <translation>Lu par rien (%1)</translation>
     </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Enregistré : %1</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::State</name>
