@@ -972,7 +972,7 @@
     <name>korvel::settings::CatalogueBox</name>
     <message>
         <source>%1: labels in English</source>
-        <translation>%1: englische Beschriftungen</translation>
+        <translation>%1: Englisch</translation>
     </message>
 </context>
 <context>
