@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QSaveFile>
 #include <QSettings>
+#include <QStatusBar>
 #include <QTreeWidget>
 
 using namespace Qt::Literals::StringLiterals;
@@ -117,6 +118,7 @@ bool SettingsWindow::save()
     updateTitle();
     if (!losses.isEmpty())
         load(); // so that the tree shows what was kept
+    statusBar()->showMessage(tr("Saved: %1").arg(document->path()), 8000);
     return true;
 }
 

@@ -27,7 +27,7 @@ struct Phrase
 {
     const char *text; // QT_TRANSLATE_NOOP("findings", ...)
 
-    operator QString() const; // NOLINT(google-explicit-constructor): it stands where texts stand
+    operator QString() const; // not explicit: it stands where texts stand
 };
 
 /// All that is said of a kind of findings.

@@ -49,11 +49,14 @@ class Desktop:
         os.mkdir(self.home)
         runtime = os.path.join(self.folder, "run")
         os.mkdir(runtime, 0o700)
+        temporary = os.path.join(self.folder, "tmp")
+        os.mkdir(temporary)
         path = os.environ.get("PATH", os.defpath)
         sanitizers = {k: v for k, v in os.environ.items() if k.endswith("SAN_OPTIONS")}
         os.environ.clear()
         os.environ.update(sanitizers, PATH=path, HOME=self.home, XDG_RUNTIME_DIR=runtime)
-        os.environ.update(LC_ALL="C.UTF-8", GIO_USE_VFS="local", GSETTINGS_BACKEND="memory")
+        os.environ.update(TMPDIR=temporary, LC_ALL="C.UTF-8")
+        os.environ.update(GIO_USE_VFS="local", GSETTINGS_BACKEND="memory")
         self.log = open(os.path.join(self.folder, "log"), "w+b")
         try:
             self.start_display()

@@ -5,6 +5,7 @@
 #include "support/test.h"
 
 #include <QDir>
+#include <QStatusBar>
 
 namespace tst_settingssaving {
 
@@ -34,6 +35,7 @@ private slots:
         QVERIFY(editor.window.isWindowModified());
         editor.save();
         QVERIFY(!editor.window.isWindowModified());
+        QCOMPARE(editor.window.statusBar()->currentMessage(), "Saved: " + home.settingsPath());
         // The marks in the tree are no edits either.
         QTest::qWait(200);
         QVERIFY(!editor.window.isWindowModified());

@@ -972,7 +972,7 @@
     <name>korvel::settings::CatalogueBox</name>
     <message>
         <source>%1: labels in English</source>
-        <translation>%1: englische Beschriftungen</translation>
+        <translation>%1: Englisch</translation>
     </message>
 </context>
 <context>
@@ -1363,6 +1363,10 @@ Mit den Beispieleinstellungen beginnen?</translation>
     <message>
         <source>Read by nothing (%1)</source>
         <translation>Von nichts gelesen (%1)</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
     </message>
 </context>
 <context>

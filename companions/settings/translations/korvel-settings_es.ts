@@ -1364,6 +1364,10 @@ Begin with the sample settings?</source>
         <source>Read by nothing (%1)</source>
         <translation>No lo lee nada (%1)</translation>
     </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Guardado: %1</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::State</name>

@@ -199,31 +199,31 @@
     <name>findings</name>
     <message>
         <source>%1: nothing behind %2 was checked</source>
-        <translation>%1 : rien n&apos;a été contrôlé après %2</translation>
+        <translation>%1&#xa0;: rien n&apos;a été contrôlé après %2</translation>
     </message>
     <message>
         <source>no method: nothing is printed; %1</source>
-        <translation>aucune méthode : rien n&apos;est imprimé ; %1</translation>
+        <translation>aucune méthode&#xa0;: rien n&apos;est imprimé&#xa0;; %1</translation>
     </message>
     <message>
         <source>%1: the job ends here%2</source>
-        <translation>%1 : la tâche s&apos;arrête ici%2</translation>
+        <translation>%1&#xa0;: la tâche s&apos;arrête ici%2</translation>
     </message>
     <message>
         <source>most elements are those of the %1, not of the %2; did you mean &quot;%3&quot;?</source>
-        <translation>la plupart des éléments sont du document %1, non du document %2 ; vouliez-vous dire &quot;%3&quot; ?</translation>
+        <translation>la plupart des éléments sont du document %1, non du document %2&#xa0;; vouliez-vous dire &quot;%3&quot;&#xa0;?</translation>
     </message>
     <message>
         <source>a second method: the section of the %1 is not closed; send one document per job</source>
-        <translation>une deuxième méthode : la section du document %1 n&apos;est pas fermée ; envoyez un document par tâche</translation>
+        <translation>une deuxième méthode&#xa0;: la section du document %1 n&apos;est pas fermée&#xa0;; envoyez un document par tâche</translation>
     </message>
     <message>
         <source>&lt;%1&gt; stands before the method and is not printed; move it behind &lt;method&gt;</source>
-        <translation>&lt;%1&gt; se trouve avant la méthode et n&apos;est pas imprimé ; placez-le après &lt;method&gt;</translation>
+        <translation>&lt;%1&gt; se trouve avant la méthode et n&apos;est pas imprimé&#xa0;; placez-le après &lt;method&gt;</translation>
     </message>
     <message>
         <source>no document knows &lt;%1&gt;: nothing is printed%2</source>
-        <translation>aucun document ne connaît &lt;%1&gt; : rien n&apos;est imprimé%2</translation>
+        <translation>aucun document ne connaît &lt;%1&gt;&#xa0;: rien n&apos;est imprimé%2</translation>
     </message>
     <message>
         <source>&lt;%1&gt; prints nothing in the document &quot;%2&quot;%3%4</source>
@@ -231,7 +231,7 @@
     </message>
     <message>
         <source>&lt;%1&gt; prints nothing in the document &quot;%2&quot;: its figures are lost%3%4</source>
-        <translation>&lt;%1&gt; n&apos;imprime rien dans le document &quot;%2&quot; : ses chiffres sont perdus%3%4</translation>
+        <translation>&lt;%1&gt; n&apos;imprime rien dans le document &quot;%2&quot;&#xa0;: ses chiffres sont perdus%3%4</translation>
     </message>
     <message>
         <source>nothing reads &quot;%1&quot; of &lt;%2&gt; in this document%3</source>
@@ -239,7 +239,7 @@
     </message>
     <message>
         <source>nothing reads %1 of &lt;%2&gt; in the document &quot;%3&quot;: %4%5</source>
-        <translation>rien ne lit %1 de &lt;%2&gt; dans le document &quot;%3&quot; : %4%5</translation>
+        <translation>rien ne lit %1 de &lt;%2&gt; dans le document &quot;%3&quot;&#xa0;: %4%5</translation>
     </message>
     <message>
         <source>nothing reads &quot;%1&quot; of &lt;%2&gt;%3</source>
@@ -247,23 +247,23 @@
     </message>
     <message>
         <source>&lt;%1&gt; has no %2: %3</source>
-        <translation>&lt;%1&gt; n&apos;a pas de %2 : %3</translation>
+        <translation>&lt;%1&gt; n&apos;a pas de %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>&lt;%1&gt; has no %2, which the settings switch on: %3</source>
-        <translation>&lt;%1&gt; n&apos;a pas de %2, que les réglages activent : %3</translation>
+        <translation>&lt;%1&gt; n&apos;a pas de %2, que les réglages activent&#xa0;: %3</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is %2, no number; it prints as it is</source>
-        <translation>&quot;%1&quot; est %2, qui n&apos;est pas un nombre ; imprimé tel quel</translation>
+        <translation>&quot;%1&quot; est %2, qui n&apos;est pas un nombre&#xa0;; imprimé tel quel</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is %2, with parts of a hundredth; it prints as it is</source>
-        <translation>&quot;%1&quot; est %2, avec des fractions de centième ; imprimé tel quel</translation>
+        <translation>&quot;%1&quot; est %2, avec des fractions de centième&#xa0;; imprimé tel quel</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is %2; other amounts of this job have a %3 as their decimal mark</source>
-        <translation>&quot;%1&quot; est %2 ; d&apos;autres montants de cette tâche ont pour signe décimal : %3</translation>
+        <translation>&quot;%1&quot; est %2&#xa0;; d&apos;autres montants de cette tâche ont pour signe décimal&#xa0;: %3</translation>
     </message>
     <message>
         <source>the quantity %1 is no number and prints as &quot;-&quot;, something left out</source>
@@ -271,7 +271,7 @@
     </message>
     <message>
         <source>the sale row has no %1: %2</source>
-        <translation>il manque %1 à la ligne de vente : %2</translation>
+        <translation>il manque %1 à la ligne de vente&#xa0;: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; of a sale row is %2, %3</source>
@@ -287,7 +287,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; of a sale row is %2; the printer takes a whole number from 1 on</source>
-        <translation>&quot;%1&quot; d&apos;une ligne de vente est %2 ; l&apos;imprimante prend un nombre entier à partir de 1</translation>
+        <translation>&quot;%1&quot; d&apos;une ligne de vente est %2&#xa0;; l&apos;imprimante prend un nombre entier à partir de 1</translation>
     </message>
     <message>
         <source>%1 times %2 is %3, and &quot;%4&quot; is %5</source>
@@ -303,7 +303,7 @@
     </message>
     <message>
         <source>the %1 has rows and no &lt;%2&gt;: no total is printed</source>
-        <translation>le document %1 a des lignes et pas de &lt;%2&gt; : aucun total n&apos;est imprimé</translation>
+        <translation>le document %1 a des lignes et pas de &lt;%2&gt;&#xa0;: aucun total n&apos;est imprimé</translation>
     </message>
     <message>
         <source>the total stands here a second time, with no row in front of it, and prints again</source>
@@ -315,7 +315,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; of a sale row is %2: a %3 in it breaks the printer&apos;s command</source>
-        <translation>&quot;%1&quot; d&apos;une ligne de vente est %2 : %3 y rompt la commande de l&apos;imprimante</translation>
+        <translation>&quot;%1&quot; d&apos;une ligne de vente est %2&#xa0;: %3 y rompt la commande de l&apos;imprimante</translation>
     </message>
     <message>
         <source>&quot;%1&quot; of &lt;%2&gt; has a line break, which breaks the printed line</source>
@@ -335,27 +335,27 @@
     </message>
     <message>
         <source>&quot;%1&quot; has an empty part: what follows is not printed</source>
-        <translation>&quot;%1&quot; a une partie vide : la suite n&apos;est pas imprimée</translation>
+        <translation>&quot;%1&quot; a une partie vide&#xa0;: la suite n&apos;est pas imprimée</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is %2, probably %3: UTF-8 was read as %4 and saved again</source>
-        <translation>&quot;%1&quot; est %2, sans doute %3 : de l&apos;UTF-8 a été lu comme %4 et réenregistré</translation>
+        <translation>&quot;%1&quot; est %2, sans doute %3&#xa0;: de l&apos;UTF-8 a été lu comme %4 et réenregistré</translation>
     </message>
     <message>
         <source>%1 %2, which prints as it is: it was escaped twice</source>
-        <translation>%1 %2, imprimé tel quel : échappé deux fois</translation>
+        <translation>%1 %2, imprimé tel quel&#xa0;: échappé deux fois</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has what %2 lacks: %3</source>
-        <translation>&quot;%1&quot; a ce qui manque à %2 : %3</translation>
+        <translation>&quot;%1&quot; a ce qui manque à %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>%1: %2 is off in %3</source>
-        <translation>%1 : %2 est désactivé dans %3</translation>
+        <translation>%1&#xa0;: %2 est désactivé dans %3</translation>
     </message>
     <message>
         <source>a line of %1 characters is wider than the paper (%2): %3%4</source>
-        <translation>une ligne de %1 caractères est plus large que le papier (%2) : %3%4</translation>
+        <translation>une ligne de %1 caractères est plus large que le papier (%2)&#xa0;: %3%4</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is cut in the middle of %2, which prints as another character</source>
@@ -363,7 +363,7 @@
     </message>
     <message>
         <source>; did you mean &quot;%1&quot;?</source>
-        <translation>; vouliez-vous dire &quot;%1&quot; ?</translation>
+        <translation>; vouliez-vous dire &quot;%1&quot;&#xa0;?</translation>
     </message>
     <message>
         <source>begin with &lt;method name=&quot;...&quot;/&gt;</source>
@@ -371,7 +371,7 @@
     </message>
     <message>
         <source>did you mean &lt;method&gt; by &lt;%1&gt;?</source>
-        <translation>vouliez-vous dire &lt;method&gt; par &lt;%1&gt; ?</translation>
+        <translation>vouliez-vous dire &lt;method&gt; par &lt;%1&gt;&#xa0;?</translation>
     </message>
     <message>
         <source>begin with &lt;method name=&quot;%1&quot;/&gt;</source>
@@ -395,43 +395,43 @@
     </message>
     <message>
         <source>XML %1 is not read; write 1.0</source>
-        <translation>XML %1 n&apos;est pas lu ; écrivez 1.0</translation>
+        <translation>XML %1 n&apos;est pas lu&#xa0;; écrivez 1.0</translation>
     </message>
     <message>
         <source>%1 is named, but the job is written in %2: the paper ends here; name %2, or none</source>
-        <translation>%1 est indiqué, mais la tâche est écrite en %2 : le papier s&apos;arrête ici ; indiquez %2, ou rien</translation>
+        <translation>%1 est indiqué, mais la tâche est écrite en %2&#xa0;: le papier s&apos;arrête ici&#xa0;; indiquez %2, ou rien</translation>
     </message>
     <message>
         <source>%1 is named, but the job is written in UTF-8: accents print wrongly; name UTF-8, or none</source>
-        <translation>%1 est indiqué, mais la tâche est écrite en UTF-8 : les accents s&apos;impriment mal ; indiquez UTF-8, ou rien</translation>
+        <translation>%1 est indiqué, mais la tâche est écrite en UTF-8&#xa0;: les accents s&apos;impriment mal&#xa0;; indiquez UTF-8, ou rien</translation>
     </message>
     <message>
         <source>the checker cannot read the encoding &quot;%1&quot;: nothing else was checked; write UTF-8</source>
-        <translation>l&apos;encodage &quot;%1&quot; ne peut être lu : rien d&apos;autre n&apos;a été contrôlé ; écrivez UTF-8</translation>
+        <translation>l&apos;encodage &quot;%1&quot; ne peut être lu&#xa0;: rien d&apos;autre n&apos;a été contrôlé&#xa0;; écrivez UTF-8</translation>
     </message>
     <message>
         <source>not %1: the bytes here print as a replacement character; save the job as UTF-8, or name what it is written in</source>
-        <translation>pas du %1 : ces octets s&apos;impriment comme un caractère de remplacement ; enregistrez la tâche en UTF-8, ou indiquez son encodage</translation>
+        <translation>pas du %1&#xa0;: ces octets s&apos;impriment comme un caractère de remplacement&#xa0;; enregistrez la tâche en UTF-8, ou indiquez son encodage</translation>
     </message>
     <message>
         <source>more than %1 elements nested in each other: the paper ends here</source>
-        <translation>plus de %1 éléments imbriqués : le papier s&apos;arrête ici</translation>
+        <translation>plus de %1 éléments imbriqués&#xa0;: le papier s&apos;arrête ici</translation>
     </message>
     <message>
         <source>more than %1 namespaces declared: the paper ends here</source>
-        <translation>plus de %1 espaces de noms déclarés : le papier s&apos;arrête ici</translation>
+        <translation>plus de %1 espaces de noms déclarés&#xa0;: le papier s&apos;arrête ici</translation>
     </message>
     <message>
         <source>more entities than the renderer takes, longer ones, or one in itself: the paper ends here</source>
-        <translation>des entités plus nombreuses ou plus longues que le programme d&apos;impression n&apos;en prend, ou une dans elle-même : le papier s&apos;arrête ici</translation>
+        <translation>des entités plus nombreuses ou plus longues que le programme d&apos;impression n&apos;en prend, ou une dans elle-même&#xa0;: le papier s&apos;arrête ici</translation>
     </message>
     <message>
         <source>more than %1 attributes in the document type: nothing behind this was checked</source>
-        <translation>plus de %1 attributs dans le type de document : rien n&apos;a été contrôlé ensuite</translation>
+        <translation>plus de %1 attributs dans le type de document&#xa0;: rien n&apos;a été contrôlé ensuite</translation>
     </message>
     <message>
         <source>groups and settings that are too many, too deep or too long are read over: %1</source>
-        <translation>les groupes et réglages trop nombreux, trop profonds ou trop longs ne sont pas lus : %1</translation>
+        <translation>les groupes et réglages trop nombreux, trop profonds ou trop longs ne sont pas lus&#xa0;: %1</translation>
     </message>
     <message>
         <source>no document is called %1</source>
@@ -455,7 +455,7 @@
     </message>
     <message>
         <source>; did you mean &quot;%1&quot;, which is missing?</source>
-        <translation>; vouliez-vous dire &quot;%1&quot;, qui manque ?</translation>
+        <translation>; vouliez-vous dire &quot;%1&quot;, qui manque&#xa0;?</translation>
     </message>
     <message>
         <source>, and its &quot;%1&quot; is missing</source>
@@ -463,19 +463,19 @@
     </message>
     <message>
         <source>&lt;%1&gt; has %2 as an element, which prints nothing: write it as an attribute</source>
-        <translation>&lt;%1&gt; a %2 comme élément, qui n&apos;imprime rien : écrivez-le comme attribut</translation>
+        <translation>&lt;%1&gt; a %2 comme élément, qui n&apos;imprime rien&#xa0;: écrivez-le comme attribut</translation>
     </message>
     <message>
         <source>&lt;%1&gt; has %2 as elements, which print nothing: write them as attributes</source>
-        <translation>&lt;%1&gt; a %2 comme éléments, qui n&apos;impriment rien : écrivez-les comme attributs</translation>
+        <translation>&lt;%1&gt; a %2 comme éléments, qui n&apos;impriment rien&#xa0;: écrivez-les comme attributs</translation>
     </message>
     <message>
         <source>the text %1 in &lt;%2&gt; is not printed: write it as an attribute</source>
-        <translation>le texte %1 dans &lt;%2&gt; n&apos;est pas imprimé : écrivez-le comme attribut</translation>
+        <translation>le texte %1 dans &lt;%2&gt; n&apos;est pas imprimé&#xa0;: écrivez-le comme attribut</translation>
     </message>
     <message>
         <source>; it is printed in %1</source>
-        <translation>; il est imprimé dans : %1</translation>
+        <translation>; il est imprimé dans&#xa0;: %1</translation>
     </message>
     <message>
         <source>its place prints empty</source>
@@ -491,11 +491,11 @@
     </message>
     <message>
         <source>&quot;number&quot; and &quot;totals&quot; must be the first two attributes, and are not: all others are taken for serial number, total and tax rate of one document after the other</source>
-        <translation>&quot;number&quot; et &quot;totals&quot; doivent être les deux premiers attributs et ne le sont pas : tous les autres sont pris pour numéro de série, total et taux de taxe d&apos;un document après l&apos;autre</translation>
+        <translation>&quot;number&quot; et &quot;totals&quot; doivent être les deux premiers attributs et ne le sont pas&#xa0;: tous les autres sont pris pour numéro de série, total et taux de taxe d&apos;un document après l&apos;autre</translation>
     </message>
     <message>
         <source>each cancelled document takes three attributes behind &quot;number&quot; and &quot;totals&quot;, its serial number, total and tax rate; there are %1</source>
-        <translation>chaque document annulé prend trois attributs après &quot;number&quot; et &quot;totals&quot; : numéro de série, total et taux de taxe ; il y en a %1</translation>
+        <translation>chaque document annulé prend trois attributs après &quot;number&quot; et &quot;totals&quot;&#xa0;: numéro de série, total et taux de taxe&#xa0;; il y en a %1</translation>
     </message>
     <message>
         <source>&quot;number&quot; is %1, but the cancelled documents that are listed are %2</source>
@@ -535,7 +535,7 @@
     </message>
     <message>
         <source>no number: 0 is registered</source>
-        <translation>pas un nombre : 0 est enregistré</translation>
+        <translation>pas un nombre&#xa0;: 0 est enregistré</translation>
     </message>
     <message>
         <source>no plain number</source>
@@ -563,7 +563,7 @@
     </message>
     <message>
         <source>%1, a character without a shape; leave it out</source>
-        <translation>%1, un caractère sans forme ; retirez-le</translation>
+        <translation>%1, un caractère sans forme&#xa0;; retirez-le</translation>
     </message>
     <message>
         <source>%1 prints as %2</source>
@@ -603,7 +603,7 @@
     </message>
     <message>
         <source>it is written as %1; settings are written korvel: { doc: { paperWidth = &quot;32&quot;; }; };</source>
-        <translation>il est écrit en %1 ; les réglages s&apos;écrivent korvel: { doc: { paperWidth = &quot;32&quot;; }; };</translation>
+        <translation>il est écrit en %1&#xa0;; les réglages s&apos;écrivent korvel: { doc: { paperWidth = &quot;32&quot;; }; };</translation>
     </message>
     <message>
         <source>its first group is %1, not korvel%2</source>
@@ -631,31 +631,31 @@
     </message>
     <message>
         <source>%1 is %2: does the line end with ;?</source>
-        <translation>%1 est %2 : la ligne finit-elle par ; ?</translation>
+        <translation>%1 est %2&#xa0;: la ligne finit-elle par&#xa0;;&#xa0;?</translation>
     </message>
     <message>
         <source>; does the line end with ;?</source>
-        <translation>; la ligne finit-elle par ; ?</translation>
+        <translation>; la ligne finit-elle par&#xa0;;&#xa0;?</translation>
     </message>
     <message>
         <source>a } has no ; behind it: %1 is skipped</source>
-        <translation>il manque ; après un } : %1 est sauté</translation>
+        <translation>il manque&#xa0;; après un }&#xa0;: %1 est sauté</translation>
     </message>
     <message>
         <source>the group %1 is not closed: a }; is missing here</source>
-        <translation>le groupe %1 n&apos;est pas fermé : il manque }; ici</translation>
+        <translation>le groupe %1 n&apos;est pas fermé&#xa0;: il manque }; ici</translation>
     </message>
     <message>
         <source>the file ends inside the group %1: a }; is missing, if not more</source>
-        <translation>le fichier finit dans le groupe %1 : il manque au moins un };</translation>
+        <translation>le fichier finit dans le groupe %1&#xa0;: il manque au moins un };</translation>
     </message>
     <message>
         <source>a } closes %1 too early: what follows is not read</source>
-        <translation>un } ferme %1 trop tôt : la suite n&apos;est pas lue</translation>
+        <translation>un } ferme %1 trop tôt&#xa0;: la suite n&apos;est pas lue</translation>
     </message>
     <message>
         <source>a } closes nothing: what follows is not read</source>
-        <translation>un } ne ferme rien : la suite n&apos;est pas lue</translation>
+        <translation>un } ne ferme rien&#xa0;: la suite n&apos;est pas lue</translation>
     </message>
     <message>
         <source>the group %1 has no { behind its name</source>
@@ -663,11 +663,11 @@
     </message>
     <message>
         <source>the group %1 has no : behind its name%2</source>
-        <translation>le groupe %1 n&apos;a pas de : après son nom%2</translation>
+        <translation>le groupe %1 n&apos;a pas de&#xa0;: après son nom%2</translation>
     </message>
     <message>
         <source>the group %1 has neither : nor { behind its name%2</source>
-        <translation>le groupe %1 n&apos;a ni : ni { après son nom%2</translation>
+        <translation>le groupe %1 n&apos;a ni&#xa0;: ni { après son nom%2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; stands where the &quot;%2&quot; of %3 belongs</source>
@@ -679,11 +679,11 @@
     </message>
     <message>
         <source>%1: it is read as %2</source>
-        <translation>%1 : lu comme %2</translation>
+        <translation>%1&#xa0;: lu comme %2</translation>
     </message>
     <message>
         <source>a { too many: %1 has one already</source>
-        <translation>un { de trop : %1 en a déjà un</translation>
+        <translation>un { de trop&#xa0;: %1 en a déjà un</translation>
     </message>
     <message>
         <source>%1 has no = behind its name and is not read</source>
@@ -691,7 +691,7 @@
     </message>
     <message>
         <source>no name stands before the =: %1 is not read</source>
-        <translation>aucun nom ne précède le = : %1 n&apos;est pas lu</translation>
+        <translation>aucun nom ne précède le =&#xa0;: %1 n&apos;est pas lu</translation>
     </message>
     <message>
         <source>no catalogue is found as %1</source>
@@ -703,7 +703,7 @@
     </message>
     <message>
         <source>; letters beyond ASCII are misread: leave them out of paths</source>
-        <translation>; les lettres hors d&apos;ASCII sont mal lues : évitez-les dans les chemins</translation>
+        <translation>; les lettres hors d&apos;ASCII sont mal lues&#xa0;: évitez-les dans les chemins</translation>
     </message>
     <message>
         <source>; file must begin with a /</source>
@@ -711,15 +711,15 @@
     </message>
     <message>
         <source>the columns of the %1 leave no room for the description: the others and the blanks take %2 of %3 characters</source>
-        <translation>les colonnes du document (%1) ne laissent pas de place à la désignation : les autres et les espaces prennent %2 caractères sur %3</translation>
+        <translation>les colonnes du document (%1) ne laissent pas de place à la désignation&#xa0;: les autres et les espaces prennent %2 caractères sur %3</translation>
     </message>
     <message>
         <source>%1 is %2: the description of the %3 gets as many characters too many</source>
-        <translation>%1 est %2 : la désignation a autant de caractères en trop (%3)</translation>
+        <translation>%1 est %2&#xa0;: la désignation a autant de caractères en trop (%3)</translation>
     </message>
     <message>
         <source>paperWidth is %1: lines are wider than the printer&apos;s %2 characters</source>
-        <translation>paperWidth est %1 : les lignes sont plus larges que les %2 caractères de l&apos;imprimante</translation>
+        <translation>paperWidth est %1&#xa0;: les lignes sont plus larges que les %2 caractères de l&apos;imprimante</translation>
     </message>
     <message>
         <source>no document reads the group %1</source>
@@ -763,7 +763,7 @@
     </message>
     <message>
         <source>; does a } lack its ;?</source>
-        <translation>; manque-t-il son ; à un } ?</translation>
+        <translation>; manque-t-il son&#xa0;; à un }&#xa0;?</translation>
     </message>
     <message>
         <source>no document has such a group%1</source>
@@ -775,35 +775,35 @@
     </message>
     <message>
         <source>it is commented out; nothing else is lost by it, but deleting it is safer</source>
-        <translation>il est en commentaire ; rien d&apos;autre n&apos;est perdu, mais l&apos;effacer est plus sûr</translation>
+        <translation>il est en commentaire&#xa0;; rien d&apos;autre n&apos;est perdu, mais l&apos;effacer est plus sûr</translation>
     </message>
     <message>
         <source>nothing of the file is read: %1</source>
-        <translation>rien du fichier n&apos;est lu : %1</translation>
+        <translation>rien du fichier n&apos;est lu&#xa0;: %1</translation>
     </message>
     <message>
         <source>nothing of the file is read: %1; save it as plain ASCII</source>
-        <translation>rien du fichier n&apos;est lu : %1 ; enregistrez-le en ASCII simple</translation>
+        <translation>rien du fichier n&apos;est lu&#xa0;: %1&#xa0;; enregistrez-le en ASCII simple</translation>
     </message>
     <message>
         <source>%1 is read as part of what follows: %2 is lost; there are no comments</source>
-        <translation>%1 est lu comme partie de ce qui suit : %2 est perdu ; il n&apos;y a pas de commentaires</translation>
+        <translation>%1 est lu comme partie de ce qui suit&#xa0;: %2 est perdu&#xa0;; il n&apos;y a pas de commentaires</translation>
     </message>
     <message>
         <source>%1: its settings are lost%2</source>
-        <translation>%1 : ses réglages sont perdus%2</translation>
+        <translation>%1&#xa0;: ses réglages sont perdus%2</translation>
     </message>
     <message>
         <source>labels stay English: %1</source>
-        <translation>les libellés restent en anglais : %1</translation>
+        <translation>les libellés restent en anglais&#xa0;: %1</translation>
     </message>
     <message>
         <source>nothing reads %1: %2</source>
-        <translation>rien ne lit %1 : %2</translation>
+        <translation>rien ne lit %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 stands here a second time: %2</source>
-        <translation>%1 se trouve ici une deuxième fois : %2</translation>
+        <translation>%1 se trouve ici une deuxième fois&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 is %2 and counts as off%3</source>
@@ -815,7 +815,7 @@
     </message>
     <message>
         <source>all documents but %1</source>
-        <translation>tous les documents sauf : %1</translation>
+        <translation>tous les documents sauf&#xa0;: %1</translation>
     </message>
     <message>
         <source>a %1 of %2 characters is wider than the paper (%3)</source>
@@ -823,11 +823,11 @@
     </message>
     <message>
         <source>the stream is empty: nothing is printed</source>
-        <translation>le flux est vide : rien n&apos;est imprimé</translation>
+        <translation>le flux est vide&#xa0;: rien n&apos;est imprimé</translation>
     </message>
     <message>
         <source>the %1 opened here is never closed</source>
-        <translation>%1 : ouverture ici, jamais de fermeture</translation>
+        <translation>%1&#xa0;: ouverture ici, jamais de fermeture</translation>
     </message>
     <message>
         <source>the %1 opened at byte %2 is still open where the %3 is opened</source>
@@ -835,7 +835,7 @@
     </message>
     <message>
         <source>the %1 is closed but not open</source>
-        <translation>%1 : fermeture sans ouverture</translation>
+        <translation>%1&#xa0;: fermeture sans ouverture</translation>
     </message>
     <message>
         <source>a %1 outside a fiscal section</source>
@@ -851,7 +851,7 @@
     </message>
     <message>
         <source>the %1 is too large for the preview to add up</source>
-        <translation>%1 : trop grand pour être additionné</translation>
+        <translation>%1&#xa0;: trop grand pour être additionné</translation>
     </message>
     <message>
         <source>a &quot;%1&quot; inside a text ends it early</source>
@@ -875,19 +875,19 @@
     </message>
     <message>
         <source>broken %1: %2 does not belong here</source>
-        <translation>%1, avec une erreur : %2 n&apos;a rien à faire ici</translation>
+        <translation>%1, avec une erreur&#xa0;: %2 n&apos;a rien à faire ici</translation>
     </message>
     <message>
         <source>unterminated %1 that begins at byte %2: the stream ends here</source>
-        <translation>%1, incomplet (octet %2) : le flux s&apos;arrête ici</translation>
+        <translation>%1, incomplet (octet %2)&#xa0;: le flux s&apos;arrête ici</translation>
     </message>
     <message>
         <source>too much is wrong; no more is listed</source>
-        <translation>trop d&apos;erreurs ; la suite n&apos;est pas énumérée</translation>
+        <translation>trop d&apos;erreurs&#xa0;; la suite n&apos;est pas énumérée</translation>
     </message>
     <message>
         <source>too much is odd; no more is listed</source>
-        <translation>trop de bizarreries ; la suite n&apos;est pas énumérée</translation>
+        <translation>trop de bizarreries&#xa0;; la suite n&apos;est pas énumérée</translation>
     </message>
     <message>
         <source>line</source>
@@ -931,11 +931,11 @@
     </message>
     <message>
         <source>unknown command that begins at byte %1: the stream ends here</source>
-        <translation>commande inconnue (octet %1) : le flux s&apos;arrête ici</translation>
+        <translation>commande inconnue (octet %1)&#xa0;: le flux s&apos;arrête ici</translation>
     </message>
     <message>
         <source>unknown command: %1 does not belong here</source>
-        <translation>commande inconnue : %1 n&apos;a rien à faire ici</translation>
+        <translation>commande inconnue&#xa0;: %1 n&apos;a rien à faire ici</translation>
     </message>
 </context>
 <context>
@@ -1363,6 +1363,10 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
     <message>
         <source>Read by nothing (%1)</source>
         <translation>Lu par rien (%1)</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Enregistré : %1</translation>
     </message>
 </context>
 <context>

@@ -1364,6 +1364,10 @@ Iniziare con le impostazioni di esempio?</translation>
         <source>Read by nothing (%1)</source>
         <translation>Non letto da nulla (%1)</translation>
     </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Salvato: %1</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::State</name>
