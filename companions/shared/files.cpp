@@ -77,7 +77,7 @@ QString remarkOnMissingSettings()
     if (korvel::path::kindOf(path) != korvel::path::Kind::Nothing)
         return {};
     return u"there are no settings in "_s + path
-           + u"; this takes the sample shop's: install -bDm644 "_s + QStringLiteral(KORVEL_SAMPLE)
+           + u"; this takes the sample shop's: install -Dm644 "_s + QStringLiteral(KORVEL_SAMPLE)
            + u" ~"_s + korvel::path::settingsInHome;
 }
 

@@ -129,7 +129,7 @@ private slots:
         };
         const QByteArray remark = "korvel-check: there are no settings in "
                                   + desk.path("nobody/.korvel/conf/korvel.conf").toUtf8()
-                                  + "; this takes the sample shop's: install -bDm644 /";
+                                  + "; this takes the sample shop's: install -Dm644 /";
         const QByteArray command = "/share/korvel-print/korvel.conf ~/.korvel/conf/korvel.conf\n";
         const Run clean = run({"clean.xml"});
         QVERIFY2(clean.standardError.startsWith(remark), clean.standardError.constData());

@@ -93,7 +93,7 @@ private slots:
         const QByteArray note = "korvel-preview: shown by the sample shop's settings: there are no "
                                 "settings in "
                                 + shop.settings().toUtf8()
-                                + "; this takes the sample shop's: install -bDm644 /";
+                                + "; this takes the sample shop's: install -Dm644 /";
         const QByteArray command = "/share/korvel-print/korvel.conf ~/.korvel/conf/korvel.conf\n";
 
         const Run bySample = shop.run({"job.xml"});
