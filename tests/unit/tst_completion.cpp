@@ -17,7 +17,7 @@ const QStringList programs = {
 };
 // clang-format on
 
-QStringList sorted(QStringList list)
+QStringList inOrder(QStringList list)
 {
     list.sort();
     return list;
@@ -34,7 +34,7 @@ QStringList optionsInTheHelp(const QString &program)
         for (const QString &spelling : {match.captured(1), match.captured(2)})
             if (!spelling.isEmpty())
                 options.append(spelling);
-    return sorted(options);
+    return inOrder(options);
 }
 
 class TestCompletion : public QObject
@@ -151,7 +151,7 @@ private:
             _korvel "${COMP_WORDS[0]}" "${COMP_WORDS[-1]}" "${COMP_WORDS[-2]}"
             printf '%s\n' "${COMPREPLY[@]}")"},
                                    {home.path(), variables, {}});
-        return sorted(QString::fromUtf8(run.standardOutput).split('\n', Qt::SkipEmptyParts));
+        return inOrder(QString::fromUtf8(run.standardOutput).split('\n', Qt::SkipEmptyParts));
     }
 
     const QTemporaryDir data;
