@@ -35,10 +35,11 @@ set(KORVEL_TEST_ENVIRONMENT
 
 # Optimised is what is tested, not the test.
 add_library(korvel-test-options INTERFACE)
-target_link_libraries(korvel-test-options INTERFACE korvel-warnings)
+target_link_libraries(korvel-test-options INTERFACE korvel-warnings korvel-test-macros)
 target_compile_options(korvel-test-options INTERFACE $<$<CONFIG:Release>:-O1>)
-if(Qt6_VERSION VERSION_GREATER_EQUAL 6.7) # whose macros convert what they count
-    target_compile_options(korvel-test-options INTERFACE -Wno-conversion)
+add_library(korvel-test-macros INTERFACE) # whose options stand behind those of the warnings
+if(Qt6_VERSION VERSION_GREATER_EQUAL 6.7) # its macros convert what they count
+    target_compile_options(korvel-test-macros INTERFACE -Wno-conversion)
 endif()
 
 # Most of a test's time in the compiler goes into the toolkit's headers: they are compiled once, for
