@@ -39,7 +39,7 @@ constexpr Field rows[] = {
     {key::printLicenseNumber,   Section::Customer, QT_TRANSLATE_NOOP("fields", "license number")},
     {key::printFiscalCode,      Section::Customer, QT_TRANSLATE_NOOP("fields", "fiscal code")},
 
-    {language::file,    Section::Language, QT_TRANSLATE_NOOP("fields", "catalogue")},
+    {language::file,    Section::Language, QT_TRANSLATE_NOOP("fields", "language of the labels")},
     {language::basedir, Section::Language, QT_TRANSLATE_NOOP("fields", "folder of the catalogues")},
 
     {key::paperRows,      Section::NoEffect, QT_TRANSLATE_NOOP("fields", "rows of a page")},

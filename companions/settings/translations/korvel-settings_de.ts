@@ -143,8 +143,8 @@
         <translation>Steuernummer</translation>
     </message>
     <message>
-        <source>catalogue</source>
-        <translation>Katalog</translation>
+        <source>language of the labels</source>
+        <translation>Sprache der Beschriftungen</translation>
     </message>
     <message>
         <source>folder of the catalogues</source>

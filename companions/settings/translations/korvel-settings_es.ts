@@ -143,8 +143,8 @@
         <translation>código fiscal</translation>
     </message>
     <message>
-        <source>catalogue</source>
-        <translation>catálogo</translation>
+        <source>language of the labels</source>
+        <translation>idioma de las etiquetas</translation>
     </message>
     <message>
         <source>folder of the catalogues</source>

@@ -143,8 +143,8 @@
         <translation>code fiscal</translation>
     </message>
     <message>
-        <source>catalogue</source>
-        <translation>fichier de traduction</translation>
+        <source>language of the labels</source>
+        <translation>langue des libellés</translation>
     </message>
     <message>
         <source>folder of the catalogues</source>

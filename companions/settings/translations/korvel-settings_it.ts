@@ -143,8 +143,8 @@
         <translation>codice fiscale</translation>
     </message>
     <message>
-        <source>catalogue</source>
-        <translation>catalogo</translation>
+        <source>language of the labels</source>
+        <translation>lingua delle etichette</translation>
     </message>
     <message>
         <source>folder of the catalogues</source>
