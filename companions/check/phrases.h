@@ -31,6 +31,8 @@ inline constexpr Phrase namelessInstruction{
 inline constexpr Phrase noName{QT_TRANSLATE_NOOP("findings", "\"%1\" is no name")};
 inline constexpr Phrase otherVersion{
     QT_TRANSLATE_NOOP("findings", "XML %1 is not read; write 1.0")};
+inline constexpr Phrase notWellFormed{QT_TRANSLATE_NOOP("findings", "this is not well-formed")};
+inline constexpr Phrase characterOrNumber{QT_TRANSLATE_NOOP("findings", "\"%1\" or %2")};
 
 // Encoding
 inline constexpr Phrase otherEncoding{QT_TRANSLATE_NOOP(

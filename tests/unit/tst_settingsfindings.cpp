@@ -10,6 +10,8 @@
 
 #include <QTranslator>
 
+#include <algorithm>
+
 namespace tst_settingsfindings {
 
 using namespace korvel;
@@ -97,6 +99,61 @@ private slots:
                         "ist \"receipe\" gemeint?"));
     }
 
+    void aJobThatIsNotWellFormed()
+    {
+        const Language german("de");
+        const TemporaryHome home(example("korvel.conf"));
+        const QString path = home.path() + "/job.xml";
+        writeFile(path, "<printjob>\n<method name=\"printFullOrderReceipt\"/>\n"
+                        "<receipe number=\"1\" name=\"Caf&eacute;\" price=\"2.00\"/>\n"
+                        "</printjob>\n");
+        Editor editor(home.settingsPath());
+        answers.give({path});
+        editor.shortcut(Qt::Key_J);
+        QTRY_VERIFY_WITH_TIMEOUT(!editor.findings().isEmpty(), longEnough);
+        QCOMPARE(editor.findings().constFirst(),
+                 QString("Auftrag, Zeile 3: XML kennt &eacute; nicht; \"é\" oder &#233; schreiben: "
+                         "hinter dieser Stelle wurde nichts geprüft"));
+    }
+
+    void malformedXml_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QByteArray>("job");
+        QTest::addColumn<QString>("words");
+
+        const QByteArray method = "<printjob><method name=\"printFullOrderReceipt\"/>";
+        const QByteArray unquoted = method + "<receipe number=1/></printjob>";
+        QTest::newRow("German") << "de" << unquoted
+                                << "ein Wert ohne Anführungszeichen; \"1\" schreiben: ";
+        QTest::newRow("Spanish") << "es" << unquoted << "un valor sin comillas; escriba \"1\": ";
+        QTest::newRow("French") << "fr" << unquoted
+                                << "une valeur sans guillemets\u00a0; écrivez \"1\"\u00a0: ";
+        QTest::newRow("Italian") << "it" << unquoted
+                                 << "un valore senza virgolette; scrivere \"1\": ";
+        QTest::newRow("another end tag")
+            << "de" << method + "<block>\n</blok></printjob>"
+            << "</blok>, wo <block> aus Zeile 1 geschlossen werden muss: ";
+        QTest::newRow("a character")
+            << "de" << method + "<receipe number=\"1\"; price=\"2\"/></printjob>"
+            << "\";\" kann nicht hinter einem Wert stehen; Attribute trennen nur Leerzeichen: ";
+    }
+
+    void malformedXml()
+    {
+        QFETCH(QString, language);
+        QFETCH(QByteArray, job);
+        QFETCH(QString, words);
+        const Language translated(language);
+        const QList<check::Finding> found = check::checkJob(job, nullptr);
+        const auto fault =
+            std::find_if(found.begin(), found.end(), [](const check::Finding &finding) {
+                return finding.code == check::Code::MalformedXml;
+            });
+        QVERIFY(fault != found.end());
+        QVERIFY2(fault->text.startsWith(words), qPrintable(fault->text));
+    }
+
     /// Whatever is found goes through the catalogue.
     void allWordsAreAskedFor_data()
     {
@@ -118,8 +175,12 @@ private slots:
             const QList<check::Finding> found =
                 name.endsWith(".conf") ? check::checkSettings(check::SettingsFile(bytes))
                                        : check::checkJob(bytes, nullptr);
-            for (const check::Finding &finding : found)
-                QVERIFY2(finding.text.contains("[["), qPrintable(name + ": " + finding.text));
+            for (const check::Finding &finding : found) {
+                // what is wrong with the XML is a text of its own, in front of the wording's
+                const bool isXml = finding.code == check::Code::MalformedXml;
+                QVERIFY2(finding.text.contains(isXml ? "[[[[" : "[["),
+                         qPrintable(name + ": " + finding.text));
+            }
         }
     }
 

@@ -937,6 +937,278 @@
         <source>unknown command: %1 does not belong here</source>
         <translation>unbekannter Befehl: %1 gehört nicht hierher</translation>
     </message>
+    <message>
+        <source>this is not well-formed</source>
+        <translation>dies ist kein wohlgeformtes XML</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; or %2</source>
+        <translation>&quot;%1&quot; oder %2</translation>
+    </message>
+    <message>
+        <source>XML forbids the character {character}</source>
+        <translation>XML verbietet das Zeichen {character}</translation>
+    </message>
+    <message>
+        <source>&quot;&amp;&quot; begins no reference; write &amp;amp;</source>
+        <translation>&quot;&amp;&quot; beginnt keinen Verweis; &amp;amp; schreiben</translation>
+    </message>
+    <message>
+        <source>&quot;&amp;&quot; begins a reference without its &quot;;&quot;; write &amp;amp;, or end the reference</source>
+        <translation>&quot;&amp;&quot; beginnt einen Verweis, dem das &quot;;&quot; fehlt; &amp;amp; schreiben oder den Verweis beenden</translation>
+    </message>
+    <message>
+        <source>the value that begins here has no closing quote, or a &quot;&lt;&quot;; for that write &amp;lt;</source>
+        <translation>dem Wert, der hier beginnt, fehlt das schließende Anführungszeichen, oder er enthält ein &quot;&lt;&quot;; dafür &amp;lt; schreiben</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;&quot; in a value; write &amp;lt;, or end the value with its quote</source>
+        <translation>&quot;&lt;&quot; in einem Wert; &amp;lt; schreiben oder den Wert mit seinem Anführungszeichen beenden</translation>
+    </message>
+    <message>
+        <source>&quot;--&quot; in a comment; write a single -</source>
+        <translation>&quot;--&quot; in einem Kommentar; ein einzelnes - schreiben</translation>
+    </message>
+    <message>
+        <source>a comment begins with &lt;!--</source>
+        <translation>ein Kommentar beginnt mit &lt;!--</translation>
+    </message>
+    <message>
+        <source>&quot;]]&gt;&quot; in a text; write ]]&amp;gt;</source>
+        <translation>&quot;]]&gt;&quot; in einem Text; ]]&amp;gt; schreiben</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;/&quot; without a name</source>
+        <translation>&quot;&lt;/&quot; ohne einen Namen</translation>
+    </message>
+    <message>
+        <source>an end tag where no element is open</source>
+        <translation>ein End-Tag, wo kein Element offen ist</translation>
+    </message>
+    <message>
+        <source>an XML declaration begins with &lt;?xml, in small letters</source>
+        <translation>eine XML-Deklaration beginnt mit &lt;?xml in Kleinbuchstaben</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;?&quot; without a name</source>
+        <translation>&quot;&lt;?&quot; ohne einen Namen</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;!&quot; begins no comment and no CDATA section</source>
+        <translation>&quot;&lt;!&quot; beginnt weder einen Kommentar noch einen CDATA-Abschnitt</translation>
+    </message>
+    <message>
+        <source>a blank behind &quot;&lt;&quot;; the name of a tag stands right behind it</source>
+        <translation>ein Leerzeichen hinter &quot;&lt;&quot;; der Name eines Tags steht direkt dahinter</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;&quot; begins no tag; write &amp;lt;</source>
+        <translation>&quot;&lt;&quot; beginnt kein Tag; &amp;lt; schreiben</translation>
+    </message>
+    <message>
+        <source>{character} is no quote to XML; write &quot; or &apos;</source>
+        <translation>{character} ist für XML kein Anführungszeichen; &quot; oder &apos; schreiben</translation>
+    </message>
+    <message>
+        <source>a value without quotes; write {value}</source>
+        <translation>ein Wert ohne Anführungszeichen; {value} schreiben</translation>
+    </message>
+    <message>
+        <source>the tag that begins here has no &quot;&gt;&quot;</source>
+        <translation>dem Tag, das hier beginnt, fehlt das &quot;&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>{character} behind the name of an end tag, which has nothing else</source>
+        <translation>{character} hinter dem Namen eines End-Tags, das sonst nichts enthält</translation>
+    </message>
+    <message>
+        <source>&quot;/&quot; in a tag without a &quot;&gt;&quot; behind it</source>
+        <translation>&quot;/&quot; in einem Tag ohne ein &quot;&gt;&quot; dahinter</translation>
+    </message>
+    <message>
+        <source>the value that begins here has no closing quote</source>
+        <translation>dem Wert, der hier beginnt, fehlt das schließende Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>no blank between a value and the next attribute</source>
+        <translation>kein Leerzeichen zwischen einem Wert und dem nächsten Attribut</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; a tag without content ends with /&gt;</source>
+        <translation>{character} kann nicht hinter einem Wert stehen; ein Tag ohne Inhalt endet mit /&gt;</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; blanks alone part attributes</source>
+        <translation>{character} kann nicht hinter einem Wert stehen; Attribute trennen nur Leerzeichen</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; for a &apos; in a value write &amp;apos;</source>
+        <translation>{character} kann nicht hinter einem Wert stehen; für ein &apos; in einem Wert &amp;apos; schreiben</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; for a quote in a value write &amp;quot;</source>
+        <translation>{character} kann nicht hinter einem Wert stehen; für ein Anführungszeichen in einem Wert &amp;quot; schreiben</translation>
+    </message>
+    <message>
+        <source>a value without a &quot;=&quot; before it</source>
+        <translation>ein Wert ohne ein &quot;=&quot; davor</translation>
+    </message>
+    <message>
+        <source>an attribute without a value</source>
+        <translation>ein Attribut ohne Wert</translation>
+    </message>
+    <message>
+        <source>{character} cannot begin a name</source>
+        <translation>{character} kann keinen Namen beginnen</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand in a name</source>
+        <translation>{character} kann nicht in einem Namen stehen</translation>
+    </message>
+    <message>
+        <source>a text outside the root</source>
+        <translation>ein Text außerhalb des Wurzelelements</translation>
+    </message>
+    <message>
+        <source>&amp;{name}; stands for what is not well-formed</source>
+        <translation>&amp;{name}; steht für etwas, das nicht wohlgeformt ist</translation>
+    </message>
+    <message>
+        <source>an entity in this tag stands for what is not well-formed</source>
+        <translation>eine Entität in diesem Tag steht für etwas, das nicht wohlgeformt ist</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand here</source>
+        <translation>{character} kann hier nicht stehen</translation>
+    </message>
+    <message>
+        <source>a comment without its &quot;--&gt;&quot;</source>
+        <translation>ein Kommentar ohne sein &quot;--&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>an XML declaration without its &quot;?&gt;&quot;</source>
+        <translation>eine XML-Deklaration ohne ihr &quot;?&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>an instruction without its &quot;?&gt;&quot;</source>
+        <translation>eine Anweisung ohne ihr &quot;?&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>a tag without its &quot;&gt;&quot;, or with a quote too few</source>
+        <translation>ein Tag ohne sein &quot;&gt;&quot;, oder mit einem Anführungszeichen zu wenig</translation>
+    </message>
+    <message>
+        <source>what begins here does not end</source>
+        <translation>was hier beginnt, endet nicht</translation>
+    </message>
+    <message>
+        <source>a CDATA section without its &quot;]]&gt;&quot;</source>
+        <translation>ein CDATA-Abschnitt ohne sein &quot;]]&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>&lt;{open}&gt; is never closed; write &lt;/{open}&gt; where it ends, or /&gt; in place of its &gt;</source>
+        <translation>&lt;{open}&gt; wird nie geschlossen; am Ende &lt;/{open}&gt; schreiben, oder /&gt; anstelle seines &gt;</translation>
+    </message>
+    <message>
+        <source>there is no element</source>
+        <translation>es gibt kein Element</translation>
+    </message>
+    <message>
+        <source>&lt;/{name}&gt; where &lt;{open}&gt; of line {line} must be closed</source>
+        <translation>&lt;/{name}&gt;, wo &lt;{open}&gt; aus Zeile {line} geschlossen werden muss</translation>
+    </message>
+    <message>
+        <source>an end tag of an entity closes another element</source>
+        <translation>ein End-Tag einer Entität schließt ein anderes Element</translation>
+    </message>
+    <message>
+        <source>an entity with a start tag or an end tag alone</source>
+        <translation>eine Entität, die nur ein Start-Tag oder nur ein End-Tag enthält</translation>
+    </message>
+    <message>
+        <source>a second root; one element must hold all others</source>
+        <translation>ein zweites Wurzelelement; ein Element muss alle anderen umschließen</translation>
+    </message>
+    <message>
+        <source>a declaration or a section behind the end of the root</source>
+        <translation>eine Deklaration oder ein Abschnitt hinter dem Ende des Wurzelelements</translation>
+    </message>
+    <message>
+        <source>the XML declaration is not the first in the file; nothing may stand before it, no blank either</source>
+        <translation>die XML-Deklaration steht nicht am Anfang der Datei; davor darf nichts stehen, auch kein Leerzeichen</translation>
+    </message>
+    <message>
+        <source>this is no XML declaration; write &lt;?xml version=&quot;1.0&quot; encoding=&quot;UTF-8&quot;?&gt;</source>
+        <translation>dies ist keine XML-Deklaration; &lt;?xml version=&quot;1.0&quot; encoding=&quot;UTF-8&quot;?&gt; schreiben</translation>
+    </message>
+    <message>
+        <source>an attribute stands twice: &quot;{name}&quot;</source>
+        <translation>ein Attribut steht doppelt: &quot;{name}&quot;</translation>
+    </message>
+    <message>
+        <source>an attribute stands twice, in an entity</source>
+        <translation>ein Attribut steht doppelt, in einer Entität</translation>
+    </message>
+    <message>
+        <source>&amp;{name}; leads to no entity that is declared; write the character itself</source>
+        <translation>&amp;{name}; führt zu keiner Entität, die deklariert ist; das Zeichen selbst schreiben</translation>
+    </message>
+    <message>
+        <source>XML does not know &amp;{name};; write {written}</source>
+        <translation>XML kennt &amp;{name}; nicht; {written} schreiben</translation>
+    </message>
+    <message>
+        <source>XML does not know &amp;{name};, only &amp;amp; &amp;lt; &amp;gt; &amp;quot; &amp;apos;; write &amp;amp; for a plain &quot;&amp;&quot;</source>
+        <translation>XML kennt &amp;{name}; nicht, nur &amp;amp; &amp;lt; &amp;gt; &amp;quot; &amp;apos;; für ein einfaches &quot;&amp;&quot; &amp;amp; schreiben</translation>
+    </message>
+    <message>
+        <source>an entity that is not declared</source>
+        <translation>eine Entität, die nicht deklariert ist</translation>
+    </message>
+    <message>
+        <source>&amp;{name}; is no character that XML allows</source>
+        <translation>&amp;{name}; ist kein Zeichen, das XML erlaubt</translation>
+    </message>
+    <message>
+        <source>a reference to what is no character</source>
+        <translation>ein Verweis auf etwas, das kein Zeichen ist</translation>
+    </message>
+    <message>
+        <source>an entity that refers to itself</source>
+        <translation>eine Entität, die auf sich selbst verweist</translation>
+    </message>
+    <message>
+        <source>an entity that is no text</source>
+        <translation>eine Entität, die kein Text ist</translation>
+    </message>
+    <message>
+        <source>an entity of another file in a value</source>
+        <translation>eine Entität aus einer anderen Datei in einem Wert</translation>
+    </message>
+    <message>
+        <source>a parameter entity cannot stand here</source>
+        <translation>eine Parameterentität kann hier nicht stehen</translation>
+    </message>
+    <message>
+        <source>a parameter entity that is no whole declaration</source>
+        <translation>eine Parameterentität, die keine vollständige Deklaration ist</translation>
+    </message>
+    <message>
+        <source>an entity that a parameter entity declares</source>
+        <translation>eine Entität, die von einer Parameterentität deklariert wird</translation>
+    </message>
+    <message>
+        <source>a public identifier with a character that it cannot have</source>
+        <translation>ein öffentlicher Bezeichner mit einem Zeichen, das er nicht enthalten darf</translation>
+    </message>
+    <message>
+        <source>entities that make too much text</source>
+        <translation>Entitäten, die zu viel Text ergeben</translation>
+    </message>
+    <message>
+        <source>more than the memory can hold</source>
+        <translation>mehr, als der Speicher fassen kann</translation>
+    </message>
 </context>
 <context>
     <name>jobs</name>

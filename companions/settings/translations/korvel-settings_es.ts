@@ -937,6 +937,278 @@
         <source>unknown command: %1 does not belong here</source>
         <translation>orden desconocida: %1 no va aquí</translation>
     </message>
+    <message>
+        <source>this is not well-formed</source>
+        <translation>esto no es XML bien formado</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; or %2</source>
+        <translation>&quot;%1&quot; o %2</translation>
+    </message>
+    <message>
+        <source>XML forbids the character {character}</source>
+        <translation>XML prohíbe el carácter {character}</translation>
+    </message>
+    <message>
+        <source>&quot;&amp;&quot; begins no reference; write &amp;amp;</source>
+        <translation>&quot;&amp;&quot; no empieza ninguna referencia; escriba &amp;amp;</translation>
+    </message>
+    <message>
+        <source>&quot;&amp;&quot; begins a reference without its &quot;;&quot;; write &amp;amp;, or end the reference</source>
+        <translation>&quot;&amp;&quot; empieza una referencia a la que le falta el &quot;;&quot;; escriba &amp;amp;, o termine la referencia</translation>
+    </message>
+    <message>
+        <source>the value that begins here has no closing quote, or a &quot;&lt;&quot;; for that write &amp;lt;</source>
+        <translation>al valor que empieza aquí le falta la comilla de cierre, o contiene un &quot;&lt;&quot;; en su lugar escriba &amp;lt;</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;&quot; in a value; write &amp;lt;, or end the value with its quote</source>
+        <translation>&quot;&lt;&quot; en un valor; escriba &amp;lt;, o termine el valor con su comilla</translation>
+    </message>
+    <message>
+        <source>&quot;--&quot; in a comment; write a single -</source>
+        <translation>&quot;--&quot; en un comentario; escriba un solo -</translation>
+    </message>
+    <message>
+        <source>a comment begins with &lt;!--</source>
+        <translation>un comentario empieza por &lt;!--</translation>
+    </message>
+    <message>
+        <source>&quot;]]&gt;&quot; in a text; write ]]&amp;gt;</source>
+        <translation>&quot;]]&gt;&quot; en un texto; escriba ]]&amp;gt;</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;/&quot; without a name</source>
+        <translation>&quot;&lt;/&quot; sin un nombre</translation>
+    </message>
+    <message>
+        <source>an end tag where no element is open</source>
+        <translation>una etiqueta de cierre donde no hay ningún elemento abierto</translation>
+    </message>
+    <message>
+        <source>an XML declaration begins with &lt;?xml, in small letters</source>
+        <translation>una declaración XML empieza por &lt;?xml, en minúsculas</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;?&quot; without a name</source>
+        <translation>&quot;&lt;?&quot; sin un nombre</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;!&quot; begins no comment and no CDATA section</source>
+        <translation>&quot;&lt;!&quot; no empieza ni un comentario ni una sección CDATA</translation>
+    </message>
+    <message>
+        <source>a blank behind &quot;&lt;&quot;; the name of a tag stands right behind it</source>
+        <translation>un espacio detrás de &quot;&lt;&quot;; el nombre de una etiqueta va justo detrás</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;&quot; begins no tag; write &amp;lt;</source>
+        <translation>&quot;&lt;&quot; no empieza ninguna etiqueta; escriba &amp;lt;</translation>
+    </message>
+    <message>
+        <source>{character} is no quote to XML; write &quot; or &apos;</source>
+        <translation>{character} no es una comilla para XML; escriba &quot; o &apos;</translation>
+    </message>
+    <message>
+        <source>a value without quotes; write {value}</source>
+        <translation>un valor sin comillas; escriba {value}</translation>
+    </message>
+    <message>
+        <source>the tag that begins here has no &quot;&gt;&quot;</source>
+        <translation>a la etiqueta que empieza aquí le falta el &quot;&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>{character} behind the name of an end tag, which has nothing else</source>
+        <translation>{character} detrás del nombre de una etiqueta de cierre, que no lleva nada más</translation>
+    </message>
+    <message>
+        <source>&quot;/&quot; in a tag without a &quot;&gt;&quot; behind it</source>
+        <translation>&quot;/&quot; en una etiqueta sin un &quot;&gt;&quot; detrás</translation>
+    </message>
+    <message>
+        <source>the value that begins here has no closing quote</source>
+        <translation>al valor que empieza aquí le falta la comilla de cierre</translation>
+    </message>
+    <message>
+        <source>no blank between a value and the next attribute</source>
+        <translation>no hay ningún espacio entre un valor y el atributo siguiente</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; a tag without content ends with /&gt;</source>
+        <translation>{character} no puede ir detrás de un valor; una etiqueta sin contenido termina en /&gt;</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; blanks alone part attributes</source>
+        <translation>{character} no puede ir detrás de un valor; los atributos se separan solo con espacios</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; for a &apos; in a value write &amp;apos;</source>
+        <translation>{character} no puede ir detrás de un valor; para un &apos; en un valor escriba &amp;apos;</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; for a quote in a value write &amp;quot;</source>
+        <translation>{character} no puede ir detrás de un valor; para una comilla en un valor escriba &amp;quot;</translation>
+    </message>
+    <message>
+        <source>a value without a &quot;=&quot; before it</source>
+        <translation>un valor sin un &quot;=&quot; delante</translation>
+    </message>
+    <message>
+        <source>an attribute without a value</source>
+        <translation>un atributo sin valor</translation>
+    </message>
+    <message>
+        <source>{character} cannot begin a name</source>
+        <translation>{character} no puede empezar un nombre</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand in a name</source>
+        <translation>{character} no puede estar en un nombre</translation>
+    </message>
+    <message>
+        <source>a text outside the root</source>
+        <translation>un texto fuera del elemento raíz</translation>
+    </message>
+    <message>
+        <source>&amp;{name}; stands for what is not well-formed</source>
+        <translation>&amp;{name}; representa algo que no está bien formado</translation>
+    </message>
+    <message>
+        <source>an entity in this tag stands for what is not well-formed</source>
+        <translation>una entidad de esta etiqueta representa algo que no está bien formado</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand here</source>
+        <translation>{character} no puede estar aquí</translation>
+    </message>
+    <message>
+        <source>a comment without its &quot;--&gt;&quot;</source>
+        <translation>un comentario sin su &quot;--&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>an XML declaration without its &quot;?&gt;&quot;</source>
+        <translation>una declaración XML sin su &quot;?&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>an instruction without its &quot;?&gt;&quot;</source>
+        <translation>una instrucción sin su &quot;?&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>a tag without its &quot;&gt;&quot;, or with a quote too few</source>
+        <translation>una etiqueta sin su &quot;&gt;&quot;, o con una comilla de menos</translation>
+    </message>
+    <message>
+        <source>what begins here does not end</source>
+        <translation>lo que empieza aquí no termina</translation>
+    </message>
+    <message>
+        <source>a CDATA section without its &quot;]]&gt;&quot;</source>
+        <translation>una sección CDATA sin su &quot;]]&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>&lt;{open}&gt; is never closed; write &lt;/{open}&gt; where it ends, or /&gt; in place of its &gt;</source>
+        <translation>&lt;{open}&gt; nunca se cierra; escriba &lt;/{open}&gt; donde termina, o /&gt; en lugar de su &gt;</translation>
+    </message>
+    <message>
+        <source>there is no element</source>
+        <translation>no hay ningún elemento</translation>
+    </message>
+    <message>
+        <source>&lt;/{name}&gt; where &lt;{open}&gt; of line {line} must be closed</source>
+        <translation>&lt;/{name}&gt; donde hay que cerrar el &lt;{open}&gt; de la línea {line}</translation>
+    </message>
+    <message>
+        <source>an end tag of an entity closes another element</source>
+        <translation>una etiqueta de cierre de una entidad cierra otro elemento</translation>
+    </message>
+    <message>
+        <source>an entity with a start tag or an end tag alone</source>
+        <translation>una entidad con solo una etiqueta de apertura o solo una de cierre</translation>
+    </message>
+    <message>
+        <source>a second root; one element must hold all others</source>
+        <translation>un segundo elemento raíz; un solo elemento debe contener todos los demás</translation>
+    </message>
+    <message>
+        <source>a declaration or a section behind the end of the root</source>
+        <translation>una declaración o una sección detrás del final del elemento raíz</translation>
+    </message>
+    <message>
+        <source>the XML declaration is not the first in the file; nothing may stand before it, no blank either</source>
+        <translation>la declaración XML no es lo primero del archivo; nada puede ir delante, ni siquiera un espacio</translation>
+    </message>
+    <message>
+        <source>this is no XML declaration; write &lt;?xml version=&quot;1.0&quot; encoding=&quot;UTF-8&quot;?&gt;</source>
+        <translation>esto no es una declaración XML; escriba &lt;?xml version=&quot;1.0&quot; encoding=&quot;UTF-8&quot;?&gt;</translation>
+    </message>
+    <message>
+        <source>an attribute stands twice: &quot;{name}&quot;</source>
+        <translation>un atributo está dos veces: &quot;{name}&quot;</translation>
+    </message>
+    <message>
+        <source>an attribute stands twice, in an entity</source>
+        <translation>un atributo está dos veces, en una entidad</translation>
+    </message>
+    <message>
+        <source>&amp;{name}; leads to no entity that is declared; write the character itself</source>
+        <translation>&amp;{name}; no lleva a ninguna entidad declarada; escriba el propio carácter</translation>
+    </message>
+    <message>
+        <source>XML does not know &amp;{name};; write {written}</source>
+        <translation>XML no conoce &amp;{name};; escriba {written}</translation>
+    </message>
+    <message>
+        <source>XML does not know &amp;{name};, only &amp;amp; &amp;lt; &amp;gt; &amp;quot; &amp;apos;; write &amp;amp; for a plain &quot;&amp;&quot;</source>
+        <translation>XML no conoce &amp;{name};, solo &amp;amp; &amp;lt; &amp;gt; &amp;quot; &amp;apos;; para un simple &quot;&amp;&quot; escriba &amp;amp;</translation>
+    </message>
+    <message>
+        <source>an entity that is not declared</source>
+        <translation>una entidad que no está declarada</translation>
+    </message>
+    <message>
+        <source>&amp;{name}; is no character that XML allows</source>
+        <translation>&amp;{name}; no es un carácter que XML permita</translation>
+    </message>
+    <message>
+        <source>a reference to what is no character</source>
+        <translation>una referencia a algo que no es un carácter</translation>
+    </message>
+    <message>
+        <source>an entity that refers to itself</source>
+        <translation>una entidad que se refiere a sí misma</translation>
+    </message>
+    <message>
+        <source>an entity that is no text</source>
+        <translation>una entidad que no es texto</translation>
+    </message>
+    <message>
+        <source>an entity of another file in a value</source>
+        <translation>una entidad de otro archivo en un valor</translation>
+    </message>
+    <message>
+        <source>a parameter entity cannot stand here</source>
+        <translation>una entidad de parámetro no puede estar aquí</translation>
+    </message>
+    <message>
+        <source>a parameter entity that is no whole declaration</source>
+        <translation>una entidad de parámetro que no es una declaración completa</translation>
+    </message>
+    <message>
+        <source>an entity that a parameter entity declares</source>
+        <translation>una entidad declarada por una entidad de parámetro</translation>
+    </message>
+    <message>
+        <source>a public identifier with a character that it cannot have</source>
+        <translation>un identificador público con un carácter que no puede llevar</translation>
+    </message>
+    <message>
+        <source>entities that make too much text</source>
+        <translation>entidades que producen demasiado texto</translation>
+    </message>
+    <message>
+        <source>more than the memory can hold</source>
+        <translation>más de lo que cabe en la memoria</translation>
+    </message>
 </context>
 <context>
     <name>jobs</name>

@@ -937,6 +937,278 @@
         <source>unknown command: %1 does not belong here</source>
         <translation>commande inconnue&#xa0;: %1 n&apos;a rien à faire ici</translation>
     </message>
+    <message>
+        <source>this is not well-formed</source>
+        <translation>ceci n&apos;est pas du XML bien formé</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; or %2</source>
+        <translation>&quot;%1&quot; ou %2</translation>
+    </message>
+    <message>
+        <source>XML forbids the character {character}</source>
+        <translation>XML interdit le caractère {character}</translation>
+    </message>
+    <message>
+        <source>&quot;&amp;&quot; begins no reference; write &amp;amp;</source>
+        <translation>&quot;&amp;&quot; ne commence aucune référence&#xa0;; écrivez &amp;amp;</translation>
+    </message>
+    <message>
+        <source>&quot;&amp;&quot; begins a reference without its &quot;;&quot;; write &amp;amp;, or end the reference</source>
+        <translation>&quot;&amp;&quot; commence une référence sans son &quot;;&quot;&#xa0;; écrivez &amp;amp;, ou terminez la référence</translation>
+    </message>
+    <message>
+        <source>the value that begins here has no closing quote, or a &quot;&lt;&quot;; for that write &amp;lt;</source>
+        <translation>la valeur qui commence ici n&apos;a pas de guillemet fermant, ou contient un &quot;&lt;&quot;&#xa0;; pour celui-ci écrivez &amp;lt;</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;&quot; in a value; write &amp;lt;, or end the value with its quote</source>
+        <translation>&quot;&lt;&quot; dans une valeur&#xa0;; écrivez &amp;lt;, ou terminez la valeur par son guillemet</translation>
+    </message>
+    <message>
+        <source>&quot;--&quot; in a comment; write a single -</source>
+        <translation>&quot;--&quot; dans un commentaire&#xa0;; écrivez un seul -</translation>
+    </message>
+    <message>
+        <source>a comment begins with &lt;!--</source>
+        <translation>un commentaire commence par &lt;!--</translation>
+    </message>
+    <message>
+        <source>&quot;]]&gt;&quot; in a text; write ]]&amp;gt;</source>
+        <translation>&quot;]]&gt;&quot; dans un texte&#xa0;; écrivez ]]&amp;gt;</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;/&quot; without a name</source>
+        <translation>&quot;&lt;/&quot; sans nom</translation>
+    </message>
+    <message>
+        <source>an end tag where no element is open</source>
+        <translation>une balise fermante là où aucun élément n&apos;est ouvert</translation>
+    </message>
+    <message>
+        <source>an XML declaration begins with &lt;?xml, in small letters</source>
+        <translation>une déclaration XML commence par &lt;?xml, en minuscules</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;?&quot; without a name</source>
+        <translation>&quot;&lt;?&quot; sans nom</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;!&quot; begins no comment and no CDATA section</source>
+        <translation>&quot;&lt;!&quot; ne commence ni un commentaire ni une section CDATA</translation>
+    </message>
+    <message>
+        <source>a blank behind &quot;&lt;&quot;; the name of a tag stands right behind it</source>
+        <translation>un espace après &quot;&lt;&quot;&#xa0;; le nom d&apos;une balise suit immédiatement</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;&quot; begins no tag; write &amp;lt;</source>
+        <translation>&quot;&lt;&quot; ne commence aucune balise&#xa0;; écrivez &amp;lt;</translation>
+    </message>
+    <message>
+        <source>{character} is no quote to XML; write &quot; or &apos;</source>
+        <translation>{character} n&apos;est pas un guillemet pour XML&#xa0;; écrivez &quot; ou &apos;</translation>
+    </message>
+    <message>
+        <source>a value without quotes; write {value}</source>
+        <translation>une valeur sans guillemets&#xa0;; écrivez {value}</translation>
+    </message>
+    <message>
+        <source>the tag that begins here has no &quot;&gt;&quot;</source>
+        <translation>la balise qui commence ici n&apos;a pas de &quot;&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>{character} behind the name of an end tag, which has nothing else</source>
+        <translation>{character} après le nom d&apos;une balise fermante, qui ne contient rien d&apos;autre</translation>
+    </message>
+    <message>
+        <source>&quot;/&quot; in a tag without a &quot;&gt;&quot; behind it</source>
+        <translation>&quot;/&quot; dans une balise sans &quot;&gt;&quot; derrière</translation>
+    </message>
+    <message>
+        <source>the value that begins here has no closing quote</source>
+        <translation>la valeur qui commence ici n&apos;a pas de guillemet fermant</translation>
+    </message>
+    <message>
+        <source>no blank between a value and the next attribute</source>
+        <translation>pas d&apos;espace entre une valeur et l&apos;attribut suivant</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; a tag without content ends with /&gt;</source>
+        <translation>{character} ne peut pas suivre une valeur&#xa0;; une balise sans contenu se termine par /&gt;</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; blanks alone part attributes</source>
+        <translation>{character} ne peut pas suivre une valeur&#xa0;; seuls des espaces séparent les attributs</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; for a &apos; in a value write &amp;apos;</source>
+        <translation>{character} ne peut pas suivre une valeur&#xa0;; pour un &apos; dans une valeur écrivez &amp;apos;</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; for a quote in a value write &amp;quot;</source>
+        <translation>{character} ne peut pas suivre une valeur&#xa0;; pour un guillemet dans une valeur écrivez &amp;quot;</translation>
+    </message>
+    <message>
+        <source>a value without a &quot;=&quot; before it</source>
+        <translation>une valeur sans &quot;=&quot; devant</translation>
+    </message>
+    <message>
+        <source>an attribute without a value</source>
+        <translation>un attribut sans valeur</translation>
+    </message>
+    <message>
+        <source>{character} cannot begin a name</source>
+        <translation>{character} ne peut pas commencer un nom</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand in a name</source>
+        <translation>{character} ne peut pas se trouver dans un nom</translation>
+    </message>
+    <message>
+        <source>a text outside the root</source>
+        <translation>un texte hors de l&apos;élément racine</translation>
+    </message>
+    <message>
+        <source>&amp;{name}; stands for what is not well-formed</source>
+        <translation>&amp;{name}; représente quelque chose qui n&apos;est pas bien formé</translation>
+    </message>
+    <message>
+        <source>an entity in this tag stands for what is not well-formed</source>
+        <translation>une entité de cette balise représente quelque chose qui n&apos;est pas bien formé</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand here</source>
+        <translation>{character} ne peut pas se trouver ici</translation>
+    </message>
+    <message>
+        <source>a comment without its &quot;--&gt;&quot;</source>
+        <translation>un commentaire sans son &quot;--&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>an XML declaration without its &quot;?&gt;&quot;</source>
+        <translation>une déclaration XML sans son &quot;?&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>an instruction without its &quot;?&gt;&quot;</source>
+        <translation>une instruction sans son &quot;?&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>a tag without its &quot;&gt;&quot;, or with a quote too few</source>
+        <translation>une balise sans son &quot;&gt;&quot;, ou avec un guillemet de moins</translation>
+    </message>
+    <message>
+        <source>what begins here does not end</source>
+        <translation>ce qui commence ici ne se termine pas</translation>
+    </message>
+    <message>
+        <source>a CDATA section without its &quot;]]&gt;&quot;</source>
+        <translation>une section CDATA sans son &quot;]]&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>&lt;{open}&gt; is never closed; write &lt;/{open}&gt; where it ends, or /&gt; in place of its &gt;</source>
+        <translation>&lt;{open}&gt; n&apos;est jamais fermé&#xa0;; écrivez &lt;/{open}&gt; là où il se termine, ou /&gt; à la place de son &gt;</translation>
+    </message>
+    <message>
+        <source>there is no element</source>
+        <translation>il n&apos;y a aucun élément</translation>
+    </message>
+    <message>
+        <source>&lt;/{name}&gt; where &lt;{open}&gt; of line {line} must be closed</source>
+        <translation>&lt;/{name}&gt; là où &lt;{open}&gt; de la ligne {line} doit être fermé</translation>
+    </message>
+    <message>
+        <source>an end tag of an entity closes another element</source>
+        <translation>une balise fermante d&apos;une entité ferme un autre élément</translation>
+    </message>
+    <message>
+        <source>an entity with a start tag or an end tag alone</source>
+        <translation>une entité avec une balise ouvrante seule ou une balise fermante seule</translation>
+    </message>
+    <message>
+        <source>a second root; one element must hold all others</source>
+        <translation>un second élément racine&#xa0;; un seul élément doit contenir tous les autres</translation>
+    </message>
+    <message>
+        <source>a declaration or a section behind the end of the root</source>
+        <translation>une déclaration ou une section après la fin de l&apos;élément racine</translation>
+    </message>
+    <message>
+        <source>the XML declaration is not the first in the file; nothing may stand before it, no blank either</source>
+        <translation>la déclaration XML n&apos;est pas en tête du fichier&#xa0;; rien ne peut la précéder, pas même un espace</translation>
+    </message>
+    <message>
+        <source>this is no XML declaration; write &lt;?xml version=&quot;1.0&quot; encoding=&quot;UTF-8&quot;?&gt;</source>
+        <translation>ceci n&apos;est pas une déclaration XML&#xa0;; écrivez &lt;?xml version=&quot;1.0&quot; encoding=&quot;UTF-8&quot;?&gt;</translation>
+    </message>
+    <message>
+        <source>an attribute stands twice: &quot;{name}&quot;</source>
+        <translation>un attribut figure deux fois&#xa0;: &quot;{name}&quot;</translation>
+    </message>
+    <message>
+        <source>an attribute stands twice, in an entity</source>
+        <translation>un attribut figure deux fois, dans une entité</translation>
+    </message>
+    <message>
+        <source>&amp;{name}; leads to no entity that is declared; write the character itself</source>
+        <translation>&amp;{name}; ne mène à aucune entité déclarée&#xa0;; écrivez le caractère lui-même</translation>
+    </message>
+    <message>
+        <source>XML does not know &amp;{name};; write {written}</source>
+        <translation>XML ne connaît pas &amp;{name};&#xa0;; écrivez {written}</translation>
+    </message>
+    <message>
+        <source>XML does not know &amp;{name};, only &amp;amp; &amp;lt; &amp;gt; &amp;quot; &amp;apos;; write &amp;amp; for a plain &quot;&amp;&quot;</source>
+        <translation>XML ne connaît pas &amp;{name};, seulement &amp;amp; &amp;lt; &amp;gt; &amp;quot; &amp;apos;&#xa0;; pour un simple &quot;&amp;&quot; écrivez &amp;amp;</translation>
+    </message>
+    <message>
+        <source>an entity that is not declared</source>
+        <translation>une entité qui n&apos;est pas déclarée</translation>
+    </message>
+    <message>
+        <source>&amp;{name}; is no character that XML allows</source>
+        <translation>&amp;{name}; n&apos;est pas un caractère que XML autorise</translation>
+    </message>
+    <message>
+        <source>a reference to what is no character</source>
+        <translation>une référence à ce qui n&apos;est pas un caractère</translation>
+    </message>
+    <message>
+        <source>an entity that refers to itself</source>
+        <translation>une entité qui se réfère à elle-même</translation>
+    </message>
+    <message>
+        <source>an entity that is no text</source>
+        <translation>une entité qui n&apos;est pas du texte</translation>
+    </message>
+    <message>
+        <source>an entity of another file in a value</source>
+        <translation>une entité d&apos;un autre fichier dans une valeur</translation>
+    </message>
+    <message>
+        <source>a parameter entity cannot stand here</source>
+        <translation>une entité paramètre ne peut pas se trouver ici</translation>
+    </message>
+    <message>
+        <source>a parameter entity that is no whole declaration</source>
+        <translation>une entité paramètre qui n&apos;est pas une déclaration complète</translation>
+    </message>
+    <message>
+        <source>an entity that a parameter entity declares</source>
+        <translation>une entité déclarée par une entité paramètre</translation>
+    </message>
+    <message>
+        <source>a public identifier with a character that it cannot have</source>
+        <translation>un identificateur public avec un caractère qu&apos;il ne peut pas contenir</translation>
+    </message>
+    <message>
+        <source>entities that make too much text</source>
+        <translation>des entités qui produisent trop de texte</translation>
+    </message>
+    <message>
+        <source>more than the memory can hold</source>
+        <translation>plus que la mémoire ne peut contenir</translation>
+    </message>
 </context>
 <context>
     <name>jobs</name>

@@ -937,6 +937,278 @@
         <source>unknown command: %1 does not belong here</source>
         <translation>comando sconosciuto: %1 non va qui</translation>
     </message>
+    <message>
+        <source>this is not well-formed</source>
+        <translation>questo non è XML ben formato</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; or %2</source>
+        <translation>&quot;%1&quot; o %2</translation>
+    </message>
+    <message>
+        <source>XML forbids the character {character}</source>
+        <translation>XML vieta il carattere {character}</translation>
+    </message>
+    <message>
+        <source>&quot;&amp;&quot; begins no reference; write &amp;amp;</source>
+        <translation>&quot;&amp;&quot; non inizia alcun riferimento; scrivere &amp;amp;</translation>
+    </message>
+    <message>
+        <source>&quot;&amp;&quot; begins a reference without its &quot;;&quot;; write &amp;amp;, or end the reference</source>
+        <translation>&quot;&amp;&quot; inizia un riferimento senza il suo &quot;;&quot;; scrivere &amp;amp;, o terminare il riferimento</translation>
+    </message>
+    <message>
+        <source>the value that begins here has no closing quote, or a &quot;&lt;&quot;; for that write &amp;lt;</source>
+        <translation>al valore che inizia qui mancano le virgolette di chiusura, o contiene un &quot;&lt;&quot;; per questo scrivere &amp;lt;</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;&quot; in a value; write &amp;lt;, or end the value with its quote</source>
+        <translation>&quot;&lt;&quot; in un valore; scrivere &amp;lt;, o chiudere il valore con le sue virgolette</translation>
+    </message>
+    <message>
+        <source>&quot;--&quot; in a comment; write a single -</source>
+        <translation>&quot;--&quot; in un commento; scrivere un solo -</translation>
+    </message>
+    <message>
+        <source>a comment begins with &lt;!--</source>
+        <translation>un commento inizia con &lt;!--</translation>
+    </message>
+    <message>
+        <source>&quot;]]&gt;&quot; in a text; write ]]&amp;gt;</source>
+        <translation>&quot;]]&gt;&quot; in un testo; scrivere ]]&amp;gt;</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;/&quot; without a name</source>
+        <translation>&quot;&lt;/&quot; senza un nome</translation>
+    </message>
+    <message>
+        <source>an end tag where no element is open</source>
+        <translation>un tag di chiusura dove nessun elemento è aperto</translation>
+    </message>
+    <message>
+        <source>an XML declaration begins with &lt;?xml, in small letters</source>
+        <translation>una dichiarazione XML inizia con &lt;?xml, in minuscolo</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;?&quot; without a name</source>
+        <translation>&quot;&lt;?&quot; senza un nome</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;!&quot; begins no comment and no CDATA section</source>
+        <translation>&quot;&lt;!&quot; non inizia né un commento né una sezione CDATA</translation>
+    </message>
+    <message>
+        <source>a blank behind &quot;&lt;&quot;; the name of a tag stands right behind it</source>
+        <translation>uno spazio dopo &quot;&lt;&quot;; il nome di un tag segue subito</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;&quot; begins no tag; write &amp;lt;</source>
+        <translation>&quot;&lt;&quot; non inizia alcun tag; scrivere &amp;lt;</translation>
+    </message>
+    <message>
+        <source>{character} is no quote to XML; write &quot; or &apos;</source>
+        <translation>{character} non è una virgoletta per XML; scrivere &quot; o &apos;</translation>
+    </message>
+    <message>
+        <source>a value without quotes; write {value}</source>
+        <translation>un valore senza virgolette; scrivere {value}</translation>
+    </message>
+    <message>
+        <source>the tag that begins here has no &quot;&gt;&quot;</source>
+        <translation>al tag che inizia qui manca il &quot;&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>{character} behind the name of an end tag, which has nothing else</source>
+        <translation>{character} dopo il nome di un tag di chiusura, che non contiene altro</translation>
+    </message>
+    <message>
+        <source>&quot;/&quot; in a tag without a &quot;&gt;&quot; behind it</source>
+        <translation>&quot;/&quot; in un tag senza un &quot;&gt;&quot; dopo</translation>
+    </message>
+    <message>
+        <source>the value that begins here has no closing quote</source>
+        <translation>al valore che inizia qui mancano le virgolette di chiusura</translation>
+    </message>
+    <message>
+        <source>no blank between a value and the next attribute</source>
+        <translation>nessuno spazio tra un valore e l&apos;attributo successivo</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; a tag without content ends with /&gt;</source>
+        <translation>{character} non può stare dopo un valore; un tag senza contenuto finisce con /&gt;</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; blanks alone part attributes</source>
+        <translation>{character} non può stare dopo un valore; gli attributi si separano solo con spazi</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; for a &apos; in a value write &amp;apos;</source>
+        <translation>{character} non può stare dopo un valore; per un &apos; in un valore scrivere &amp;apos;</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand behind a value; for a quote in a value write &amp;quot;</source>
+        <translation>{character} non può stare dopo un valore; per le virgolette in un valore scrivere &amp;quot;</translation>
+    </message>
+    <message>
+        <source>a value without a &quot;=&quot; before it</source>
+        <translation>un valore senza un &quot;=&quot; davanti</translation>
+    </message>
+    <message>
+        <source>an attribute without a value</source>
+        <translation>un attributo senza valore</translation>
+    </message>
+    <message>
+        <source>{character} cannot begin a name</source>
+        <translation>{character} non può iniziare un nome</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand in a name</source>
+        <translation>{character} non può stare in un nome</translation>
+    </message>
+    <message>
+        <source>a text outside the root</source>
+        <translation>un testo fuori dall&apos;elemento radice</translation>
+    </message>
+    <message>
+        <source>&amp;{name}; stands for what is not well-formed</source>
+        <translation>&amp;{name}; sta per qualcosa che non è ben formato</translation>
+    </message>
+    <message>
+        <source>an entity in this tag stands for what is not well-formed</source>
+        <translation>un&apos;entità in questo tag sta per qualcosa che non è ben formato</translation>
+    </message>
+    <message>
+        <source>{character} cannot stand here</source>
+        <translation>{character} non può stare qui</translation>
+    </message>
+    <message>
+        <source>a comment without its &quot;--&gt;&quot;</source>
+        <translation>un commento senza il suo &quot;--&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>an XML declaration without its &quot;?&gt;&quot;</source>
+        <translation>una dichiarazione XML senza il suo &quot;?&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>an instruction without its &quot;?&gt;&quot;</source>
+        <translation>un&apos;istruzione senza il suo &quot;?&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>a tag without its &quot;&gt;&quot;, or with a quote too few</source>
+        <translation>un tag senza il suo &quot;&gt;&quot;, o con una virgoletta in meno</translation>
+    </message>
+    <message>
+        <source>what begins here does not end</source>
+        <translation>ciò che inizia qui non finisce</translation>
+    </message>
+    <message>
+        <source>a CDATA section without its &quot;]]&gt;&quot;</source>
+        <translation>una sezione CDATA senza il suo &quot;]]&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>&lt;{open}&gt; is never closed; write &lt;/{open}&gt; where it ends, or /&gt; in place of its &gt;</source>
+        <translation>&lt;{open}&gt; non viene mai chiuso; scrivere &lt;/{open}&gt; dove finisce, o /&gt; al posto del suo &gt;</translation>
+    </message>
+    <message>
+        <source>there is no element</source>
+        <translation>non c&apos;è alcun elemento</translation>
+    </message>
+    <message>
+        <source>&lt;/{name}&gt; where &lt;{open}&gt; of line {line} must be closed</source>
+        <translation>&lt;/{name}&gt; dove va chiuso &lt;{open}&gt; della riga {line}</translation>
+    </message>
+    <message>
+        <source>an end tag of an entity closes another element</source>
+        <translation>un tag di chiusura di un&apos;entità chiude un altro elemento</translation>
+    </message>
+    <message>
+        <source>an entity with a start tag or an end tag alone</source>
+        <translation>un&apos;entità con il solo tag di apertura o il solo tag di chiusura</translation>
+    </message>
+    <message>
+        <source>a second root; one element must hold all others</source>
+        <translation>un secondo elemento radice; un solo elemento deve contenere tutti gli altri</translation>
+    </message>
+    <message>
+        <source>a declaration or a section behind the end of the root</source>
+        <translation>una dichiarazione o una sezione dopo la fine dell&apos;elemento radice</translation>
+    </message>
+    <message>
+        <source>the XML declaration is not the first in the file; nothing may stand before it, no blank either</source>
+        <translation>la dichiarazione XML non è all&apos;inizio del file; davanti non può stare nulla, nemmeno uno spazio</translation>
+    </message>
+    <message>
+        <source>this is no XML declaration; write &lt;?xml version=&quot;1.0&quot; encoding=&quot;UTF-8&quot;?&gt;</source>
+        <translation>questa non è una dichiarazione XML; scrivere &lt;?xml version=&quot;1.0&quot; encoding=&quot;UTF-8&quot;?&gt;</translation>
+    </message>
+    <message>
+        <source>an attribute stands twice: &quot;{name}&quot;</source>
+        <translation>un attributo compare due volte: &quot;{name}&quot;</translation>
+    </message>
+    <message>
+        <source>an attribute stands twice, in an entity</source>
+        <translation>un attributo compare due volte, in un&apos;entità</translation>
+    </message>
+    <message>
+        <source>&amp;{name}; leads to no entity that is declared; write the character itself</source>
+        <translation>&amp;{name}; non porta ad alcuna entità dichiarata; scrivere il carattere stesso</translation>
+    </message>
+    <message>
+        <source>XML does not know &amp;{name};; write {written}</source>
+        <translation>XML non conosce &amp;{name};; scrivere {written}</translation>
+    </message>
+    <message>
+        <source>XML does not know &amp;{name};, only &amp;amp; &amp;lt; &amp;gt; &amp;quot; &amp;apos;; write &amp;amp; for a plain &quot;&amp;&quot;</source>
+        <translation>XML non conosce &amp;{name};, solo &amp;amp; &amp;lt; &amp;gt; &amp;quot; &amp;apos;; per un semplice &quot;&amp;&quot; scrivere &amp;amp;</translation>
+    </message>
+    <message>
+        <source>an entity that is not declared</source>
+        <translation>un&apos;entità che non è dichiarata</translation>
+    </message>
+    <message>
+        <source>&amp;{name}; is no character that XML allows</source>
+        <translation>&amp;{name}; non è un carattere che XML ammette</translation>
+    </message>
+    <message>
+        <source>a reference to what is no character</source>
+        <translation>un riferimento a qualcosa che non è un carattere</translation>
+    </message>
+    <message>
+        <source>an entity that refers to itself</source>
+        <translation>un&apos;entità che si riferisce a se stessa</translation>
+    </message>
+    <message>
+        <source>an entity that is no text</source>
+        <translation>un&apos;entità che non è testo</translation>
+    </message>
+    <message>
+        <source>an entity of another file in a value</source>
+        <translation>un&apos;entità di un altro file in un valore</translation>
+    </message>
+    <message>
+        <source>a parameter entity cannot stand here</source>
+        <translation>un&apos;entità parametro non può stare qui</translation>
+    </message>
+    <message>
+        <source>a parameter entity that is no whole declaration</source>
+        <translation>un&apos;entità parametro che non è una dichiarazione completa</translation>
+    </message>
+    <message>
+        <source>an entity that a parameter entity declares</source>
+        <translation>un&apos;entità dichiarata da un&apos;entità parametro</translation>
+    </message>
+    <message>
+        <source>a public identifier with a character that it cannot have</source>
+        <translation>un identificatore pubblico con un carattere che non può contenere</translation>
+    </message>
+    <message>
+        <source>entities that make too much text</source>
+        <translation>entità che producono troppo testo</translation>
+    </message>
+    <message>
+        <source>more than the memory can hold</source>
+        <translation>più di quanto la memoria possa contenere</translation>
+    </message>
 </context>
 <context>
     <name>jobs</name>
