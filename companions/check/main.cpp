@@ -15,11 +15,12 @@
 #include <memory>
 #include <optional>
 
-using korvel::recode::CodePage;
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
 
-namespace check = korvel::check;
+namespace korvel::check {
+
+using recode::CodePage;
 
 namespace {
 
@@ -47,18 +48,18 @@ struct Report
 {
     bool json;
     bool strict;
-    QList<check::Code> ignored = {};
+    QList<Code> ignored = {};
     QString lines = {};
     int status = Clean;
 
-    void add(const QString &file, const QList<check::Finding> &findings)
+    void add(const QString &file, const QList<Finding> &findings)
     {
-        for (const check::Finding &finding : findings) {
-            const check::CodeInfo &info = infoOf(finding.code);
+        for (const Finding &finding : findings) {
+            const CodeInfo &info = infoOf(finding.code);
             if (ignored.contains(finding.code))
                 continue;
             lines += json ? jsonLine(toJson(file, finding)) : lineOf(file, finding);
-            if (strict || info.level == check::Level::Error)
+            if (strict || info.level == Level::Error)
                 status = std::max<int>(status, Findings);
         }
     }
@@ -74,19 +75,17 @@ std::optional<int> tellAbout(const QCommandLineParser &parser)
     if (parser.optionNames().size() > 1 || words.size() > (schema ? 1 : 0))
         return trouble(u"--explain, --list-codes and --schema stand alone"_s);
     if (parser.isSet(listCodesOption))
-        return writeOut(check::codeList(), Clean);
+        return writeOut(codeList(), Clean);
     if (schema) {
         const QString format = words.value(0, u"rng"_s);
         if (format != "rng"_L1 && format != "xsd"_L1)
             return trouble(u"there is no schema \""_s + format + u"\"; write rng or xsd"_s);
-        return writeOut(
-            QString::fromUtf8(format == "xsd"_L1 ? check::xmlSchema() : check::relaxNgSchema()),
-            Clean);
+        return writeOut(QString::fromUtf8(format == "xsd"_L1 ? xmlSchema() : relaxNgSchema()),
+                        Clean);
     }
     const QString name = parser.value(explainOption);
-    const check::CodeInfo *row = check::findCode(name);
-    return row ? writeOut(check::explained(*row), Clean)
-               : trouble(noSuchCode(name, codeNames(check::codes())));
+    const CodeInfo *row = findCode(name);
+    return row ? writeOut(explained(*row), Clean) : trouble(noSuchCode(name, codeNames(codes())));
 }
 
 /// Checks the settings, then the jobs, as far as they can be read.
@@ -97,13 +96,13 @@ int checkFiles(const QCommandLineParser &parser, Report &report)
     const auto charset = CodePage::named(charsetName.toUtf8());
     if (parser.isSet(charsetOption) && !charset)
         return trouble(korvel::recode::noCodePage(charsetName));
-    std::unique_ptr<check::SettingsFile> settings;
+    std::unique_ptr<SettingsFile> settings;
     if (parser.isSet(settingsOption)) {
         const QString path = parser.value(settingsOption);
         const auto bytes = readSettings(path, error);
         if (!bytes)
             return trouble(path + u": "_s + error);
-        settings = std::make_unique<check::SettingsFile>(*bytes);
+        settings = std::make_unique<SettingsFile>(*bytes);
         report.add(path, checkSettings(*settings));
     }
     if (const QString missing = remarkOnMissingSettings(); !settings && !missing.isEmpty())
@@ -112,7 +111,7 @@ int checkFiles(const QCommandLineParser &parser, Report &report)
         const auto job = readWhole(path, largestJob, error);
         if (!job)
             report.status = trouble(path + u": "_s + error);
-        else if (check::isSettings(*job))
+        else if (isSettings(*job))
             report.status = trouble(path
                                     + u": settings, not a job; check them with "
                                       "korvel-check --settings FILE"_s);
@@ -141,9 +140,9 @@ int run(const QStringList &arguments)
     Report report{parser.isSet(jsonOption), parser.isSet(strictOption)};
     for (const QString &names : parser.values(ignoreOption)) {
         for (const QString &name : names.split(u',')) {
-            const check::CodeInfo *row = check::findCode(name);
+            const CodeInfo *row = findCode(name);
             if (!row)
-                return trouble(noSuchCode(name, codeNames(check::codes())));
+                return trouble(noSuchCode(name, codeNames(codes())));
             report.ignored.append(row->code);
         }
     }
@@ -152,9 +151,11 @@ int run(const QStringList &arguments)
 
 } // namespace
 
+} // namespace korvel::check
+
 int main(int argc, char *argv[])
 {
     prepareCompanion();
     const QCoreApplication application(argc, argv);
-    return run(argumentsOf(argc, argv));
+    return korvel::check::run(argumentsOf(argc, argv));
 }

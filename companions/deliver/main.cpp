@@ -14,9 +14,9 @@
 
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
-namespace delivery = korvel::delivery;
-namespace deliver = korvel::deliver;
-namespace recode = korvel::recode;
+
+namespace korvel::deliver {
+
 using delivery::Journal;
 using delivery::JournalError;
 
@@ -68,9 +68,9 @@ QString faultOf(const QString &id)
 }
 
 /// Reads the options; where they are wrong, says so in one line and gives nothing.
-std::optional<deliver::Task> taskOf(const QCommandLineParser &parser)
+std::optional<Task> taskOf(const QCommandLineParser &parser)
 {
-    const auto wrong = [](const QString &text) -> std::optional<deliver::Task> {
+    const auto wrong = [](const QString &text) -> std::optional<Task> {
         static_cast<void>(trouble(text));
         return {};
     };
@@ -101,47 +101,47 @@ std::optional<deliver::Task> taskOf(const QCommandLineParser &parser)
     const auto device = delivery::deviceNamed(parser.value(toOption), error);
     if (!device)
         return wrong(error);
-    return deliver::Task{*device,
-                         *charset,
-                         parser.value(idOption),
-                         parser.value(settingsOption),
-                         parser.value(journalOption),
-                         *timeout,
-                         *wait,
-                         parser.isSet(dryRunOption),
-                         files};
+    return Task{*device,
+                *charset,
+                parser.value(idOption),
+                parser.value(settingsOption),
+                parser.value(journalOption),
+                *timeout,
+                *wait,
+                parser.isSet(dryRunOption),
+                files};
 }
 
 /// Says without any memory that there is none.
-int withoutMemory(std::string_view line, deliver::Status status)
+int withoutMemory(std::string_view line, Status status)
 {
     static_cast<void>(!::write(STDERR_FILENO, line.data(), line.size()));
     return status;
 }
 
 /// Says how far a document came for which memory ran out: the journal knows, or nobody.
-int reportWithoutMemory(const deliver::Task &task, const deliver::Document &document,
-                        const QString &file, Journal *journal)
+int reportWithoutMemory(const Task &task, const Document &document, const QString &file,
+                        Journal *journal)
 {
     try {
         const auto known = journal ? journal->find(document.name()) : std::nullopt;
         const bool inDoubt = known
                              && (known->state == delivery::State::Sending
                                  || known->state == delivery::State::InDoubt);
-        return deliver::report(
+        return report(
             {file, known ? document.name() : task.id, task.device.text, task.journal},
             {inDoubt ? delivery::End::InDoubt : delivery::End::NotSent, u"not enough memory"_s});
     } catch (const std::exception &) {
         return withoutMemory(
             "korvel-deliver: in doubt: not enough memory, nor to say more; look at "
             "the paper, then see korvel-journal\n",
-            deliver::Doubtful);
+            Doubtful);
     }
 }
 
-int deliverFile(const deliver::Task &task, Journal *journal, const QString &file)
+int deliverFile(const Task &task, Journal *journal, const QString &file)
 {
-    deliver::Document document(task, journal, file);
+    Document document(task, journal, file);
     try {
         return document.deliver();
     } catch (const std::bad_alloc &) {
@@ -162,7 +162,7 @@ int run(const QStringList &arguments)
         return *status;
     const auto task = taskOf(parser);
     if (!task)
-        return deliver::NotPossible;
+        return NotPossible;
 
     std::optional<Journal> journal;
     try {
@@ -171,26 +171,29 @@ int run(const QStringList &arguments)
                             Journal::Access::Write);
     } catch (const JournalError &error) {
         static_cast<void>(trouble(error.text()));
-        return deliver::NotPossible;
+        return NotPossible;
     }
     for (const QString &file : task->files) {
         const int status = deliverFile(*task, journal ? &*journal : nullptr, file);
-        if (status != deliver::Delivered)
+        if (status != Delivered)
             return status;
     }
-    return deliver::Delivered;
+    return Delivered;
 }
 
 } // namespace
+
+} // namespace korvel::deliver
 
 int main(int argc, char *argv[])
 {
     prepareCompanion();
     try {
         const QCoreApplication application(argc, argv);
-        return run(argumentsOf(argc, argv));
+        return korvel::deliver::run(argumentsOf(argc, argv));
     } catch (const std::bad_alloc &) { // not of a delivery, see deliverFile()
-        return withoutMemory("korvel-deliver: not sent: not enough memory; call again\n",
-                             deliver::Undelivered);
+        return korvel::deliver::withoutMemory(
+            "korvel-deliver: not sent: not enough memory; call again\n",
+            korvel::deliver::Undelivered);
     }
 }

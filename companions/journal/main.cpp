@@ -10,13 +10,9 @@
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
 
-namespace delivery = korvel::delivery;
-namespace journal = korvel::journal;
+namespace korvel::journal {
 
 namespace {
-
-using journal::Call;
-using journal::Part;
 
 /// All states, for the help and a message.
 QString stateNames()
@@ -59,35 +55,27 @@ struct Subcommand
 };
 
 const QList<Subcommand> subcommands = {
-    {u"list"_s,
-     {},
-     u"the documents, a line each"_s,
-     {stateOption, sinceOption, jsonOption},
-     journal::list},
+    {u"list"_s, {}, u"the documents, a line each"_s, {stateOption, sinceOption, jsonOption}, list},
     {u"show"_s,
      u"ID"_s,
      u"a document, its events, and the paper"_s,
      {jobOption, streamOption, sentOption, settingsOption},
-     journal::show},
+     show},
     {u"resolve"_s,
      u"ID printed|not-printed"_s,
      u"says what is on the paper of one in doubt"_s,
      {},
-     journal::resolve},
-    {u"verify"_s,
-     {},
-     u"whether anything was changed, taken out or put in"_s,
-     {headOption},
-     journal::verify},
-    {u"replay"_s, u"[ID]"_s, u"renders again, and compares"_s, {}, journal::replay},
-    {u"sum"_s, {}, u"documents and what they registered, by kind"_s, {dayOption}, journal::sum},
-    {u"export"_s, {}, u"all events as JSON"_s, {sinceOption}, journal::exportEvents},
+     resolve},
+    {u"verify"_s, {}, u"whether anything was changed, taken out or put in"_s, {headOption}, verify},
+    {u"replay"_s, u"[ID]"_s, u"renders again, and compares"_s, {}, replay},
+    {u"sum"_s, {}, u"documents and what they registered, by kind"_s, {dayOption}, sum},
+    {u"export"_s, {}, u"all events as JSON"_s, {sinceOption}, exportEvents},
     {u"forget"_s,
      {},
      u"removes contents of finished documents; needs --before"_s,
      {beforeOption},
-     journal::forget},
-    {u"head"_s, {}, u"the last event's number and hash"_s, {}, journal::head},
+     forget},
+    {u"head"_s, {}, u"the last event's number and hash"_s, {}, head},
 };
 
 const Subcommand *subcommandNamed(const QString &name)
@@ -126,18 +114,18 @@ QString readOptions(const QCommandLineParser &parser, Call &call)
     }
     for (const auto &[option, time] :
          {std::pair(&sinceOption, &call.since), std::pair(&beforeOption, &call.before)}) {
-        const auto named = journal::timeNamed(parser.value(*option));
+        const auto named = timeNamed(parser.value(*option));
         if (parser.isSet(*option) && !named)
             return u"--"_s + option->names().constFirst()
                    + u" takes a date such as 2026-05-12, or a "
                      "time such as 2026-05-12T18:30 that the clocks here do not skip"_s;
         *time = named.value_or(QDateTime());
     }
-    call.day = journal::dayNamed(parser.value(dayOption)).value_or(QDate());
+    call.day = dayNamed(parser.value(dayOption)).value_or(QDate());
     if (parser.isSet(dayOption) && !call.day.isValid())
         return u"--day takes a day such as 2026-05-12"_s;
     if (parser.isSet(headOption)) {
-        call.head = journal::headNamed(parser.value(headOption));
+        call.head = headNamed(parser.value(headOption));
         if (!call.head)
             return u"--head takes what \"korvel-journal head\" wrote: NUMBER:HASH"_s;
     }
@@ -211,7 +199,7 @@ int run(const QStringList &arguments)
         if (!misuse.isEmpty())
             return trouble(misuse);
     }
-    if (subcommand->run == journal::forget && !call.before.isValid())
+    if (subcommand->run == forget && !call.before.isValid())
         return trouble(u"forget needs --before DATE"_s);
     try {
         return subcommand->run(call);
@@ -222,9 +210,11 @@ int run(const QStringList &arguments)
 
 } // namespace
 
+} // namespace korvel::journal
+
 int main(int argc, char *argv[])
 {
     prepareCompanion();
     const QCoreApplication application(argc, argv);
-    return run(argumentsOf(argc, argv));
+    return korvel::journal::run(argumentsOf(argc, argv));
 }

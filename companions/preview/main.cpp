@@ -18,12 +18,12 @@
 #include <cstdio>
 #include <functional>
 
-using korvel::recode::CodePage;
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
-namespace commands = korvel::commands;
-namespace check = korvel::check;
-namespace preview = korvel::preview;
+
+namespace korvel::preview {
+
+using recode::CodePage;
 
 namespace {
 
@@ -58,7 +58,7 @@ const QCommandLineOption quietOption({u"q"_s, u"quiet"_s},
 /// Codes that are left out: the preview's own, and those of the checker.
 struct Ignored
 {
-    QList<preview::Code> inStreams;
+    QList<Code> inStreams;
     QList<check::Code> inJobs;
 };
 
@@ -67,13 +67,12 @@ std::optional<int> readIgnored(const QCommandLineParser &parser, Ignored &ignore
 {
     for (const QString &names : parser.values(ignoreOption)) {
         for (const QString &name : names.split(u',')) {
-            if (const preview::CodeInfo *row = findCode(preview::codes(), name))
+            if (const CodeInfo *row = findCode(codes(), name))
                 ignored.inStreams.append(row->code);
             else if (const check::CodeInfo *ofJobs = check::findCode(name))
                 ignored.inJobs.append(ofJobs->code);
             else
-                return trouble(
-                    noSuchCode(name, codeNames(preview::codes()) + codeNames(check::codes())));
+                return trouble(noSuchCode(name, codeNames(codes()) + codeNames(check::codes())));
         }
     }
     return {};
@@ -88,18 +87,18 @@ std::optional<int> tellAbout(const QCommandLineParser &parser)
     if (parser.optionNames().size() > 1 || !parser.positionalArguments().isEmpty())
         return trouble(u"--explain, --list-codes and --schema stand alone"_s);
     if (parser.isSet(listCodesOption))
-        return writeOut(codeList({preview::codes().begin(), preview::codes().end()}), Clean);
+        return writeOut(codeList({codes().begin(), codes().end()}), Clean);
     if (schema) {
         QFile file(u":/preview.schema.json"_s);
         static_cast<void>(file.open(QIODevice::ReadOnly));
         return writeOut(QString::fromUtf8(file.readAll()), Clean);
     }
     const QString name = parser.value(explainOption);
-    if (const preview::CodeInfo *row = findCode(preview::codes(), name))
+    if (const CodeInfo *row = findCode(codes(), name))
         return writeOut(explained(*row, {}), Clean);
     if (const check::CodeInfo *row = check::findCode(name))
         return writeOut(check::explained(*row), Clean);
-    return trouble(noSuchCode(name, codeNames(preview::codes()) + codeNames(check::codes())));
+    return trouble(noSuchCode(name, codeNames(codes()) + codeNames(check::codes())));
 }
 
 /// Why the options do not fit; empty when they do.
@@ -125,7 +124,7 @@ void describe(QCommandLineParser &parser)
                                  u"Jobs, or what korvel-print wrote, or folders of them; - for "
                                  "standard input."_s);
     parser.addOptions({settingsOption, jobOption, streamOption, columnsOption, charsetOption});
-    preview::addPictureOptions(parser);
+    addPictureOptions(parser);
     parser.addOptions({jsonOption, listOption, quietOption, ignoreOption, strictOption,
                        listCodesOption, explainOption, schemaOption});
 }
@@ -133,9 +132,9 @@ void describe(QCommandLineParser &parser)
 /// What is the same for each file.
 struct Request
 {
-    preview::InputKind kind = preview::InputKind::ByContent;
+    InputKind kind = InputKind::ByContent;
     QString settings;
-    preview::Reading reading;
+    Reading reading;
     Ignored ignored;
     bool strict = false;
     bool quiet = false;
@@ -153,9 +152,9 @@ std::optional<int> readRequest(const QCommandLineParser &parser, Request &reques
         return trouble(korvel::recode::noCodePage(parser.value(charsetOption)));
     request.reading = {columns, &*page};
     if (parser.isSet(jobOption))
-        request.kind = preview::InputKind::Job;
+        request.kind = InputKind::Job;
     if (parser.isSet(streamOption))
-        request.kind = preview::InputKind::Stream;
+        request.kind = InputKind::Stream;
     request.settings = parser.value(settingsOption);
     request.strict = parser.isSet(strictOption);
     request.quiet = parser.isSet(quietOption);
@@ -166,7 +165,7 @@ std::optional<int> readRequest(const QCommandLineParser &parser, Request &reques
 class Show
 {
 public:
-    Show(const Request &what, const preview::Files &ofFiles)
+    Show(const Request &what, const Files &ofFiles)
         : request(what)
         , files(ofFiles)
     {
@@ -176,19 +175,19 @@ public:
     }
 
     /// Hands each on that can be read, and says what was found.
-    void forEach(const std::function<void(preview::Shown)> &take)
+    void forEach(const std::function<void(Shown)> &take)
     {
         for (const QString &path : files.paths) {
             QString error;
-            const auto input = preview::readInput(path, request.kind, *request.reading.page,
-                                                  request.settings, request.ignored.inJobs, error);
+            const auto input = readInput(path, request.kind, *request.reading.page,
+                                         request.settings, request.ignored.inJobs, error);
             if (!input) {
                 status = trouble(error);
                 continue;
             }
-            preview::Shown shown{*input, {}};
-            shown.found = preview::findings(input->stream, request.reading.columns,
-                                            request.ignored.inStreams, *request.reading.page);
+            Shown shown{*input, {}};
+            shown.found = findings(input->stream, request.reading.columns,
+                                   request.ignored.inStreams, *request.reading.page);
             if (!input->note.isEmpty())
                 say(programName() + u": "_s + inOneLine(input->note) + u'\n');
             for (const QString &line : told(shown))
@@ -211,23 +210,21 @@ private:
     }
 
     const Request &request;
-    const preview::Files &files;
+    const Files &files;
     QSet<QString> said;
 };
 
 /// Writes one picture of all files.
-int writePictureOf(preview::PictureRequest &picture, Show &show, const Request &request,
-                   const preview::Files &files)
+int writePictureOf(PictureRequest &picture, Show &show, const Request &request, const Files &files)
 {
-    const bool isForOne = picture.format == preview::PictureRequest::Format::Png
-                          || picture.format == preview::PictureRequest::Format::Svg;
+    const bool isForOne = picture.format == PictureRequest::Format::Png
+                          || picture.format == PictureRequest::Format::Svg;
     if (isForOne && files.paths.size() > 1)
         return trouble(u"a .png or .svg shows one job or stream; write a .pdf or .html"_s);
-    QList<preview::Shown> all;
-    show.forEach([&](preview::Shown shown) { all.append(std::move(shown)); });
+    QList<Shown> all;
+    show.forEach([&](Shown shown) { all.append(std::move(shown)); });
     picture.title = files.title;
-    return all.isEmpty() ? show.status
-                         : preview::writePicture(picture, all, request.reading, show.status);
+    return all.isEmpty() ? show.status : writePicture(picture, all, request.reading, show.status);
 }
 
 int run(QCommandLineParser &parser, const QStringList &arguments)
@@ -239,7 +236,7 @@ int run(QCommandLineParser &parser, const QStringList &arguments)
     if (const QString misuse = misuseOf(parser); !misuse.isEmpty())
         return trouble(misuse);
     QString error;
-    auto picture = preview::pictureRequest(parser, error);
+    auto picture = pictureRequest(parser, error);
     if (!error.isEmpty())
         return trouble(error);
     if (picture.has_value() + parser.isSet(jsonOption) + parser.isSet(listOption) > 1)
@@ -247,21 +244,21 @@ int run(QCommandLineParser &parser, const QStringList &arguments)
     Request request;
     if (const auto status = readRequest(parser, request))
         return *status;
-    const auto files = preview::filesOf(parser.positionalArguments(), error);
+    const auto files = filesOf(parser.positionalArguments(), error);
     if (!files)
         return trouble(error);
 
     Show show(request, *files);
     if (picture)
         return writePictureOf(*picture, show, request, *files);
-    using Format = preview::Writer::Format;
-    std::optional<preview::Writer> writer;
-    show.forEach([&](const preview::Shown &shown) {
+    using Format = Writer::Format;
+    std::optional<Writer> writer;
+    show.forEach([&](const Shown &shown) {
         if (!writer)
             writer.emplace(parser.isSet(jsonOption)   ? Format::Json
                            : parser.isSet(listOption) ? Format::List
                                                       : Format::Paper,
-                           request.reading, !files->isOneOfOne, preview::wantsColours());
+                           request.reading, !files->isOneOfOne, wantsColours());
         writer->write(shown);
     });
     return writer ? writer->end(show.status) : show.status;
@@ -269,22 +266,24 @@ int run(QCommandLineParser &parser, const QStringList &arguments)
 
 } // namespace
 
+} // namespace korvel::preview
+
 int main(int argc, char *argv[])
 {
     prepareCompanion();
     const QStringList arguments = argumentsOf(argc, argv);
     QCommandLineParser parser;
-    describe(parser);
+    korvel::preview::describe(parser);
     static_cast<void>(parser.parse(arguments)); // which says later what is wrong with it
     // The toolkit would take options such as -style for its own.
     int programAlone = 1;
-    if (!preview::wantsPicture(parser)) {
+    if (!korvel::preview::wantsPicture(parser)) {
         const QCoreApplication application(programAlone, argv);
-        return run(parser, arguments);
+        return korvel::preview::run(parser, arguments);
     }
     // A picture needs fonts, but no display; and a language that fontconfig knows.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("FC_LANG", "en");
     const QGuiApplication application(programAlone, argv);
-    return run(parser, arguments);
+    return korvel::preview::run(parser, arguments);
 }

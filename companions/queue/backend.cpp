@@ -17,15 +17,16 @@
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
-using korvel::deliver::Prepared;
-using korvel::delivery::Contents;
-using korvel::delivery::End;
-using korvel::delivery::Journal;
-using korvel::delivery::JournalError;
-using korvel::delivery::Order;
-using korvel::delivery::Outcome;
 
 namespace korvel::queue {
+
+using deliver::Prepared;
+using delivery::Contents;
+using delivery::End;
+using delivery::Journal;
+using delivery::JournalError;
+using delivery::Order;
+using delivery::Outcome;
 
 namespace {
 

@@ -12,13 +12,14 @@
 #include <chrono>
 #include <thread>
 
-using namespace korvel;
-using namespace korvel::queue;
 using namespace Qt::Literals::StringLiterals;
-using korvel::deliver::Prepared;
-using korvel::delivery::Contents;
-using korvel::delivery::Journal;
-using korvel::delivery::JournalError;
+
+namespace korvel::queue {
+
+using deliver::Prepared;
+using delivery::Contents;
+using delivery::Journal;
+using delivery::JournalError;
 
 namespace {
 
@@ -161,11 +162,13 @@ int run(const QStringList &arguments)
 
 } // namespace
 
+} // namespace korvel::queue
+
 int main(int argc, char *argv[])
 {
-    shared::prepareCompanion();
-    const QStringList arguments = shared::argumentsOf(argc, argv);
+    korvel::shared::prepareCompanion();
+    const QStringList arguments = korvel::shared::argumentsOf(argc, argv);
     int none = 1; // what a job is called is no option of the toolkit's
     const QCoreApplication application(none, argv);
-    return run(arguments);
+    return korvel::queue::run(arguments);
 }

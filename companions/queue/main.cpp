@@ -16,8 +16,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-using namespace korvel::queue;
 using namespace Qt::Literals::StringLiterals;
+
+namespace korvel::queue {
 
 namespace {
 
@@ -28,8 +29,8 @@ namespace {
  */
 bool becomeOwnerOfJournal()
 {
-    const QByteArray folder = korvel::path::toBytes(
-        journalPath().section(u'/', 0, -2, QString::SectionIncludeTrailingSep));
+    const QByteArray folder =
+        path::toBytes(journalPath().section(u'/', 0, -2, QString::SectionIncludeTrailingSep));
     struct stat status = {};
     if (::geteuid() != 0 || ::stat(folder.constData(), &status) != 0 || status.st_uid == 0)
         return true;
@@ -49,12 +50,10 @@ void ignoreStream()
     while (::read(STDIN_FILENO, &bytes[0], sizeof bytes) > 0) { }
 }
 
-} // namespace
-
-int main(int argc, char *argv[])
+int run(int argc, char *argv[])
 {
     const pid_t caller = ::getppid();
-    korvel::shared::prepareCompanion();
+    shared::prepareCompanion();
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN); // a journal that may not grow is an error like others
     int none = 1;                  // what a job is called is no option of the toolkit's
@@ -63,7 +62,7 @@ int main(int argc, char *argv[])
         return listDevices();
     }
     QString error;
-    const auto request = requestOf(korvel::shared::argumentsOf(argc, argv), error);
+    const auto request = requestOf(shared::argumentsOf(argc, argv), error);
     if (request && request->id.isEmpty())
         error = u"the job has no job-uuid, by which it is sent at most once: print it without "
                 "\"-o job-uuid=\""_s;
@@ -85,3 +84,9 @@ int main(int argc, char *argv[])
         },
         [&] { return deliveryLost(*request); });
 }
+
+} // namespace
+
+} // namespace korvel::queue
+
+int main(int argc, char *argv[]) { return korvel::queue::run(argc, argv); }

@@ -11,10 +11,10 @@
 #include <cstdio>
 #include <utility>
 
-using korvel::recode::CodePage;
-using korvel::recode::Loss;
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
+
+namespace korvel::recode {
 
 namespace {
 
@@ -117,9 +117,11 @@ int run(const QStringList &arguments)
 
 } // namespace
 
+} // namespace korvel::recode
+
 int main(int argc, char *argv[])
 {
     prepareCompanion();
     const QCoreApplication application(argc, argv);
-    return run(argumentsOf(argc, argv));
+    return korvel::recode::run(argumentsOf(argc, argv));
 }

@@ -8,9 +8,8 @@
 
 using namespace korvel::shared;
 using namespace Qt::Literals::StringLiterals;
-namespace recode = korvel::recode;
-namespace simulator = korvel::simulator;
-using Fault = simulator::Fault;
+
+namespace korvel::simulator {
 
 namespace {
 
@@ -27,7 +26,7 @@ const QCommandLineOption
                 u"folder"_s);
 const QCommandLineOption jsonOption(u"json"_s, u"Write a JSON object for each event instead."_s);
 const QCommandLineOption faultOption(u"fault"_s,
-                                     u"Go wrong on purpose: "_s + simulator::faultNames()
+                                     u"Go wrong on purpose: "_s + faultNames()
                                          + u" (N bytes, RATE bytes a second)."_s,
                                      u"fault"_s);
 const QCommandLineOption
@@ -77,12 +76,12 @@ int run(const QStringList &arguments)
     if (const auto status = readCommandLine(parser, arguments))
         return *status;
 
-    simulator::Task task;
+    Task task;
     if (parser.isSet(faultOption)) {
-        const auto fault = simulator::faultNamed(parser.value(faultOption));
+        const auto fault = faultNamed(parser.value(faultOption));
         if (!fault)
             return trouble(u"there is no fault \""_s + parser.value(faultOption)
-                           + u"\"; take one of "_s + simulator::faultNames());
+                           + u"\"; take one of "_s + faultNames());
         task.fault = *fault;
     }
     if (const QString wrong = contradiction(parser, task.fault); !wrong.isEmpty())
@@ -94,29 +93,31 @@ int run(const QStringList &arguments)
     if (!charset)
         return trouble(recode::noCodePage(name));
 
-    simulator::Report report(parser.isSet(jsonOption), korvel::preview::wantsColours());
-    simulator::Printer printer(*charset, parser.value(paperOption), report);
+    Report report(parser.isSet(jsonOption), korvel::preview::wantsColours());
+    Printer printer(*charset, parser.value(paperOption), report);
     if (!printer.prepare())
         return Trouble;
     using Kind = Fault::Kind;
     const bool takesLittle = task.fault.kind == Kind::Stall || task.fault.kind == Kind::Slow
                              || task.fault.kind == Kind::Deaf;
     const auto port = parser.isSet(ptyOption)
-                          ? simulator::terminalPort()
-                          : simulator::networkPort(parser.value(listenOption),
-                                                   {task.fault.kind == Kind::Refuse, takesLittle});
+                          ? terminalPort()
+                          : networkPort(parser.value(listenOption),
+                                        {task.fault.kind == Kind::Refuse, takesLittle});
     QString error;
     if (!port->open(error))
         return trouble(error);
-    simulator::Server(*port, printer, report, task).run();
+    Server(*port, printer, report, task).run();
     return report.isSound() && printer.isSound() ? Clean : Trouble;
 }
 
 } // namespace
 
+} // namespace korvel::simulator
+
 int main(int argc, char *argv[])
 {
     prepareCompanion();
     const QCoreApplication application(argc, argv);
-    return run(argumentsOf(argc, argv));
+    return korvel::simulator::run(argumentsOf(argc, argv));
 }

@@ -11,6 +11,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace korvel::reference {
+
 namespace {
 
 enum ExitStatus {
@@ -106,12 +108,8 @@ int bringInLine(const QString &path, bool checkOnly)
     return Done;
 }
 
-} // namespace
-
-int main(int argc, char *argv[])
+int run(QStringList pages)
 {
-    const QCoreApplication application(argc, argv);
-    QStringList pages = QCoreApplication::arguments().mid(1);
     const bool checkOnly = !pages.isEmpty() && pages.first() == "--check"_L1;
     if (checkOnly)
         pages.removeFirst();
@@ -121,4 +119,14 @@ int main(int argc, char *argv[])
     for (const QString &page : pages)
         status = std::max(status, bringInLine(page, checkOnly));
     return status;
+}
+
+} // namespace
+
+} // namespace korvel::reference
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    return korvel::reference::run(QCoreApplication::arguments().mid(1));
 }
