@@ -36,7 +36,7 @@ set(KORVEL_TEST_ENVIRONMENT
 # Optimised is what is tested, not the test.
 add_library(korvel-test-options INTERFACE)
 target_link_libraries(korvel-test-options INTERFACE korvel-warnings korvel-test-macros)
-target_compile_options(korvel-test-options INTERFACE $<$<CONFIG:Release>:-O1>)
+target_compile_options(korvel-test-options INTERFACE $<IF:$<CONFIG:Release>,-O1,-O0>)
 add_library(korvel-test-macros INTERFACE) # whose options stand behind those of the warnings
 if(Qt6_VERSION VERSION_GREATER_EQUAL 6.7) # its macros convert what they count
     target_compile_options(korvel-test-macros INTERFACE -Wno-conversion)
