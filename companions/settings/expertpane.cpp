@@ -3,6 +3,7 @@
 
 #include "companions/check/vocabulary.h"
 #include "companions/settings/adddialog.h"
+#include "companions/settings/fields.h"
 #include "companions/settings/hints.h"
 #include "companions/settings/state.h"
 #include "config/config.h"
@@ -59,15 +60,10 @@ QStringList namesBelow(const QTreeWidgetItem &group, bool settings)
 QStringList missingKeys(const QString &group, const QStringList &present)
 {
     QStringList keys;
-    if (group == vocabulary::group::language) {
-        for (const vocabulary::LanguageSetting &setting : vocabulary::languageSettings())
-            keys.append(setting.key);
-    } else if (vocabulary::documentsOf(group) != 0) {
-        for (const vocabulary::Setting &setting : vocabulary::settings())
-            keys.append(setting.key);
+    for (const fields::Field &field : fields::all()) {
+        if (vocabulary::isRead(group, field.key) && !present.contains(field.key))
+            keys.append(field.key);
     }
-    for (const QString &key : present)
-        keys.removeAll(key);
     return keys;
 }
 

@@ -219,6 +219,7 @@ void SettingsWindow::finishEditing()
 void SettingsWindow::edited()
 {
     form->refresh(found);
+    unread->refresh();
     pause.start();
 }
 
@@ -229,7 +230,7 @@ void SettingsWindow::refresh()
     found = hints::find(settings);
     hints::mark(*state.view(), found);
     form->refresh(found);
-    unread->refresh(found);
+    unread->refresh();
     expert->showCurrent();
     markDocuments();
     paper->refresh(settings, found);
@@ -238,9 +239,7 @@ void SettingsWindow::refresh()
 void SettingsWindow::markDocuments()
 {
     const QIcon icon = style()->standardIcon(QStyle::SP_MessageBoxWarning);
-    int unreadCount = 0;
-    for (const hints::Hint &hint : std::as_const(found))
-        unreadCount += hint.isUnread ? 1 : 0;
+    const int unreadCount = unread->count();
     for (int row = 0; row < documents->count(); ++row) {
         const vocabulary::Method *method = methodAt(row);
         QStringList texts;

@@ -107,8 +107,11 @@ private slots:
             "prefiscaldoc: { quantityFieldWidth = 10; priceFieldWidth = 10;"
             " totalPriceFieldWidth = 11; };",
             {"korvel.prefiscaldoc"}, "description");
-        row("the kitchen order has no prices",
-            doc("quantityFieldWidth = 28; priceFieldWidth = 9; totalPriceFieldWidth = 9;"), {}, {});
+        row("the kitchen order has no prices, and widths of them are not read",
+            doc("quantityFieldWidth = 28; priceFieldWidth = 9; totalPriceFieldWidth = 8;"),
+            {"korvel.doc.priceFieldWidth", "korvel.doc.priceFieldWidth.9",
+             "korvel.doc.totalPriceFieldWidth", "korvel.doc.totalPriceFieldWidth.8"},
+            "No document");
         row("the kitchen order's quantity is too wide", doc("quantityFieldWidth = 29;"),
             {"korvel.doc"}, "description");
         row("a paper wider than the printer's", doc("paperWidth = 33;"),
