@@ -185,6 +185,8 @@ void ExpertPane::edit(QTreeWidgetItem *row)
 /// Letters are neither a value nor a search: only these keys do something with a row.
 bool ExpertPane::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == view && event->type() == QEvent::FocusIn && view->currentItem())
+        emit entered(State::pathOf(view->currentItem()));
     // An open editor passes the keys on that it leaves alone.
     if (watched != view || event->type() != QEvent::KeyPress || !view->hasFocus())
         return false;

@@ -107,8 +107,6 @@ void SettingsWindow::buildPanes(const QString &renderer)
         item->setData(methodRole, QString(method.name));
     }
     documents->addItem(tr("Language"));
-    documents->addItem(tr("Read by nothing"));
-    documents->item(unreadRow())->setHidden(true);
     const int mark = documents->fontMetrics().height();
     documents->setIconSize({mark, mark});
     documents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -146,6 +144,7 @@ void SettingsWindow::connectPanes()
         if (selected.size() == 1 && selected.constFirst() != documents->currentItem())
             documents->setCurrentItem(selected.constFirst());
     });
+    connect(tabs, &QTabWidget::currentChanged, paper, [this] { paper->lightSetting({}); });
     connect(form, &FormPane::entered, paper, &PaperPane::lightSetting);
     connect(expert, &ExpertPane::entered, paper, &PaperPane::lightSetting);
     connect(paper, &PaperPane::settingChosen, this, &SettingsWindow::chooseSetting);
@@ -181,7 +180,10 @@ void SettingsWindow::chooseDocument(int row)
     if (method) {
         expert->openGroup(method->group);
         paper->showDocument(*method);
+    } else {
+        paper->lightSetting({});
     }
+    QTimer::singleShot(0, this, &SettingsWindow::showUnreadRow); // not while the list is clicked
 }
 
 /// Goes to the field of a setting, or to its row where the tree is shown.
@@ -239,7 +241,6 @@ void SettingsWindow::refresh()
 void SettingsWindow::markDocuments()
 {
     const QIcon icon = style()->standardIcon(QStyle::SP_MessageBoxWarning);
-    const int unreadCount = unread->count();
     for (int row = 0; row < documents->count(); ++row) {
         const vocabulary::Method *method = methodAt(row);
         QStringList texts;
@@ -254,9 +255,20 @@ void SettingsWindow::markDocuments()
         item->setToolTip(texts.join(u'\n'));
         item->setData(Qt::AccessibleDescriptionRole, texts.join(u". "_s));
     }
-    documents->item(unreadRow())->setText(tr("Read by nothing (%1)").arg(unreadCount));
-    documents->item(unreadRow())
-        ->setHidden(unreadCount == 0 && documents->currentRow() != unreadRow());
+    showUnreadRow();
+}
+
+/// Lists what nothing reads while there is any, or while it is shown. A hidden row would not do:
+/// screen readers find it.
+void SettingsWindow::showUnreadRow()
+{
+    const bool isWanted = unread->count() > 0 || documents->currentRow() == unreadRow();
+    if (isWanted && !documents->item(unreadRow()))
+        documents->addItem(QString());
+    else if (!isWanted)
+        delete documents->takeItem(unreadRow());
+    if (isWanted)
+        documents->item(unreadRow())->setText(tr("Read by nothing (%1)").arg(unread->count()));
 }
 
 void SettingsWindow::updateTitle()
