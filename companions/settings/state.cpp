@@ -79,7 +79,7 @@ QString namedSet(const QString &key, const QString &value)
         return State::tr("%1 on").arg(name);
     if (setting && setting->kind == vocabulary::Kind::Switch && value == "false"_L1)
         return State::tr("%1 off").arg(name);
-    return name + u' ' + (value.isEmpty() ? State::tr("empty") : value);
+    return name + u' ' + (value.isEmpty() ? fields::emptyValue() : value);
 }
 
 } // namespace

@@ -197,8 +197,10 @@ private slots:
         row("korvel.fiscaldoc.descriptionWidth",
             {"descriptionWidth", "characters of an item's name that are sent",
              "Read by: fiscal receipt."});
-        row("korvel.invoicedoc.topMargin", {"topMargin", "empty lines that geometry prints",
-                                            "Read by: invoice, summary invoice."});
+        row("korvel.invoicedoc.topMargin",
+            {"topMargin", "empty lines of the top margin", "Read by: invoice, summary invoice."});
+        row("korvel.receiptdoc.printDate", {"printDate", "the date of the order information"});
+        row("korvel.receiptdoc.printHeader", {"printHeader", "the header lines"});
         row("korvel.language.basedir", {"basedir", "folder"});
         row("korvel.language.file", {"file", "catalogue"});
     }
