@@ -124,6 +124,9 @@ void ExpertPane::showView()
     view->installEventFilter(this);
     view->expandToDepth(1);
     layout->insertWidget(0, view, 1);
+    setTabOrder(view, addSettingButton);
+    setTabOrder(addSettingButton, addGroupButton);
+    setTabOrder(addGroupButton, removeButton);
     connect(view, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem *row) {
         showCurrent();
         if (row)
