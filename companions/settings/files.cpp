@@ -69,9 +69,17 @@ void SettingsWindow::open()
     openPath(path);
 }
 
+/// Opens a file that is there and can be read; what was open stays where it is not.
 void SettingsWindow::openPath(const QString &path)
 {
-    document = std::make_unique<SettingsDocument>(path);
+    auto next = std::make_unique<SettingsDocument>(path);
+    const QString error =
+        next->exists() ? next->readError() : tr("There is no file %1.").arg(next->path());
+    if (!error.isEmpty()) {
+        tell(error);
+        return;
+    }
+    document = std::move(next);
     load();
     noteRecent();
 }

@@ -1,11 +1,13 @@
 // What the window shows, and how its parts follow one another.
 #include "companions/settings/window.h"
 
+#include "companions/check/checks.h"
 #include "companions/check/vocabulary.h"
 #include "companions/settings/expertpane.h"
 #include "companions/settings/fields.h"
 #include "companions/settings/formpane.h"
 #include "companions/settings/hints.h"
+#include "companions/settings/jobs.h"
 #include "companions/settings/paperpane.h"
 #include "companions/settings/unreadpane.h"
 
@@ -307,14 +309,20 @@ void SettingsWindow::dragEnterEvent(QDragEnterEvent *event)
         event->acceptProposedAction();
 }
 
-/// A job is shown.
+/// Settings are opened, a job is shown.
 void SettingsWindow::dropEvent(QDropEvent *event)
 {
     const QList<QUrl> urls = event->mimeData()->urls();
     if (urls.isEmpty())
         return;
     event->acceptProposedAction();
-    tell(paper->openJob(urls.constFirst().toLocalFile()));
+    const QString path = urls.constFirst().toLocalFile();
+    QString error;
+    const auto bytes = jobFile(path, error);
+    if (!bytes || !check::isSettings(*bytes))
+        tell(paper->openJob(path));
+    else if (mayDiscardEdits())
+        openPath(path);
 }
 
 } // namespace korvel::settings

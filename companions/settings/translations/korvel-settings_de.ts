@@ -1671,6 +1671,10 @@ Mit den Beispieleinstellungen beginnen?</translation>
         <source>Exported: %1</source>
         <translation>Exportiert: %1</translation>
     </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Es gibt keine Datei %1.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::State</name>

@@ -1671,6 +1671,10 @@ Begin with the sample settings?</source>
         <source>Exported: %1</source>
         <translation>Exportado: %1</translation>
     </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>No hay ningún archivo %1.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::State</name>

@@ -1671,6 +1671,10 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
         <source>Exported: %1</source>
         <translation>Exporté&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Il n&apos;y a pas de fichier %1.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::State</name>

@@ -1671,6 +1671,10 @@ Iniziare con le impostazioni di esempio?</translation>
         <source>Exported: %1</source>
         <translation>Esportato: %1</translation>
     </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Non esiste alcun file %1.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::State</name>
