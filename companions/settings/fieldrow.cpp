@@ -226,13 +226,19 @@ bool FieldRow::isBeingTyped() const
     return line && line->text() != state.value(settingPath).value_or(QString());
 }
 
-/// What is typed is undone by the field, what was chosen by the window.
+/// What is typed is undone by the field, and given up by Escape; what was chosen is undone by the
+/// window.
 bool FieldRow::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != editor)
         return false;
     if (event->type() == QEvent::FocusIn)
         emit entered();
+    if (event->type() == QEvent::KeyPress && isBeingTyped()
+        && static_cast<const QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        showValue(state.value(settingPath));
+        return true;
+    }
     if (event->type() != QEvent::ShortcutOverride || isBeingTyped())
         return false;
     const auto *key = static_cast<const QKeyEvent *>(event);

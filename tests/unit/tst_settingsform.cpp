@@ -126,6 +126,27 @@ private slots:
         TRY_STREAM(editor, example("expected/receipt.out"));
     }
 
+    void escapeGivesUpWhatIsTyped()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        editor.showForm();
+        editor.activate();
+        QSpinBox *width = editor.number("receiptdoc.paperWidth");
+        width->setFocus();
+        width->selectAll();
+        Editor::type("4");
+        Editor::press(Qt::Key_Escape);
+        QCOMPARE(width->text(), QString("32"));
+        auto *style = editor.field<QLineEdit>("receiptdoc.style");
+        style->setFocus();
+        Editor::type("bold");
+        Editor::press(Qt::Key_Escape);
+        QCOMPARE(style->text(), QString());
+        Editor::press(Qt::Key_Tab);
+        QVERIFY(!editor.window.isWindowModified());
+    }
+
     void savingTakesWhatIsBeingTyped()
     {
         const TemporaryHome home(example("korvel.conf"));
