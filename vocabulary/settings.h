@@ -91,7 +91,7 @@ inline constexpr Setting rows[] = {
      QT_TRANSLATE_NOOP("vocabulary", "read and discarded")},
     {topMargin,            Kind::Number, "lines"_L1,      shared,
      QT_TRANSLATE_NOOP("vocabulary",
-                       "empty lines that `geometry` prints; none when negative, 65536 at most")},
+                       "empty lines of the top margin; none when negative, 65536 at most")},
     {descriptionWidth,     Kind::Number, "characters"_L1, FiscalReceipt,
      QT_TRANSLATE_NOOP("vocabulary",
                        "characters of an item's name that are sent. 0 is the printer's width; "
@@ -101,7 +101,7 @@ inline constexpr Setting rows[] = {
      QT_TRANSLATE_NOOP("vocabulary", "the top margin")},
     {printHeader,          Kind::Switch, "switch"_L1,     shared,
      QT_TRANSLATE_NOOP("vocabulary",
-                       "the lines of `headers`. The printer's name after them has no switch")},
+                       "the header lines. The printer's name after them has no switch")},
     {printLogo,            Kind::Switch, "switch"_L1,     0,
      QT_TRANSLATE_NOOP("vocabulary", "nothing: kept for printers with a logo")},
     {printCompany,         Kind::Switch, "switch"_L1,     shared,
@@ -113,11 +113,11 @@ inline constexpr Setting rows[] = {
     {printTelephone,       Kind::Switch, "switch"_L1,     withCustomer,
      QT_TRANSLATE_NOOP("vocabulary", "the customer's telephone")},
     {printDate,            Kind::Switch, "switch"_L1,     shared,
-     QT_TRANSLATE_NOOP("vocabulary", "the date of `orderinfo`")},
+     QT_TRANSLATE_NOOP("vocabulary", "the date of the order information")},
     {printTime,            Kind::Switch, "switch"_L1,     shared,
-     QT_TRANSLATE_NOOP("vocabulary", "the time of `orderinfo`")},
+     QT_TRANSLATE_NOOP("vocabulary", "the time of the order information")},
     {printTable,           Kind::Switch, "switch"_L1,     shared,
-     QT_TRANSLATE_NOOP("vocabulary", "the table of `orderinfo`")},
+     QT_TRANSLATE_NOOP("vocabulary", "the table of the order information")},
     {printCustomer,        Kind::Switch, "switch"_L1,     withCustomer,
      QT_TRANSLATE_NOOP("vocabulary",
                        "the whole customer block; the customer's other switches count only "
@@ -127,11 +127,11 @@ inline constexpr Setting rows[] = {
     {printFiscalCode,      Kind::Switch, "switch"_L1,     withCustomer,
      QT_TRANSLATE_NOOP("vocabulary", "the customer's fiscal code")},
     {printCredit,          Kind::Switch, "switch"_L1,     shared,
-     QT_TRANSLATE_NOOP("vocabulary", "the credit of `orderinfo`")},
+     QT_TRANSLATE_NOOP("vocabulary", "the credit of the order information")},
     {printWaiter,          Kind::Switch, "switch"_L1,     shared,
-     QT_TRANSLATE_NOOP("vocabulary", "the waiter of `orderinfo`")},
+     QT_TRANSLATE_NOOP("vocabulary", "the waiter of the order information")},
     {printNote,            Kind::Switch, "switch"_L1,     shared,
-     QT_TRANSLATE_NOOP("vocabulary", "the note of `orderinfo`")},
+     QT_TRANSLATE_NOOP("vocabulary", "the note of the order information")},
     {openCashDrawer,       Kind::Switch, "switch"_L1,     0,
      QT_TRANSLATE_NOOP("vocabulary", "nothing: kept for printers with a drawer")},
 };
@@ -147,7 +147,10 @@ inline constexpr auto file = "file"_L1;
 // clang-format off
 inline constexpr LanguageSetting rows[] = {
     {basedir, "path"_L1, QT_TRANSLATE_NOOP("vocabulary", "the folder of the catalogues")},
-    {file,    "text"_L1, QT_TRANSLATE_NOOP("vocabulary", "which catalogue; begins with `/`")},
+    {file,    "text"_L1,
+     QT_TRANSLATE_NOOP("vocabulary",
+                       "which catalogue: its name is put right behind the folder, and begins "
+                       "with `/`")},
 };
 // clang-format on
 

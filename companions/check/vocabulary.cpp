@@ -102,6 +102,20 @@ const Setting *findSetting(QAnyStringView key)
     return find(settings(), [&](const Setting &row) { return row.key == key; });
 }
 
+bool isRead(const Setting &row, Documents documents)
+{
+    return documents != 0 && (row.documents == 0 || (row.documents & documents) != 0);
+}
+
+bool isRead(QAnyStringView group, QAnyStringView key)
+{
+    if (group == group::language)
+        return find(languageSettings(), [&](const LanguageSetting &row) { return row.key == key; })
+               != nullptr;
+    const Setting *setting = findSetting(key);
+    return setting && isRead(*setting, documentsOf(group));
+}
+
 const QStringList &groupNames()
 {
     static const QStringList names = [] {

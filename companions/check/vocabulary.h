@@ -68,6 +68,12 @@ const QList<Attribute> &attributesOf(QAnyStringView element, Document document);
 /// The setting of that key; null when there is none.
 const Setting *findSetting(QAnyStringView key);
 
+/// Whether one of these documents reads a setting: prints by it, or would if anything did.
+bool isRead(const Setting &row, Documents documents);
+
+/// Whether anything reads a setting that stands in that group.
+bool isRead(QAnyStringView group, QAnyStringView key);
+
 /// The groups that may have settings, in that of the file: "language" and those of documents.
 const QStringList &groupNames();
 

@@ -1,6 +1,8 @@
 // The dialog's fields, and what names may be.
 #include "companions/settings/adddialog.h"
 
+#include "companions/settings/buttons.h"
+
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -50,6 +52,7 @@ AddDialog::AddDialog(What what, const QStringList &groups, const QStringList &se
     valueLine->setObjectName(u"newValue"_s);
     form->addRow(tr("&Value:"), valueLine);
     form->addRow(buttons);
+    nameButtons(*buttons);
     buttons->button(QDialogButtonBox::Ok)->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -1,6 +1,7 @@
 // Reading, comparing and saving a settings file through the store.
 #include "companions/settings/document.h"
 
+#include "companions/settings/fields.h"
 #include "config/config.h"
 #include "config/path.h"
 #include "config/statements.h"
@@ -185,8 +186,8 @@ QStringList SettingsDocument::losses(const QTreeWidget &view) const
             continue;
         if (const auto kept = after.take(row); kept && !row.isTaken) {
             if (kept->value != row.value)
-                lines.append(
-                    tr("%1 would be \"%2\" instead of \"%3\".").arg(name, kept->value, row.value));
+                lines.append(tr("%1 would be \"%2\" instead of \"%3\".")
+                                 .arg(fields::labelOf(row.path), kept->value, row.value));
             continue;
         }
         lost = row.path;
@@ -199,7 +200,7 @@ QStringList SettingsDocument::losses(const QTreeWidget &view) const
         else if (!row.isSetting || row.isTaken)
             lines.append(tr("The group %1 would be moved to another place.").arg(name));
         else
-            lines.append(tr("The setting %1 would be lost.").arg(name));
+            lines.append(tr("The setting %1 would be lost.").arg(fields::labelOf(row.path)));
     }
     return lines;
 }
@@ -209,6 +210,9 @@ QString SettingsDocument::save(const QTreeWidget &view)
     const QString folder = QFileInfo(filePath).path();
     if (!QDir().mkpath(folder))
         return tr("The folder %1 cannot be made.").arg(folder);
+    // The backup would be empty, and the one before it lost.
+    if (const QString error = readError(); !error.isEmpty())
+        return error;
     const QByteArray expected = writtenBy(view, notation);
     const QByteArray before = bytesOnDisk();
     const bool wasThere = exists();

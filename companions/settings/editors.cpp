@@ -35,14 +35,25 @@ std::optional<QString> fromVariant(const QVariant &text)
 /// A language by its own name; the catalogue's where there is none.
 QString languageOf(const QString &catalogue)
 {
-    const QLocale locale(catalogue.section(u'_', 1));
-    return locale.language() == QLocale::C ? catalogue
-                                           : fields::capitalised(locale.nativeLanguageName());
+    const QString code = catalogue.section(u'_', 1);
+    const QLocale locale(code);
+    if (locale.language() == QLocale::C)
+        return catalogue;
+    QString name = locale.nativeLanguageName();
+    if (code.contains(u'_'))
+        return fields::capitalised(name);
+    // "español de España": the toolkit takes a language for that of its first country.
+    const auto spoken =
+        QLocale::matchingLocales(locale.language(), locale.script(), QLocale::AnyTerritory);
+    for (const QLocale &other : spoken) {
+        const QString plain = other.nativeLanguageName();
+        if (!plain.isEmpty() && name.contains(plain))
+            name = plain;
+    }
+    return fields::capitalised(name);
 }
 
 } // namespace
-
-QString notSet() { return QCoreApplication::translate("fields", "not set"); }
 
 NumberBox::NumberBox(int least, int standard, QWidget *parent)
     : QSpinBox(parent)
@@ -62,7 +73,7 @@ void NumberBox::show(const std::optional<QString> &text)
     bool isNumber = false;
     const int number = text.value_or(QString()).toInt(&isNumber);
     const bool fits = isNumber && number > none() && number <= maximum();
-    setSpecialValueText(text ? u'"' + *text + u'"' : notSet());
+    setSpecialValueText(text ? u'"' + *text + u'"' : fields::notSet());
     setValue(fits ? number : none());
 }
 
@@ -107,7 +118,7 @@ void SwitchBox::show(const std::optional<QString> &text)
     const bool isOn = text == vocabulary::on;
     setCheckState(!text ? Qt::PartiallyChecked : isOn ? Qt::Checked : Qt::Unchecked);
     if (!text)
-        setText(notSet());
+        setText(fields::notSet());
     else if (isOn)
         setText(tr("on"));
     else if (*text == "false"_L1)
@@ -143,7 +154,7 @@ void CatalogueBox::show(const std::optional<QString> &folder, const std::optiona
         setItemData(count() - 1, toVariant(itsFolder), folderRole);
         setItemData(count() - 1, toVariant(itsFile), fileRole);
     };
-    add(tr("%1: labels in English").arg(notSet()), {}, {});
+    add(tr("%1: labels in English").arg(fields::notSet()), {}, {});
     for (const QString &place : folders) {
         const QStringList names = QDir(place).entryList({u"korvel_*.qm"_s}, QDir::Files);
         for (const QString &name : names) {
@@ -153,7 +164,7 @@ void CatalogueBox::show(const std::optional<QString> &folder, const std::optiona
         }
     }
     const QString named = folder.value_or(QString()) + file.value_or(QString());
-    int current = named.isEmpty() ? 0 : -1;
+    int current = named.isEmpty() && !file ? 0 : -1;
     for (int i = 1; i < count() && current < 0; ++i) {
         const QString path = itemData(i, folderRole).toString() + itemData(i, fileRole).toString();
         if (path == named || path + ".qm"_L1 == named)
@@ -161,7 +172,11 @@ void CatalogueBox::show(const std::optional<QString> &folder, const std::optiona
     }
     if (current < 0) {
         current = count();
-        add(u'"' + named + u'"', folder, file);
+        add(named.isEmpty()  ? tr("%1: labels in English").arg(fields::emptyValue())
+            : file == "/"_L1 ? tr("the language of the system")
+                             : u'"' + named + u'"',
+            folder, file);
+        setItemData(current, named, Qt::ToolTipRole);
     }
     setCurrentIndex(current);
 }

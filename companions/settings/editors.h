@@ -10,9 +10,6 @@
 
 namespace korvel::settings {
 
-/// What stands in a field for a setting that is not set.
-QString notSet();
-
 /// A whole number. One step below its least is "not set"; a text that is no such number is shown as
 /// it is.
 class NumberBox : public QSpinBox

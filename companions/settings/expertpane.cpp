@@ -3,6 +3,7 @@
 
 #include "companions/check/vocabulary.h"
 #include "companions/settings/adddialog.h"
+#include "companions/settings/fields.h"
 #include "companions/settings/hints.h"
 #include "companions/settings/state.h"
 #include "config/config.h"
@@ -59,15 +60,10 @@ QStringList namesBelow(const QTreeWidgetItem &group, bool settings)
 QStringList missingKeys(const QString &group, const QStringList &present)
 {
     QStringList keys;
-    if (group == vocabulary::group::language) {
-        for (const vocabulary::LanguageSetting &setting : vocabulary::languageSettings())
-            keys.append(setting.key);
-    } else if (vocabulary::documentsOf(group) != 0) {
-        for (const vocabulary::Setting &setting : vocabulary::settings())
-            keys.append(setting.key);
+    for (const fields::Field &field : fields::all()) {
+        if (vocabulary::isRead(group, field.key) && !present.contains(field.key))
+            keys.append(field.key);
     }
-    for (const QString &key : present)
-        keys.removeAll(key);
     return keys;
 }
 
@@ -128,6 +124,9 @@ void ExpertPane::showView()
     view->installEventFilter(this);
     view->expandToDepth(1);
     layout->insertWidget(0, view, 1);
+    setTabOrder(view, addSettingButton);
+    setTabOrder(addSettingButton, addGroupButton);
+    setTabOrder(addGroupButton, removeButton);
     connect(view, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem *row) {
         showCurrent();
         if (row)
@@ -189,6 +188,8 @@ void ExpertPane::edit(QTreeWidgetItem *row)
 /// Letters are neither a value nor a search: only these keys do something with a row.
 bool ExpertPane::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == view && event->type() == QEvent::FocusIn && view->currentItem())
+        emit entered(State::pathOf(view->currentItem()));
     // An open editor passes the keys on that it leaves alone.
     if (watched != view || event->type() != QEvent::KeyPress || !view->hasFocus())
         return false;

@@ -42,7 +42,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
-    /// The row of a setting has become the current one.
+    /// The row of a setting has become the current one, or has got the focus.
     void entered(const QStringList &path);
 
 private:

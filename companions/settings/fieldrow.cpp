@@ -39,7 +39,8 @@ const char *meaningOf(const QString &name)
 /// A value as the menu shows it.
 QString shown(const std::optional<QString> &value)
 {
-    return value ? value->isEmpty() ? u"\"\""_s : QString(*value).replace(u'&', "&&"_L1) : notSet();
+    return value ? value->isEmpty() ? u"\"\""_s : QString(*value).replace(u'&', "&&"_L1)
+                 : fields::notSet();
 }
 
 } // namespace
@@ -148,7 +149,7 @@ QWidget *FieldRow::makeText()
             state.set(settingPath, line->text());
     });
     showValue = [line](const auto &text) {
-        line->setPlaceholderText(text ? tr("empty") : notSet());
+        line->setPlaceholderText(text ? fields::emptyValue() : fields::notSet());
         if (line->text() != text.value_or(QString()))
             line->setText(text.value_or(QString()));
     };
@@ -187,7 +188,9 @@ void FieldRow::refresh(const QString &warning)
     warningLabel->setVisible(!warning.isEmpty());
     QStringList description{meaning};
     if (!value)
-        description.append(notSet());
+        description.append(fields::notSet());
+    else if (value->isEmpty())
+        description.append(fields::emptyValue());
     if (!warning.isEmpty())
         description.append(warning);
     editor->setAccessibleDescription(description.join(u". "_s));
@@ -223,13 +226,19 @@ bool FieldRow::isBeingTyped() const
     return line && line->text() != state.value(settingPath).value_or(QString());
 }
 
-/// What is typed is undone by the field, what was chosen by the window.
+/// What is typed is undone by the field, and given up by Escape; what was chosen is undone by the
+/// window.
 bool FieldRow::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != editor)
         return false;
     if (event->type() == QEvent::FocusIn)
         emit entered();
+    if (event->type() == QEvent::KeyPress && isBeingTyped()
+        && static_cast<const QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        showValue(state.value(settingPath));
+        return true;
+    }
     if (event->type() != QEvent::ShortcutOverride || isBeingTyped())
         return false;
     const auto *key = static_cast<const QKeyEvent *>(event);

@@ -80,6 +80,18 @@ QString nameOf(const QString &key)
 
 QString titleOf(const QString &key) { return find(key) ? capitalised(nameOf(key)) : key; }
 
+QString labelOf(const QStringList &path)
+{
+    const QString name = path.join(u'.');
+    const bool isInForm = path.size() == 3 && path[0] == vocabulary::group::korvel
+                          && vocabulary::isRead(path[1], path[2]);
+    return isInForm ? titleOf(path[2]) + u" ("_s + name + u')' : name;
+}
+
+QString notSet() { return QCoreApplication::translate("fields", "not set"); }
+
+QString emptyValue() { return QCoreApplication::translate("fields", "empty"); }
+
 QString headingOf(Section section)
 {
     return QCoreApplication::translate("fields", headings[static_cast<std::size_t>(section)]);

@@ -30,6 +30,13 @@ QString nameOf(const QString &key);
 /// The same as a heading.
 QString titleOf(const QString &key);
 
+/// What the form calls a setting, with its path behind; for what is in no form the path alone.
+QString labelOf(const QStringList &path);
+
+/// What stands for a value that is not there, and for one without a character.
+QString notSet();
+QString emptyValue();
+
 /// The heading of a section.
 QString headingOf(Section section);
 

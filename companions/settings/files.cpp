@@ -1,6 +1,7 @@
 // What the window does to files: the settings, and the paper as a picture.
 #include "companions/preview/picture.h"
 #include "companions/preview/rollpdf.h"
+#include "companions/settings/buttons.h"
 #include "companions/settings/expertpane.h"
 #include "companions/settings/jobs.h"
 #include "companions/settings/paperpane.h"
@@ -28,7 +29,8 @@ namespace korvel::settings {
 namespace {
 
 constexpr qsizetype mostRecent = 8;
-constexpr int receiptRow = 2; // what most shops print most comes first
+constexpr int messageTime = 8000; // milliseconds
+constexpr int receiptRow = 2;     // what most shops print most comes first
 
 /// The paper as a file's bytes, by the end of its name; why there are none.
 QByteArray pictureOf(const QList<preview::PaperRow> &rows, const QString &path, QString &error)
@@ -67,9 +69,17 @@ void SettingsWindow::open()
     openPath(path);
 }
 
+/// Opens a file that is there and can be read; what was open stays where it is not.
 void SettingsWindow::openPath(const QString &path)
 {
-    document = std::make_unique<SettingsDocument>(path);
+    auto next = std::make_unique<SettingsDocument>(path);
+    const QString error =
+        next->exists() ? next->readError() : tr("There is no file %1.").arg(next->path());
+    if (!error.isEmpty()) {
+        tell(error);
+        return;
+    }
+    document = std::move(next);
     load();
     noteRecent();
 }
@@ -118,7 +128,7 @@ bool SettingsWindow::save()
     updateTitle();
     if (!losses.isEmpty())
         load(); // so that the tree shows what was kept
-    statusBar()->showMessage(tr("Saved: %1").arg(document->path()), 8000);
+    statusBar()->showMessage(tr("Saved: %1").arg(document->path()), messageTime);
     return true;
 }
 
@@ -154,6 +164,7 @@ bool SettingsWindow::mayDiscardEdits()
     QMessageBox box(QMessageBox::Question, tr("Settings"),
                     tr("There are edits that are not saved."),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    nameButtons(box);
     box.setDefaultButton(QMessageBox::Cancel);
     const int answer = box.exec();
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
@@ -166,8 +177,7 @@ void SettingsWindow::exportPaper()
         tell(tr("There is no paper."));
         return;
     }
-    const QString path = QFileDialog::getSaveFileName(this, tr("Export the paper"), QString(),
-                                                      tr("PDF (*.pdf);;PNG (*.png)"));
+    const QString path = exportPath();
     if (path.isEmpty())
         return;
     QString error;
@@ -178,6 +188,20 @@ void SettingsWindow::exportPaper()
             || !file.commit()))
         error = tr("%1 cannot be written: %2").arg(path, file.errorString());
     tell(error);
+    if (error.isEmpty())
+        statusBar()->showMessage(tr("Exported: %1").arg(path), messageTime);
+}
+
+/// Where the paper is to go, a PDF or a picture by the end of the name; empty for nowhere.
+QString SettingsWindow::exportPath()
+{
+    QFileDialog dialog(this, tr("Export the paper"), QString(), tr("PDF (*.pdf);;PNG (*.png)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(u"pdf"_s);
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString &filter) {
+        dialog.setDefaultSuffix(filter.contains(".png"_L1) ? u"png"_s : u"pdf"_s);
+    });
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 /// Says what went wrong, if anything did. Names and values may hold what looks like markup.
@@ -186,6 +210,7 @@ void SettingsWindow::tell(const QString &text)
     if (text.isEmpty())
         return;
     QMessageBox box(QMessageBox::Warning, tr("Settings"), text, QMessageBox::Ok, this);
+    nameButtons(box);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
@@ -197,6 +222,7 @@ bool SettingsWindow::ask(const QString &question, const QStringList &details, co
     QMessageBox box(QMessageBox::Warning, tr("Settings"), text, QMessageBox::Cancel, this);
     box.setTextFormat(Qt::PlainText);
     const QPushButton *yes = box.addButton(goOn, QMessageBox::AcceptRole);
+    nameButtons(box);
     box.setDefaultButton(QMessageBox::Cancel);
     box.exec();
     return box.clickedButton() == yes;
@@ -209,6 +235,7 @@ void SettingsWindow::offerSample()
                         .arg(document->path()),
                     QMessageBox::Yes | QMessageBox::No, this);
     box.setTextFormat(Qt::PlainText);
+    nameButtons(box);
     box.setDefaultButton(QMessageBox::Yes);
     if (box.exec() != QMessageBox::Yes)
         return;

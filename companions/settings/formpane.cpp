@@ -23,8 +23,7 @@ bool belongs(const fields::Field &field, const vocabulary::Method *method)
     if (field.section == fields::Section::Language)
         return !method;
     const vocabulary::Setting *setting = vocabulary::findSetting(field.key);
-    return method && setting
-           && (setting->documents == 0 || (setting->documents & method->document) != 0);
+    return method && setting && vocabulary::isRead(*setting, method->document);
 }
 
 QLabel *newText(const QString &text)

@@ -52,13 +52,14 @@ QString localised(const char *text)
     return QCoreApplication::translate("korvel::settings::hints", text);
 }
 
-QString warningOf(const check::Finding &finding)
+/// The warning of a code; empty for one whose findings say it themselves.
+QString warningOf(check::Code code)
 {
     for (const Warning &row : warnings) {
-        if (finding.code == row.code)
+        if (code == row.code)
             return localised(row.text);
     }
-    return finding.text;
+    return {};
 }
 
 using Rows = QHash<QStringList, QList<QTreeWidgetItem *>>;
@@ -74,6 +75,22 @@ void noteRows(QTreeWidgetItem &parent, const QStringList &path, Rows &rows)
         const QStringList own = path + QStringList(row.text(0));
         rows[own].append(&row);
         noteRows(row, own, rows);
+    }
+}
+
+/// Notes what nothing reads of the settings and groups in a group: in `korvel` those of documents
+/// are read, in these what the vocabulary has.
+void noteUnread(const QTreeWidgetItem &group, QList<QTreeWidgetItem *> &unread)
+{
+    const bool isOutermost = group.parent() && !group.parent()->parent();
+    for (int i = 0; i < group.childCount(); ++i) {
+        QTreeWidgetItem *row = group.child(i);
+        const QString name = row->text(0);
+        const bool isSetting = Config::isSetting(row);
+        if (isOutermost && !isSetting && vocabulary::groupNames().contains(name))
+            noteUnread(*row, unread);
+        else if (isOutermost || !isSetting || !vocabulary::isRead(group.text(0), name))
+            unread.append(row);
     }
 }
 
@@ -100,7 +117,9 @@ QList<Hint> find(const QByteArray &settings)
     for (const check::Finding &finding : checkSettings(file)) {
         const bool isUnread =
             finding.code == check::Code::UnreadKey || finding.code == check::Code::LostGroup;
-        found.append({finding.setting, finding.occurrence, warningOf(finding), isUnread});
+        const QString warning = warningOf(finding.code);
+        found.append({finding.setting, finding.occurrence,
+                      warning.isEmpty() ? finding.text : warning, isUnread});
     }
     return found;
 }
@@ -117,16 +136,37 @@ void mark(QTreeWidget &view, const QList<Hint> &found)
     Rows rows;
     for (int i = 0; i < view.topLevelItemCount(); ++i)
         noteRows(*view.topLevelItem(i), {}, rows);
-    for (const Hint &hint : found) {
-        QTreeWidgetItem *row = rows.value(hint.setting).value(hint.occurrence);
-        if (!row)
-            continue;
+    const auto markRow = [&](QTreeWidgetItem *row, const QString &text) {
         for (QTreeWidgetItem *item : {row, Config::isSetting(row) ? row->child(0) : row}) {
             item->setIcon(0, icon);
-            item->setToolTip(0, hint.text);
-            item->setData(0, Qt::AccessibleDescriptionRole, hint.text);
+            item->setToolTip(0, text);
+            item->setData(0, Qt::AccessibleDescriptionRole, text);
         }
+    };
+    for (const Hint &hint : found) {
+        if (QTreeWidgetItem *row = rows.value(hint.setting).value(hint.occurrence))
+            markRow(row, hint.text);
     }
+    // The checker is silent about what another document would read.
+    for (QTreeWidgetItem *row : unreadRows(view)) {
+        if (row->toolTip(0).isEmpty())
+            markRow(row, warningOf(check::Code::UnreadKey));
+    }
+}
+
+QList<QTreeWidgetItem *> unreadRows(const QTreeWidget &view)
+{
+    QList<QTreeWidgetItem *> unread;
+    const QTreeWidgetItem *file = view.topLevelItem(0);
+    const QTreeWidgetItem *searched = State::firstGroup(view);
+    for (int i = 0; file && i < file->childCount(); ++i) {
+        QTreeWidgetItem *row = file->child(i);
+        if (row == searched && row->text(0) == vocabulary::group::korvel)
+            noteUnread(*row, unread);
+        else
+            unread.append(row);
+    }
+    return unread;
 }
 
 QString meaningOf(const QTreeWidgetItem *row)

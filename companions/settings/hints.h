@@ -28,6 +28,10 @@ QList<Hint> find(const QByteArray &settings);
  */
 void mark(QTreeWidget &view, const QList<Hint> &found);
 
+/// The rows of settings and groups that nothing reads, in the order of the view: what is in none of
+/// the forms. Of a group that is not read there is its row alone.
+QList<QTreeWidgetItem *> unreadRows(const QTreeWidget &view);
+
 /// What a row means and which documents read it, as rich text; empty for no row.
 QString meaningOf(const QTreeWidgetItem *row);
 

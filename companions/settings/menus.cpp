@@ -62,7 +62,7 @@ void SettingsWindow::buildEditMenu()
         QAction *action = menu->addAction(text);
         action->setShortcut(shortcut);
         connect(action, &QAction::triggered, this, [this, change] {
-            if (FieldRow *row = form->current())
+            if (FieldRow *row = form->current(); row && form->isVisible())
                 (row->*change)();
         });
     };

@@ -74,6 +74,8 @@ PaperPane::PaperPane(State &theSettings, const QString &renderer, QWidget *paren
     connect(&origins, &Origins::makersFound, this, &PaperPane::showMakers);
     connect(&origins, &Origins::rowsFound, this,
             [this](const QStringList &setting, const QList<int> &found) {
+                if (setting != litSetting) // the light went elsewhere meanwhile
+                    return;
                 std::optional<Span> span;
                 for (const ColumnEdge &edge : ruler->edges()) {
                     if (edge.setting == setting)

@@ -15,17 +15,6 @@ namespace korvel::settings {
 
 namespace {
 
-/// The row of the group that look-ups begin with: the first one.
-QTreeWidgetItem *firstGroup(const QTreeWidget &view)
-{
-    const QTreeWidgetItem *file = view.topLevelItem(0);
-    for (int i = 0; file && i < file->childCount(); ++i) {
-        if (!Config::isSetting(file->child(i)))
-            return file->child(i);
-    }
-    return nullptr;
-}
-
 /// Notes the settings of a group and of those in it. An empty value gives way to a later one.
 void noteValues(const QTreeWidgetItem &group, const QStringList &path, Values &values)
 {
@@ -90,15 +79,25 @@ QString namedSet(const QString &key, const QString &value)
         return State::tr("%1 on").arg(name);
     if (setting && setting->kind == vocabulary::Kind::Switch && value == "false"_L1)
         return State::tr("%1 off").arg(name);
-    return name + u' ' + (value.isEmpty() ? State::tr("empty") : value);
+    return name + u' ' + (value.isEmpty() ? fields::emptyValue() : value);
 }
 
 } // namespace
 
+QTreeWidgetItem *State::firstGroup(const QTreeWidget &view)
+{
+    const QTreeWidgetItem *file = view.topLevelItem(0);
+    for (int i = 0; file && i < file->childCount(); ++i) {
+        if (!Config::isSetting(file->child(i)))
+            return file->child(i);
+    }
+    return nullptr;
+}
+
 Values valuesOf(const QTreeWidget &view)
 {
     Values values;
-    if (const QTreeWidgetItem *group = firstGroup(view))
+    if (const QTreeWidgetItem *group = State::firstGroup(view))
         noteValues(*group, {group->text(0)}, values);
     return values;
 }
@@ -269,12 +268,12 @@ void State::markSaved()
     stack.setClean();
 }
 
-QTreeWidgetItem *State::rowOf(const QStringList &path, int occurrence) const
+QTreeWidgetItem *State::rowOf(const QStringList &path) const
 {
     QList<QTreeWidgetItem *> found;
     for (int i = 0; !path.isEmpty() && i < rows->topLevelItemCount(); ++i)
         findRows(*rows->topLevelItem(i), path, found);
-    return found.value(occurrence);
+    return found.value(0);
 }
 
 QStringList State::pathOf(const QTreeWidgetItem *row)

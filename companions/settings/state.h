@@ -70,9 +70,11 @@ public:
     /// What is there now is what the file has.
     void markSaved();
 
-    /// The first row that a path of names leads to, or the one behind so many others; null when
-    /// there is none.
-    [[nodiscard]] QTreeWidgetItem *rowOf(const QStringList &path, int occurrence = 0) const;
+    /// The row of the group that all look-ups begin with, whatever its name; null without any.
+    [[nodiscard]] static QTreeWidgetItem *firstGroup(const QTreeWidget &view);
+
+    /// The first row that a path of names leads to; null when there is none.
+    [[nodiscard]] QTreeWidgetItem *rowOf(const QStringList &path) const;
 
     /// Names from the top-level group on to a row; a value's row counts as its setting's.
     [[nodiscard]] static QStringList pathOf(const QTreeWidgetItem *row);

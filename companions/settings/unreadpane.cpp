@@ -1,14 +1,18 @@
 // The list and its one button.
 #include "companions/settings/unreadpane.h"
 
+#include "companions/settings/hints.h"
 #include "companions/settings/state.h"
+#include "config/config.h"
 
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
+using libconfig::Config;
 
 namespace korvel::settings {
 
@@ -32,30 +36,24 @@ UnreadPane::UnreadPane(State &settings, QWidget *parent)
             [this](int row) { removeButton->setEnabled(row >= 0); });
 }
 
-void UnreadPane::refresh(const QList<hints::Hint> &found)
+void UnreadPane::refresh()
 {
-    const int row = list->currentRow();
-    unread.clear();
+    const int current = list->currentRow();
     list->clear();
-    for (const hints::Hint &hint : found) {
-        if (!hint.isUnread || !state.rowOf(hint.setting, hint.occurrence))
-            continue;
-        unread.append(hint);
-        const auto value = state.value(hint.setting);
-        list->addItem(hint.setting.join(u'.') + (value ? u" = "_s + *value : QString()));
+    for (const QTreeWidgetItem *row : hints::unreadRows(*state.view())) {
+        const QString name = State::pathOf(row).join(u'.');
+        list->addItem(Config::isSetting(row) ? name + u" = "_s + row->child(0)->text(0) : name);
     }
     removeButton->setEnabled(false);
-    list->setCurrentRow(std::min(row, list->count() - 1));
+    list->setCurrentRow(std::min(current, list->count() - 1));
 }
+
+int UnreadPane::count() const { return list->count(); }
 
 void UnreadPane::remove()
 {
-    const int row = list->currentRow();
-    if (row < 0)
-        return;
-    const hints::Hint hint = unread[row];
-    if (QTreeWidgetItem *item = state.rowOf(hint.setting, hint.occurrence))
-        state.remove(*item);
+    if (QTreeWidgetItem *row = hints::unreadRows(*state.view()).value(list->currentRow()))
+        state.remove(*row);
 }
 
 } // namespace korvel::settings

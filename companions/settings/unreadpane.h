@@ -1,8 +1,6 @@
 // What of the settings nothing reads: kept when saved, or removed.
 #pragma once
 
-#include "companions/settings/hints.h"
-
 #include <QWidget>
 
 class QListWidget;
@@ -21,14 +19,16 @@ public:
     /// @param settings outlive the pane
     explicit UnreadPane(State &settings, QWidget *parent = nullptr);
 
-    /// Takes those of the hints that are about such.
-    void refresh(const QList<hints::Hint> &found);
+    /// Brings the list in line with the state.
+    void refresh();
+
+    /// How many there are.
+    [[nodiscard]] int count() const;
 
 private:
     void remove();
 
     State &state;
-    QList<hints::Hint> unread;
     QListWidget *list;
     QPushButton *removeButton;
 };

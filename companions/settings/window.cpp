@@ -1,11 +1,13 @@
 // What the window shows, and how its parts follow one another.
 #include "companions/settings/window.h"
 
+#include "companions/check/checks.h"
 #include "companions/check/vocabulary.h"
 #include "companions/settings/expertpane.h"
 #include "companions/settings/fields.h"
 #include "companions/settings/formpane.h"
 #include "companions/settings/hints.h"
+#include "companions/settings/jobs.h"
 #include "companions/settings/paperpane.h"
 #include "companions/settings/unreadpane.h"
 
@@ -107,8 +109,6 @@ void SettingsWindow::buildPanes(const QString &renderer)
         item->setData(methodRole, QString(method.name));
     }
     documents->addItem(tr("Language"));
-    documents->addItem(tr("Read by nothing"));
-    documents->item(unreadRow())->setHidden(true);
     const int mark = documents->fontMetrics().height();
     documents->setIconSize({mark, mark});
     documents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -146,6 +146,7 @@ void SettingsWindow::connectPanes()
         if (selected.size() == 1 && selected.constFirst() != documents->currentItem())
             documents->setCurrentItem(selected.constFirst());
     });
+    connect(tabs, &QTabWidget::currentChanged, paper, [this] { paper->lightSetting({}); });
     connect(form, &FormPane::entered, paper, &PaperPane::lightSetting);
     connect(expert, &ExpertPane::entered, paper, &PaperPane::lightSetting);
     connect(paper, &PaperPane::settingChosen, this, &SettingsWindow::chooseSetting);
@@ -181,7 +182,10 @@ void SettingsWindow::chooseDocument(int row)
     if (method) {
         expert->openGroup(method->group);
         paper->showDocument(*method);
+    } else {
+        paper->lightSetting({});
     }
+    QTimer::singleShot(0, this, &SettingsWindow::showUnreadRow); // not while the list is clicked
 }
 
 /// Goes to the field of a setting, or to its row where the tree is shown.
@@ -219,6 +223,7 @@ void SettingsWindow::finishEditing()
 void SettingsWindow::edited()
 {
     form->refresh(found);
+    unread->refresh();
     pause.start();
 }
 
@@ -229,7 +234,7 @@ void SettingsWindow::refresh()
     found = hints::find(settings);
     hints::mark(*state.view(), found);
     form->refresh(found);
-    unread->refresh(found);
+    unread->refresh();
     expert->showCurrent();
     markDocuments();
     paper->refresh(settings, found);
@@ -238,9 +243,6 @@ void SettingsWindow::refresh()
 void SettingsWindow::markDocuments()
 {
     const QIcon icon = style()->standardIcon(QStyle::SP_MessageBoxWarning);
-    int unreadCount = 0;
-    for (const hints::Hint &hint : std::as_const(found))
-        unreadCount += hint.isUnread ? 1 : 0;
     for (int row = 0; row < documents->count(); ++row) {
         const vocabulary::Method *method = methodAt(row);
         QStringList texts;
@@ -255,9 +257,20 @@ void SettingsWindow::markDocuments()
         item->setToolTip(texts.join(u'\n'));
         item->setData(Qt::AccessibleDescriptionRole, texts.join(u". "_s));
     }
-    documents->item(unreadRow())->setText(tr("Read by nothing (%1)").arg(unreadCount));
-    documents->item(unreadRow())
-        ->setHidden(unreadCount == 0 && documents->currentRow() != unreadRow());
+    showUnreadRow();
+}
+
+/// Lists what nothing reads while there is any, or while it is shown. A hidden row would not do:
+/// screen readers find it.
+void SettingsWindow::showUnreadRow()
+{
+    const bool isWanted = unread->count() > 0 || documents->currentRow() == unreadRow();
+    if (isWanted && !documents->item(unreadRow()))
+        documents->addItem(QString());
+    else if (!isWanted)
+        delete documents->takeItem(unreadRow());
+    if (isWanted)
+        documents->item(unreadRow())->setText(tr("Read by nothing (%1)").arg(unread->count()));
 }
 
 void SettingsWindow::updateTitle()
@@ -296,14 +309,20 @@ void SettingsWindow::dragEnterEvent(QDragEnterEvent *event)
         event->acceptProposedAction();
 }
 
-/// A job is shown.
+/// Settings are opened, a job is shown.
 void SettingsWindow::dropEvent(QDropEvent *event)
 {
     const QList<QUrl> urls = event->mimeData()->urls();
     if (urls.isEmpty())
         return;
     event->acceptProposedAction();
-    tell(paper->openJob(urls.constFirst().toLocalFile()));
+    const QString path = urls.constFirst().toLocalFile();
+    QString error;
+    const auto bytes = jobFile(path, error);
+    if (!bytes || !check::isSettings(*bytes))
+        tell(paper->openJob(path));
+    else if (mayDiscardEdits())
+        openPath(path);
 }
 
 } // namespace korvel::settings

@@ -81,6 +81,7 @@ private:
     void revert();
     bool mayDiscardEdits();
     void exportPaper();
+    QString exportPath();
     void tell(const QString &text);
     bool ask(const QString &question, const QStringList &details, const QString &goOn);
     void offerSample();
@@ -92,6 +93,7 @@ private:
     void edited();
     void refresh();
     void markDocuments();
+    void showUnreadRow();
     void updateTitle();
     void restoreSize();
 

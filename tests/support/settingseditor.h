@@ -108,6 +108,13 @@ public:
         documents()->setCurrentItem(found.constFirst());
     }
 
+    /// Whether the list of documents shows a row of this text.
+    [[nodiscard]] bool hasRow(const QString &text) const
+    {
+        const auto found = documents()->findItems(text, Qt::MatchExactly);
+        return found.size() == 1 && !found.constFirst()->isHidden();
+    }
+
     /// A field of the form: "receiptdoc.paperWidth".
     template<typename Widget>
     [[nodiscard]] Widget *field(const QString &setting) const

@@ -160,7 +160,8 @@ private slots:
         };
         const QByteArray doc = settingsFile(documentGroup("doc", "style = a; paperWidth = 31;"));
         const QString style = "korvel.doc.style";
-        const QString line = "korvel.doc.style ";
+        const QString line = "Style (korvel.doc.style) ";
+        const QString width = "Paper width (korvel.doc.paperWidth) ";
 
         row("a usual value", doc, style, "b", {});
         row("an empty value", doc, style, "", {});
@@ -169,14 +170,12 @@ private slots:
         row("letters of Latin-1", doc, style, QString::fromUtf8("Caffè Ñandú ÿ"), {});
         row("a quote", doc, style, "1\" wide", {line});
         // The rest of the value becomes a part of the next name.
-        row("a semicolon", doc, style, "a; b", {line, "korvel.doc.paperWidth "});
-        row("a semicolon in the last value", doc, "korvel.doc.paperWidth", "3; 2",
-            {"korvel.doc.paperWidth "});
+        row("a semicolon", doc, style, "a; b", {line, width});
+        row("a semicolon in the last value", doc, "korvel.doc.paperWidth", "3; 2", {width});
         row("a character beyond Latin-1", doc, style, QString::fromUtf8("5 €"), {line});
         row("an emoji", doc, style, QString::fromUtf8("\xF0\x9F\x8D\x95"), {line});
-        row("a semicolon before a brace", doc, style, "a; };", {line, "korvel.doc.paperWidth "});
-        row("the settings around are not named", doc, "korvel.doc.paperWidth", "3\"",
-            {"korvel.doc.paperWidth "});
+        row("a semicolon before a brace", doc, style, "a; };", {line, width});
+        row("the settings around are not named", doc, "korvel.doc.paperWidth", "3\"", {width});
 
         row("a second top-level group", doc + "second: { a = 1; b = 2; inner: { c = 3; }; };", {},
             {}, {"group second "});

@@ -45,6 +45,38 @@ class TestSettingsExpert : public QObject
     Q_OBJECT
 
 private slots:
+    // A field that nobody sees is not changed: these entries are the form's.
+    void theKeysOfFieldsLeaveTheTreeAlone()
+    {
+        const TemporaryHome home(sampleOf40());
+        Editor editor(home.settingsPath());
+        editor.showForm();
+        editor.activate();
+        editor.number("receiptdoc.paperWidth")->setFocus();
+        editor.showExpert();
+        editor.tree()->setFocus();
+        editor.tree()->setCurrentItem(editor.valueRow("receiptdoc.printDate"));
+        Editor::press(Qt::Key_N, Qt::ControlModifier);
+        Editor::press(Qt::Key_M, Qt::ControlModifier);
+        QVERIFY(!editor.window.isWindowModified());
+        editor.showForm();
+        editor.shortcut(Qt::Key_M);
+        QCOMPARE(editor.number("receiptdoc.paperWidth")->value(), 32);
+    }
+
+    void theButtonsFollowTheTree()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        editor.activate();
+        editor.tree()->setFocus();
+        editor.tree()->setCurrentItem(editor.valueRow("receiptdoc.printDate"));
+        for (const char *name : {"addSetting", "addGroup", "remove", "jobs"}) {
+            Editor::press(Qt::Key_Tab);
+            QCOMPARE(QApplication::focusWidget()->objectName(), QString(name));
+        }
+    }
+
     // A key's row is no value, and letters are no search for another row.
     void typingOnAKeyChangesNothing_data()
     {

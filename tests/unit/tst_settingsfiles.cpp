@@ -101,16 +101,48 @@ private slots:
     {
         const TemporaryHome home(example("korvel.conf"));
         Editor editor(home.settingsPath());
-        QMimeData files;
-        files.setUrls({QUrl::fromLocalFile(KORVEL_SOURCE_DIR "/examples/jobs/invoice.xml")});
-        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&editor.window, &enter);
-        QVERIFY(enter.isAccepted());
-        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&editor.window, &drop);
+        drop(editor, KORVEL_SOURCE_DIR "/examples/jobs/invoice.xml");
         TRY_STREAM(editor, example("expected/invoice.out"));
         QCOMPARE(editor.jobs()->currentText(), QString("invoice.xml"));
         QCOMPARE(editor.documents()->currentItem()->text(), QString("Invoice"));
+    }
+
+    void settingsAreDropped()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        const QString other = home.path() + "/other.conf";
+        writeFile(other, sampleOf40());
+        Editor editor(home.settingsPath());
+        editor.edit("receiptdoc.paperWidth", "39");
+        for (const char *answer : {"Cancel", "Discard"}) {
+            QCOMPARE(editor.valueRow("receiptdoc.paperWidth")->text(0), QString("39"));
+            answers.give({answer});
+            drop(editor, other);
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(editor.stream(), receiptOf40(), longEnough);
+        QVERIFY(editor.window.windowTitle().startsWith("other.conf"));
+        QCOMPARE(editor.jobs()->currentText(), QString("Sample of the shop"));
+    }
+
+    // What is open stays, with its edits.
+    void aRecentFileThatIsGone()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        const QString gone = home.path() + "/gone.conf";
+        Editor editor(home.settingsPath());
+        editor.edit("receiptdoc.paperWidth", "39");
+        QSettings().setValue("recent", QStringList{gone});
+        for (QMenu *menu : editor.window.findChildren<QMenu *>()) {
+            if (menu->title() != "Open &recent")
+                continue;
+            emit menu->aboutToShow();
+            answers.give({"Discard", Answers::enter});
+            menu->actions()[0]->trigger();
+        }
+        QCOMPARE(answers.seen.value(1).text, "There is no file " + gone + ".");
+        QCOMPARE(editor.valueRow("receiptdoc.paperWidth")->text(0), QString("39"));
+        QVERIFY(editor.window.isWindowModified());
+        QVERIFY(editor.window.windowTitle().startsWith("korvel.conf"));
     }
 
     void helpShowsTheSettingsPage()
@@ -196,6 +228,17 @@ private slots:
     }
 
 private:
+    static void drop(Editor &editor, const QString &path)
+    {
+        QMimeData files;
+        files.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&editor.window, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent event(QPointF(10, 10), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&editor.window, &event);
+    }
+
     Answers answers;
 };
 

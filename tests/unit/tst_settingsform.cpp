@@ -8,6 +8,7 @@
 
 #include <QAccessible>
 #include <QPushButton>
+#include <QSet>
 
 namespace tst_settingsform {
 
@@ -46,6 +47,63 @@ private slots:
         QVERIFY(editor.field<QLineEdit>("language.basedir"));
     }
 
+    // Every known key in every group. Of documents' keys the kitchen order and the delivery note
+    // leave 3 unread, the full order, receipts and invoices 1 each, the fiscal receipts 20, report
+    // and statement 9, sold items 7: 45. With the 2 of the language in 8 groups, and 25 in its own.
+    void everySettingStandsInOnePlace()
+    {
+        QByteArray keys;
+        for (const vocabulary::Setting &setting : vocabulary::settings())
+            keys += setting.key.data() + QByteArray(" = \"1\"; ");
+        for (const vocabulary::LanguageSetting &setting : vocabulary::languageSettings())
+            keys += setting.key.data() + QByteArray(" = \"1\"; ");
+        QByteArray groups;
+        for (const QString &group : vocabulary::groupNames())
+            groups += documentGroup(group.toLatin1(), keys);
+        const TemporaryHome home(settingsFile(groups));
+        Editor editor(home.settingsPath());
+        editor.showForm();
+        QSet<QString> inForm;
+        for (int row = 0; row <= vocabulary::methods().size(); ++row) { // the language's is last
+            editor.documents()->setCurrentRow(row);
+            for (const QWidget *field : editor.child<QWidget>("form")->findChildren<QWidget *>())
+                if (field->toolTip().startsWith("korvel."))
+                    inForm.insert(field->toolTip());
+        }
+        QStringList unread;
+        const auto *list = editor.child<QListWidget>("unread");
+        for (int i = 0; i < list->count(); ++i)
+            unread.append(list->item(i)->text().remove(" = 1"));
+        QCOMPARE(unread.size(), 86);
+        QVERIFY(unread.contains("korvel.fiscaldoc.paperWidth"));
+        QVERIFY(unread.contains("korvel.language.paperWidth"));
+        QVERIFY(unread.contains("korvel.doc.file"));
+        QCOMPARE(inForm.size(), 9 * 27 - 86);
+        for (const QString &path : std::as_const(unread))
+            QVERIFY2(!inForm.contains(path), qPrintable(path));
+        QVERIFY(editor.hasRow("Read by nothing (86)"));
+    }
+
+    // It is the key of other documents; in the tree it is marked as what nothing reads.
+    void whatOnlyOtherDocumentsReadIsRemovedAndComesBack()
+    {
+        const TemporaryHome home(
+            settingsFile(documentGroup("fiscaldoc", "descriptionWidth = 9; paperWidth = 30;")));
+        Editor editor(home.settingsPath());
+        editor.showForm();
+        QVERIFY(!editor.valueRow("fiscaldoc.paperWidth")->icon(0).isNull());
+        QVERIFY(editor.valueRow("fiscaldoc.descriptionWidth")->icon(0).isNull());
+        editor.choose("Read by nothing (1)");
+        auto *list = editor.child<QListWidget>("unread");
+        QCOMPARE(list->item(0)->text(), QString("korvel.fiscaldoc.paperWidth = 30"));
+        list->setCurrentRow(0);
+        editor.child<QPushButton>("removeUnread")->click();
+        QCOMPARE(list->count(), 0);
+        undo(editor);
+        QCOMPARE(list->count(), 1);
+        QVERIFY(!editor.window.isWindowModified());
+    }
+
     void aNumberIsSetAndUndone()
     {
         const TemporaryHome home(example("korvel.conf"));
@@ -66,6 +124,27 @@ private slots:
         Editor::press(Qt::Key_Z, Qt::ControlModifier);
         QVERIFY(!editor.window.isWindowModified());
         TRY_STREAM(editor, example("expected/receipt.out"));
+    }
+
+    void escapeGivesUpWhatIsTyped()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        editor.showForm();
+        editor.activate();
+        QSpinBox *width = editor.number("receiptdoc.paperWidth");
+        width->setFocus();
+        width->selectAll();
+        Editor::type("4");
+        Editor::press(Qt::Key_Escape);
+        QCOMPARE(width->text(), QString("32"));
+        auto *style = editor.field<QLineEdit>("receiptdoc.style");
+        style->setFocus();
+        Editor::type("bold");
+        Editor::press(Qt::Key_Escape);
+        QCOMPARE(style->text(), QString());
+        Editor::press(Qt::Key_Tab);
+        QVERIFY(!editor.window.isWindowModified());
     }
 
     void savingTakesWhatIsBeingTyped()

@@ -107,8 +107,11 @@ private slots:
             "prefiscaldoc: { quantityFieldWidth = 10; priceFieldWidth = 10;"
             " totalPriceFieldWidth = 11; };",
             {"korvel.prefiscaldoc"}, "description");
-        row("the kitchen order has no prices",
-            doc("quantityFieldWidth = 28; priceFieldWidth = 9; totalPriceFieldWidth = 9;"), {}, {});
+        row("the kitchen order has no prices, and widths of them are not read",
+            doc("quantityFieldWidth = 28; priceFieldWidth = 9; totalPriceFieldWidth = 8;"),
+            {"korvel.doc.priceFieldWidth", "korvel.doc.priceFieldWidth.9",
+             "korvel.doc.totalPriceFieldWidth", "korvel.doc.totalPriceFieldWidth.8"},
+            "No document");
         row("the kitchen order's quantity is too wide", doc("quantityFieldWidth = 29;"),
             {"korvel.doc"}, "description");
         row("a paper wider than the printer's", doc("paperWidth = 33;"),
@@ -194,8 +197,10 @@ private slots:
         row("korvel.fiscaldoc.descriptionWidth",
             {"descriptionWidth", "characters of an item's name that are sent",
              "Read by: fiscal receipt."});
-        row("korvel.invoicedoc.topMargin", {"topMargin", "empty lines that geometry prints",
-                                            "Read by: invoice, summary invoice."});
+        row("korvel.invoicedoc.topMargin",
+            {"topMargin", "empty lines of the top margin", "Read by: invoice, summary invoice."});
+        row("korvel.receiptdoc.printDate", {"printDate", "the date of the order information"});
+        row("korvel.receiptdoc.printHeader", {"printHeader", "the header lines"});
         row("korvel.language.basedir", {"basedir", "folder"});
         row("korvel.language.file", {"file", "catalogue"});
     }

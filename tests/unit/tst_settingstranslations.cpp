@@ -101,6 +101,11 @@ struct Same
 const QList<Same> sameAsSource = {
     {"it", "&File", "Italian took over the English word, and programs name this menu so"},
     {"fr", "point", "the decimal mark has the same name"},
+    {"de", "OK", "German has no other word on this button"},
+    {"fr", "OK", "nor has French"},
+    {"it", "OK", "nor has Italian"},
+    {"es", "&No", "the word is the same"},
+    {"it", "&No", "the word is the same"},
 };
 
 /// Notes the texts that it is asked for in the contexts of the catalogues.

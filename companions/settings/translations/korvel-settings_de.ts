@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>buttons</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+</context>
+<context>
     <name>documents</name>
     <message>
         <source>kitchen order</source>
@@ -193,6 +220,10 @@
     <message>
         <source>not set</source>
         <translation>nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
     </message>
 </context>
 <context>
@@ -1246,6 +1277,10 @@
         <source>%1: labels in English</source>
         <translation>%1: Englisch</translation>
     </message>
+    <message>
+        <source>the language of the system</source>
+        <translation>die Sprache des Systems</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::ExpertPane</name>
@@ -1275,10 +1310,6 @@
     <message>
         <source>Restore: %1</source>
         <translation>Zurücksetzen: %1</translation>
-    </message>
-    <message>
-        <source>empty</source>
-        <translation>leer</translation>
     </message>
     <message>
         <source>labels: %1</source>
@@ -1621,10 +1652,6 @@ Mit den Beispieleinstellungen beginnen?</translation>
         <translation>Sprache</translation>
     </message>
     <message>
-        <source>Read by nothing</source>
-        <translation>Von nichts gelesen</translation>
-    </message>
-    <message>
         <source>&amp;Settings</source>
         <translation>&amp;Einstellungen</translation>
     </message>
@@ -1640,6 +1667,14 @@ Mit den Beispieleinstellungen beginnen?</translation>
         <source>Saved: %1</source>
         <translation>Gespeichert: %1</translation>
     </message>
+    <message>
+        <source>Exported: %1</source>
+        <translation>Exportiert: %1</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Es gibt keine Datei %1.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::State</name>
@@ -1650,10 +1685,6 @@ Mit den Beispieleinstellungen beginnen?</translation>
     <message>
         <source>%1 off</source>
         <translation>%1 aus</translation>
-    </message>
-    <message>
-        <source>empty</source>
-        <translation>leer</translation>
     </message>
     <message>
         <source>group %1</source>
@@ -1752,20 +1783,12 @@ Mit den Beispieleinstellungen beginnen?</translation>
         <translation>wird gelesen und verworfen</translation>
     </message>
     <message>
-        <source>empty lines that `geometry` prints; none when negative, 65536 at most</source>
-        <translation>Leerzeilen, die `geometry` druckt; keine bei einer negativen Zahl, höchstens 65536</translation>
-    </message>
-    <message>
         <source>characters of an item&apos;s name that are sent. 0 is the printer&apos;s width; a negative number leaves the name whole. The summary fiscal receipt never cuts</source>
         <translation>Zeichen eines Artikelnamens, die gesendet werden. 0 ist die Breite des Druckers; bei einer negativen Zahl bleibt der Name ganz. Der Fiskalbeleg in Kurzform kürzt nie</translation>
     </message>
     <message>
         <source>the top margin</source>
         <translation>der obere Rand</translation>
-    </message>
-    <message>
-        <source>the lines of `headers`. The printer&apos;s name after them has no switch</source>
-        <translation>die Zeilen von `headers`. Der Name des Druckers danach hat keinen Schalter</translation>
     </message>
     <message>
         <source>nothing: kept for printers with a logo</source>
@@ -1788,18 +1811,6 @@ Mit den Beispieleinstellungen beginnen?</translation>
         <translation>die Telefonnummer des Kunden</translation>
     </message>
     <message>
-        <source>the date of `orderinfo`</source>
-        <translation>das Datum von `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the time of `orderinfo`</source>
-        <translation>die Uhrzeit von `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the table of `orderinfo`</source>
-        <translation>der Tisch von `orderinfo`</translation>
-    </message>
-    <message>
         <source>the whole customer block; the customer&apos;s other switches count only when it is on</source>
         <translation>der ganze Kundenblock; die anderen Schalter des Kunden zählen nur, wenn er eingeschaltet ist</translation>
     </message>
@@ -1812,18 +1823,6 @@ Mit den Beispieleinstellungen beginnen?</translation>
         <translation>die Steuernummer des Kunden</translation>
     </message>
     <message>
-        <source>the credit of `orderinfo`</source>
-        <translation>das Guthaben von `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the waiter of `orderinfo`</source>
-        <translation>die Bedienung von `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the note of `orderinfo`</source>
-        <translation>der Hinweis von `orderinfo`</translation>
-    </message>
-    <message>
         <source>nothing: kept for printers with a drawer</source>
         <translation>nichts: für Drucker mit Kassenlade vorgesehen</translation>
     </message>
@@ -1832,8 +1831,40 @@ Mit den Beispieleinstellungen beginnen?</translation>
         <translation>der Ordner der Sprachkataloge</translation>
     </message>
     <message>
-        <source>which catalogue; begins with `/`</source>
-        <translation>welcher Katalog; beginnt mit `/`</translation>
+        <source>empty lines of the top margin; none when negative, 65536 at most</source>
+        <translation>Leerzeilen des oberen Rands; keine bei einer negativen Zahl, höchstens 65536</translation>
+    </message>
+    <message>
+        <source>the header lines. The printer&apos;s name after them has no switch</source>
+        <translation>die Kopfzeilen. Der Name des Druckers danach hat keinen Schalter</translation>
+    </message>
+    <message>
+        <source>the date of the order information</source>
+        <translation>das Datum der Angaben zur Bestellung</translation>
+    </message>
+    <message>
+        <source>the time of the order information</source>
+        <translation>die Uhrzeit der Angaben zur Bestellung</translation>
+    </message>
+    <message>
+        <source>the table of the order information</source>
+        <translation>der Tisch der Angaben zur Bestellung</translation>
+    </message>
+    <message>
+        <source>the credit of the order information</source>
+        <translation>das Guthaben der Angaben zur Bestellung</translation>
+    </message>
+    <message>
+        <source>the waiter of the order information</source>
+        <translation>die Bedienung der Angaben zur Bestellung</translation>
+    </message>
+    <message>
+        <source>the note of the order information</source>
+        <translation>die Notiz der Angaben zur Bestellung</translation>
+    </message>
+    <message>
+        <source>which catalogue: its name is put right behind the folder, and begins with `/`</source>
+        <translation>welcher Katalog: sein Name folgt unmittelbar auf den Ordner und beginnt mit `/`</translation>
     </message>
 </context>
 </TS>

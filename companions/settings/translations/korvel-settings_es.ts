@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>buttons</name>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Descartar</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sí</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+</context>
+<context>
     <name>documents</name>
     <message>
         <source>kitchen order</source>
@@ -193,6 +220,10 @@
     <message>
         <source>not set</source>
         <translation>sin definir</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vacío</translation>
     </message>
 </context>
 <context>
@@ -1246,6 +1277,10 @@
         <source>%1: labels in English</source>
         <translation>%1: etiquetas en inglés</translation>
     </message>
+    <message>
+        <source>the language of the system</source>
+        <translation>el idioma del sistema</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::ExpertPane</name>
@@ -1275,10 +1310,6 @@
     <message>
         <source>Restore: %1</source>
         <translation>Restablecer: %1</translation>
-    </message>
-    <message>
-        <source>empty</source>
-        <translation>vacío</translation>
     </message>
     <message>
         <source>labels: %1</source>
@@ -1621,10 +1652,6 @@ Begin with the sample settings?</source>
         <translation>Idioma</translation>
     </message>
     <message>
-        <source>Read by nothing</source>
-        <translation>No lo lee nada</translation>
-    </message>
-    <message>
         <source>&amp;Settings</source>
         <translation>A&amp;justes</translation>
     </message>
@@ -1640,6 +1667,14 @@ Begin with the sample settings?</source>
         <source>Saved: %1</source>
         <translation>Guardado: %1</translation>
     </message>
+    <message>
+        <source>Exported: %1</source>
+        <translation>Exportado: %1</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>No hay ningún archivo %1.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::State</name>
@@ -1650,10 +1685,6 @@ Begin with the sample settings?</source>
     <message>
         <source>%1 off</source>
         <translation>%1 desactivado</translation>
-    </message>
-    <message>
-        <source>empty</source>
-        <translation>vacío</translation>
     </message>
     <message>
         <source>group %1</source>
@@ -1752,20 +1783,12 @@ Begin with the sample settings?</source>
         <translation>se lee y se descarta</translation>
     </message>
     <message>
-        <source>empty lines that `geometry` prints; none when negative, 65536 at most</source>
-        <translation>líneas vacías que imprime `geometry`; ninguna si el número es negativo, 65536 como máximo</translation>
-    </message>
-    <message>
         <source>characters of an item&apos;s name that are sent. 0 is the printer&apos;s width; a negative number leaves the name whole. The summary fiscal receipt never cuts</source>
         <translation>caracteres del nombre de un artículo que se envían. 0 es el ancho de la impresora; un número negativo deja el nombre entero. El ticket fiscal resumido nunca recorta</translation>
     </message>
     <message>
         <source>the top margin</source>
         <translation>el margen superior</translation>
-    </message>
-    <message>
-        <source>the lines of `headers`. The printer&apos;s name after them has no switch</source>
-        <translation>las líneas de `headers`. El nombre de la impresora que las sigue no tiene interruptor</translation>
     </message>
     <message>
         <source>nothing: kept for printers with a logo</source>
@@ -1788,18 +1811,6 @@ Begin with the sample settings?</source>
         <translation>el teléfono del cliente</translation>
     </message>
     <message>
-        <source>the date of `orderinfo`</source>
-        <translation>la fecha de `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the time of `orderinfo`</source>
-        <translation>la hora de `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the table of `orderinfo`</source>
-        <translation>la mesa de `orderinfo`</translation>
-    </message>
-    <message>
         <source>the whole customer block; the customer&apos;s other switches count only when it is on</source>
         <translation>todo el bloque del cliente; los demás interruptores del cliente solo cuentan si está activado</translation>
     </message>
@@ -1812,18 +1823,6 @@ Begin with the sample settings?</source>
         <translation>el NIF del cliente</translation>
     </message>
     <message>
-        <source>the credit of `orderinfo`</source>
-        <translation>el crédito de `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the waiter of `orderinfo`</source>
-        <translation>el camarero de `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the note of `orderinfo`</source>
-        <translation>la nota de `orderinfo`</translation>
-    </message>
-    <message>
         <source>nothing: kept for printers with a drawer</source>
         <translation>nada: se reserva para impresoras con cajón</translation>
     </message>
@@ -1832,8 +1831,40 @@ Begin with the sample settings?</source>
         <translation>la carpeta de los catálogos de idioma</translation>
     </message>
     <message>
-        <source>which catalogue; begins with `/`</source>
-        <translation>qué catálogo; empieza por `/`</translation>
+        <source>empty lines of the top margin; none when negative, 65536 at most</source>
+        <translation>líneas vacías del margen superior; ninguna si el número es negativo, 65536 como máximo</translation>
+    </message>
+    <message>
+        <source>the header lines. The printer&apos;s name after them has no switch</source>
+        <translation>las líneas de cabecera. El nombre de la impresora que las sigue no tiene interruptor</translation>
+    </message>
+    <message>
+        <source>the date of the order information</source>
+        <translation>la fecha de la información del pedido</translation>
+    </message>
+    <message>
+        <source>the time of the order information</source>
+        <translation>la hora de la información del pedido</translation>
+    </message>
+    <message>
+        <source>the table of the order information</source>
+        <translation>la mesa de la información del pedido</translation>
+    </message>
+    <message>
+        <source>the credit of the order information</source>
+        <translation>el crédito de la información del pedido</translation>
+    </message>
+    <message>
+        <source>the waiter of the order information</source>
+        <translation>el camarero de la información del pedido</translation>
+    </message>
+    <message>
+        <source>the note of the order information</source>
+        <translation>la nota de la información del pedido</translation>
+    </message>
+    <message>
+        <source>which catalogue: its name is put right behind the folder, and begins with `/`</source>
+        <translation>qué catálogo: su nombre va justo detrás de la carpeta y empieza por `/`</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>buttons</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>A&amp;bandonner</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Oui</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Non</translation>
+    </message>
+</context>
+<context>
     <name>documents</name>
     <message>
         <source>kitchen order</source>
@@ -193,6 +220,10 @@
     <message>
         <source>not set</source>
         <translation>non défini</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vide</translation>
     </message>
 </context>
 <context>
@@ -1246,6 +1277,10 @@
         <source>%1: labels in English</source>
         <translation>%1&#xa0;: libellés en anglais</translation>
     </message>
+    <message>
+        <source>the language of the system</source>
+        <translation>la langue du système</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::ExpertPane</name>
@@ -1275,10 +1310,6 @@
     <message>
         <source>Restore: %1</source>
         <translation>Restaurer&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>empty</source>
-        <translation>vide</translation>
     </message>
     <message>
         <source>labels: %1</source>
@@ -1621,10 +1652,6 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
         <translation>Langue</translation>
     </message>
     <message>
-        <source>Read by nothing</source>
-        <translation>Lu par rien</translation>
-    </message>
-    <message>
         <source>&amp;Settings</source>
         <translation>&amp;Réglages</translation>
     </message>
@@ -1640,6 +1667,14 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
         <source>Saved: %1</source>
         <translation>Enregistré : %1</translation>
     </message>
+    <message>
+        <source>Exported: %1</source>
+        <translation>Exporté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Il n&apos;y a pas de fichier %1.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::State</name>
@@ -1650,10 +1685,6 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
     <message>
         <source>%1 off</source>
         <translation>%1 désactivé</translation>
-    </message>
-    <message>
-        <source>empty</source>
-        <translation>vide</translation>
     </message>
     <message>
         <source>group %1</source>
@@ -1752,20 +1783,12 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
         <translation>lu, puis ignoré</translation>
     </message>
     <message>
-        <source>empty lines that `geometry` prints; none when negative, 65536 at most</source>
-        <translation>lignes vides que `geometry` imprime&#xa0;; aucune si le nombre est négatif, 65536 au plus</translation>
-    </message>
-    <message>
         <source>characters of an item&apos;s name that are sent. 0 is the printer&apos;s width; a negative number leaves the name whole. The summary fiscal receipt never cuts</source>
         <translation>caractères envoyés du nom d&apos;un article. 0 est la largeur de l&apos;imprimante&#xa0;; un nombre négatif laisse le nom entier. Le ticket fiscal abrégé ne coupe jamais</translation>
     </message>
     <message>
         <source>the top margin</source>
         <translation>la marge du haut</translation>
-    </message>
-    <message>
-        <source>the lines of `headers`. The printer&apos;s name after them has no switch</source>
-        <translation>les lignes de `headers`. Le nom de l&apos;imprimante qui les suit n&apos;a pas d&apos;option</translation>
     </message>
     <message>
         <source>nothing: kept for printers with a logo</source>
@@ -1788,18 +1811,6 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
         <translation>le téléphone du client</translation>
     </message>
     <message>
-        <source>the date of `orderinfo`</source>
-        <translation>la date de `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the time of `orderinfo`</source>
-        <translation>l&apos;heure de `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the table of `orderinfo`</source>
-        <translation>la table de `orderinfo`</translation>
-    </message>
-    <message>
         <source>the whole customer block; the customer&apos;s other switches count only when it is on</source>
         <translation>tout le bloc du client&#xa0;; les autres options du client ne comptent que s&apos;il est activé</translation>
     </message>
@@ -1812,18 +1823,6 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
         <translation>le numéro fiscal du client</translation>
     </message>
     <message>
-        <source>the credit of `orderinfo`</source>
-        <translation>le crédit de `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the waiter of `orderinfo`</source>
-        <translation>le serveur de `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the note of `orderinfo`</source>
-        <translation>la remarque de `orderinfo`</translation>
-    </message>
-    <message>
         <source>nothing: kept for printers with a drawer</source>
         <translation>rien&#xa0;: réservé aux imprimantes avec tiroir-caisse</translation>
     </message>
@@ -1832,8 +1831,40 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
         <translation>le dossier des catalogues de langue</translation>
     </message>
     <message>
-        <source>which catalogue; begins with `/`</source>
-        <translation>quel catalogue&#xa0;; commence par `/`</translation>
+        <source>empty lines of the top margin; none when negative, 65536 at most</source>
+        <translation>lignes vides de la marge du haut&#xa0;; aucune si le nombre est négatif, 65536 au plus</translation>
+    </message>
+    <message>
+        <source>the header lines. The printer&apos;s name after them has no switch</source>
+        <translation>les lignes d&apos;en-tête. Le nom de l&apos;imprimante qui les suit n&apos;a pas d&apos;option</translation>
+    </message>
+    <message>
+        <source>the date of the order information</source>
+        <translation>la date des informations de commande</translation>
+    </message>
+    <message>
+        <source>the time of the order information</source>
+        <translation>l&apos;heure des informations de commande</translation>
+    </message>
+    <message>
+        <source>the table of the order information</source>
+        <translation>la table des informations de commande</translation>
+    </message>
+    <message>
+        <source>the credit of the order information</source>
+        <translation>le crédit des informations de commande</translation>
+    </message>
+    <message>
+        <source>the waiter of the order information</source>
+        <translation>le serveur des informations de commande</translation>
+    </message>
+    <message>
+        <source>the note of the order information</source>
+        <translation>la remarque des informations de commande</translation>
+    </message>
+    <message>
+        <source>which catalogue: its name is put right behind the folder, and begins with `/`</source>
+        <translation>quel catalogue&#xa0;: son nom suit directement le dossier et commence par `/`</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>buttons</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Salva</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>Sca&amp;rta</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sì</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+</context>
+<context>
     <name>documents</name>
     <message>
         <source>kitchen order</source>
@@ -193,6 +220,10 @@
     <message>
         <source>not set</source>
         <translation>non impostato</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vuoto</translation>
     </message>
 </context>
 <context>
@@ -1246,6 +1277,10 @@
         <source>%1: labels in English</source>
         <translation>%1: etichette in inglese</translation>
     </message>
+    <message>
+        <source>the language of the system</source>
+        <translation>la lingua del sistema</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::ExpertPane</name>
@@ -1275,10 +1310,6 @@
     <message>
         <source>Restore: %1</source>
         <translation>Ripristinare: %1</translation>
-    </message>
-    <message>
-        <source>empty</source>
-        <translation>vuoto</translation>
     </message>
     <message>
         <source>labels: %1</source>
@@ -1621,10 +1652,6 @@ Iniziare con le impostazioni di esempio?</translation>
         <translation>Lingua</translation>
     </message>
     <message>
-        <source>Read by nothing</source>
-        <translation>Non letto da nulla</translation>
-    </message>
-    <message>
         <source>&amp;Settings</source>
         <translation>Im&amp;postazioni</translation>
     </message>
@@ -1640,6 +1667,14 @@ Iniziare con le impostazioni di esempio?</translation>
         <source>Saved: %1</source>
         <translation>Salvato: %1</translation>
     </message>
+    <message>
+        <source>Exported: %1</source>
+        <translation>Esportato: %1</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Non esiste alcun file %1.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::State</name>
@@ -1650,10 +1685,6 @@ Iniziare con le impostazioni di esempio?</translation>
     <message>
         <source>%1 off</source>
         <translation>%1 disattivo</translation>
-    </message>
-    <message>
-        <source>empty</source>
-        <translation>vuoto</translation>
     </message>
     <message>
         <source>group %1</source>
@@ -1752,20 +1783,12 @@ Iniziare con le impostazioni di esempio?</translation>
         <translation>letto e scartato</translation>
     </message>
     <message>
-        <source>empty lines that `geometry` prints; none when negative, 65536 at most</source>
-        <translation>righe vuote che `geometry` stampa; nessuna se il numero è negativo, al massimo 65536</translation>
-    </message>
-    <message>
         <source>characters of an item&apos;s name that are sent. 0 is the printer&apos;s width; a negative number leaves the name whole. The summary fiscal receipt never cuts</source>
         <translation>caratteri del nome di un articolo che vengono inviati. 0 è la larghezza della stampante; un numero negativo lascia il nome intero. Lo scontrino fiscale sintetico non taglia mai</translation>
     </message>
     <message>
         <source>the top margin</source>
         <translation>il margine superiore</translation>
-    </message>
-    <message>
-        <source>the lines of `headers`. The printer&apos;s name after them has no switch</source>
-        <translation>le righe di `headers`. Il nome della stampante che le segue non ha un interruttore</translation>
     </message>
     <message>
         <source>nothing: kept for printers with a logo</source>
@@ -1788,18 +1811,6 @@ Iniziare con le impostazioni di esempio?</translation>
         <translation>il telefono del cliente</translation>
     </message>
     <message>
-        <source>the date of `orderinfo`</source>
-        <translation>la data di `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the time of `orderinfo`</source>
-        <translation>l&apos;ora di `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the table of `orderinfo`</source>
-        <translation>il tavolo di `orderinfo`</translation>
-    </message>
-    <message>
         <source>the whole customer block; the customer&apos;s other switches count only when it is on</source>
         <translation>tutto il blocco del cliente; gli altri interruttori del cliente contano solo se è attivato</translation>
     </message>
@@ -1812,18 +1823,6 @@ Iniziare con le impostazioni di esempio?</translation>
         <translation>il codice fiscale del cliente</translation>
     </message>
     <message>
-        <source>the credit of `orderinfo`</source>
-        <translation>il credito di `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the waiter of `orderinfo`</source>
-        <translation>il cameriere di `orderinfo`</translation>
-    </message>
-    <message>
-        <source>the note of `orderinfo`</source>
-        <translation>le note di `orderinfo`</translation>
-    </message>
-    <message>
         <source>nothing: kept for printers with a drawer</source>
         <translation>nulla: riservato alle stampanti con cassetto</translation>
     </message>
@@ -1832,8 +1831,40 @@ Iniziare con le impostazioni di esempio?</translation>
         <translation>la cartella dei cataloghi di lingua</translation>
     </message>
     <message>
-        <source>which catalogue; begins with `/`</source>
-        <translation>quale catalogo; inizia con `/`</translation>
+        <source>empty lines of the top margin; none when negative, 65536 at most</source>
+        <translation>righe vuote del margine superiore; nessuna se il numero è negativo, al massimo 65536</translation>
+    </message>
+    <message>
+        <source>the header lines. The printer&apos;s name after them has no switch</source>
+        <translation>le righe d&apos;intestazione. Il nome della stampante che le segue non ha un interruttore</translation>
+    </message>
+    <message>
+        <source>the date of the order information</source>
+        <translation>la data delle informazioni sull&apos;ordine</translation>
+    </message>
+    <message>
+        <source>the time of the order information</source>
+        <translation>l&apos;ora delle informazioni sull&apos;ordine</translation>
+    </message>
+    <message>
+        <source>the table of the order information</source>
+        <translation>il tavolo delle informazioni sull&apos;ordine</translation>
+    </message>
+    <message>
+        <source>the credit of the order information</source>
+        <translation>il credito delle informazioni sull&apos;ordine</translation>
+    </message>
+    <message>
+        <source>the waiter of the order information</source>
+        <translation>il cameriere delle informazioni sull&apos;ordine</translation>
+    </message>
+    <message>
+        <source>the note of the order information</source>
+        <translation>le note delle informazioni sull&apos;ordine</translation>
+    </message>
+    <message>
+        <source>which catalogue: its name is put right behind the folder, and begins with `/`</source>
+        <translation>quale catalogo: il suo nome segue direttamente la cartella e inizia con `/`</translation>
     </message>
 </context>
 </TS>
