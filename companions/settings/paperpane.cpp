@@ -188,6 +188,7 @@ QString PaperPane::openJob(const QString &path)
     jobPath = path;
     job = *bytes;
     render();
+    emit jobOpened();
     return {};
 }
 

@@ -77,6 +77,9 @@ signals:
     /// The user opened a job of another document.
     void documentChosen(const QString &method);
 
+    /// A job of the user's own is shown.
+    void jobOpened();
+
     void failed(const QString &text);
 
     /// A line for the status bar.

@@ -12,7 +12,6 @@
 
 class QListWidget;
 class QMenu;
-class QSplitter;
 class QStackedWidget;
 class QTabWidget;
 
@@ -25,6 +24,7 @@ namespace korvel::settings {
 class ExpertPane;
 class FormPane;
 class PaperPane;
+class Panes;
 class UnreadPane;
 
 /**
@@ -58,6 +58,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void buildPanes(const QString &renderer);
@@ -93,6 +94,7 @@ private:
     void refresh();
     void markDocuments();
     void updateTitle();
+    void showStatusBar();
     void restoreSize();
 
     State state; // outlives the panes
@@ -100,7 +102,7 @@ private:
     QList<hints::Hint> found; // hints of the settings as they are
     QTimer pause;             // gathers the edits of a moment into one run
 
-    QSplitter *panes = nullptr;
+    Panes *panes = nullptr;
     QListWidget *documents = nullptr;
     QTabWidget *tabs = nullptr;
     QStackedWidget *pages = nullptr; // of the first tab

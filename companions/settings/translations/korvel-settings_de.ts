@@ -1309,6 +1309,17 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::Panes</name>
+    <message>
+        <source>Do&amp;cuments</source>
+        <translation>Do&amp;kumente</translation>
+    </message>
+    <message>
+        <source>&amp;Paper</source>
+        <translation>&amp;Papier</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperPane</name>
     <message>
         <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
