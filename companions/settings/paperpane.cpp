@@ -85,6 +85,10 @@ PaperPane::PaperPane(State &theSettings, const QString &renderer, QWidget *paren
     connect(ruler, &Ruler::dragged, this, [this](const auto &setting, int value, int move) {
         state.set(setting, QString::number(value), move);
     });
+    connect(ruler, &Ruler::asked, this, [this](int column) {
+        const int row = scroll->verticalScrollBar()->value() + 1;
+        scroll->ensureVisible(qRound(paper->leftOf(column)), row, scroll->width() / 4, 0);
+    });
 }
 
 void PaperPane::build()

@@ -174,7 +174,7 @@ private slots:
         // amount has 10.
         const ColumnEdge edge = ruler->edges()[1];
         QCOMPARE(edge.setting.constLast(), QString("totalPriceFieldWidth"));
-        QCOMPARE(edge.at, 24);
+        QCOMPARE(edge.at(), 24);
         QTest::qWait(50);
         const int from = ruler->placeOf(edge);
         const int cell = qRound(editor.paper()->leftOf(1) - editor.paper()->leftOf(0));
