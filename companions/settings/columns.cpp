@@ -58,10 +58,10 @@ QList<ColumnEdge> edgesOf(const State &state, const vocabulary::Method &method)
             has(vocabulary::Quantity) ? quantity + style->beside : vocabulary::dateWidth;
         const int first = left + static_cast<int>(std::max<qint64>(room, 0));
         const int behind = first + (has(vocabulary::Price) ? price : 0);
-        if (has(vocabulary::Total))
-            edges.append({path(key::totalPriceFieldWidth), {behind, behind + total}, room >= 0});
         if (has(vocabulary::Price))
             edges.append({path(key::priceFieldWidth), {first, behind}, room >= 0});
+        if (has(vocabulary::Total))
+            edges.append({path(key::totalPriceFieldWidth), {behind, behind + total}, room >= 0});
     }
     edges.append({path(key::paperWidth), {0, paper}});
     return edges;

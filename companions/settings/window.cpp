@@ -155,6 +155,7 @@ void SettingsWindow::connectPanes()
                 documents->setCurrentRow(row);
         }
     });
+    connect(paper, &PaperPane::found, this, &SettingsWindow::noteOfPaper);
     connect(paper, &PaperPane::jobOpened, this, [this] { panes->bringToFront(paper); });
     connect(paper, &PaperPane::failed, this, &SettingsWindow::tell);
     connect(paper, &PaperPane::said, this,
@@ -233,8 +234,18 @@ void SettingsWindow::refresh()
     form->refresh(found);
     unread->refresh(found);
     expert->showCurrent();
+    // Of the other documents it is not known what the paper is like now.
+    const QString shown = paper->method() ? QString(paper->method()->name) : QString();
+    ofPaper = {{shown, ofPaper.value(shown)}};
     markDocuments();
     paper->refresh(settings, found);
+}
+
+void SettingsWindow::noteOfPaper(const QStringList &texts)
+{
+    if (const vocabulary::Method *method = paper->method())
+        ofPaper[method->name] = texts;
+    markDocuments();
 }
 
 void SettingsWindow::markDocuments()
@@ -252,6 +263,10 @@ void SettingsWindow::markDocuments()
                              && hint.setting.value(1) == vocabulary::group::language)
                 texts.append(hint.text);
         }
+        if (method)
+            texts += ofPaper.value(method->name);
+        if (method && method == paper->method())
+            panes->markPaper(texts.isEmpty() ? QIcon() : icon);
         QListWidgetItem *item = documents->item(row);
         item->setIcon(texts.isEmpty() ? QIcon() : icon);
         item->setToolTip(texts.join(u'\n'));

@@ -5,6 +5,7 @@
 #include "companions/settings/hints.h"
 #include "companions/settings/state.h"
 
+#include <QHash>
 #include <QMainWindow>
 #include <QTimer>
 
@@ -92,6 +93,7 @@ private:
     void chooseSetting(const QStringList &setting);
     void edited();
     void refresh();
+    void noteOfPaper(const QStringList &texts);
     void markDocuments();
     void updateTitle();
     void showStatusBar();
@@ -100,7 +102,9 @@ private:
     State state; // outlives the panes
     std::unique_ptr<SettingsDocument> document;
     QList<hints::Hint> found; // hints of the settings as they are
-    QTimer pause;             // gathers the edits of a moment into one run
+    QHash<QString, QStringList>
+        ofPaper;  // what else is wrong, by documents that were shown with them
+    QTimer pause; // gathers the edits of a moment into one run
 
     Panes *panes = nullptr;
     QListWidget *documents = nullptr;

@@ -29,24 +29,24 @@ private slots:
             QTest::newRow(name) << document << setting << value << edges;
         };
         row("a receipt, from the right", "Receipt", "receiptdoc.paperWidth", 32,
-            {"quantity 3", "totalPrice 24", "price 17", "paper 32"});
+            {"quantity 3", "price 17", "totalPrice 24", "paper 32"});
         row("a full order", "Full order", "prefiscaldoc.paperWidth", 32,
-            {"quantity 3", "totalPrice 24", "price 17", "paper 32"});
+            {"quantity 3", "price 17", "totalPrice 24", "paper 32"});
         row("a quantity alone", "Kitchen order", "doc.paperWidth", 32, {"quantity 3", "paper 32"});
         // A statement's rows leave three characters of the line.
         row("a statement", "Statement", "reportdoc.paperWidth", 32, {"price 22", "paper 32"});
         row("no description at all", "Receipt", "receiptdoc.totalPriceFieldWidth", 19,
-            {"quantity 3", "totalPrice 13", "price 6", "paper 32"});
+            {"quantity 3", "price 6", "totalPrice 13", "paper 32"});
         // 3, then " x ", 7 and 40: each column pushes the next.
         row("an amount over the edge", "Receipt", "receiptdoc.totalPriceFieldWidth", 40,
-            {"quantity 3", "totalPrice 53", "price 13", "paper 32"});
+            {"quantity 3", "price 13", "totalPrice 53", "paper 32"});
         // One blank behind the quantity.
         row("a price over the edge", "Full order", "prefiscaldoc.priceFieldWidth", 40,
-            {"quantity 3", "totalPrice 52", "price 44", "paper 32"});
+            {"quantity 3", "price 44", "totalPrice 52", "paper 32"});
         row("a quantity over the edge", "Receipt", "receiptdoc.quantityFieldWidth", 30,
-            {"quantity 30", "totalPrice 48", "price 40", "paper 32"});
+            {"quantity 30", "price 40", "totalPrice 48", "paper 32"});
         row("a narrow paper", "Receipt", "receiptdoc.paperWidth", 20,
-            {"quantity 3", "totalPrice 21", "price 13", "paper 20"});
+            {"quantity 3", "price 13", "totalPrice 21", "paper 20"});
     }
 
     void theEdges()
@@ -138,7 +138,7 @@ private slots:
         editor.choose("Receipt");
         auto *ruler = editor.child<Ruler>("ruler");
         QTRY_VERIFY_WITH_TIMEOUT(editor.paper()->text().contains("6.00"), longEnough);
-        const auto amount = [&] { return ruler->placeOf(ruler->edges()[1]); };
+        const auto amount = [&] { return ruler->placeOf(ruler->edges()[2]); };
         QTRY_VERIFY(amount() > ruler->width());
         QTest::mouseClick(ruler, Qt::LeftButton, {}, {ruler->width() - 3, 8});
         QTRY_VERIFY(amount() > 0 && amount() < ruler->width());
@@ -158,10 +158,10 @@ private slots:
         QTest::addColumn<QString>("setting");
         QTest::addColumn<int>("value");
         // At the right of 32 an amount of 8 is moved by its left edge.
-        QTest::newRow("from the right") << 8 << 1 << 20 << "totalPriceFieldWidth" << 12;
+        QTest::newRow("from the right") << 8 << 2 << 20 << "totalPriceFieldWidth" << 12;
         // What begins on column 13 is moved by its right edge where it is too wide.
-        QTest::newRow("too wide") << 25 << 1 << 30 << "totalPriceFieldWidth" << 17;
-        QTest::newRow("the column before it") << 25 << 2 << 15 << "priceFieldWidth" << 9;
+        QTest::newRow("too wide") << 25 << 2 << 30 << "totalPriceFieldWidth" << 17;
+        QTest::newRow("the column before it") << 25 << 1 << 15 << "priceFieldWidth" << 9;
     }
 
     void edgesAreDragged()

@@ -104,6 +104,39 @@ private slots:
         QTRY_VERIFY(editor.paper()->isVisible());
     }
 
+    /// All words of what is wrong are seen where there is room, and some of them where there is
+    /// not.
+    void theRoomOfFindings_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<bool>("isWhole");
+        QTest::newRow("800 x 480") << QSize(800, 480) << true;
+        QTest::newRow("400 x 240") << QSize(400, 240) << false;
+    }
+
+    void theRoomOfFindings()
+    {
+        QFETCH(QSize, size);
+        QFETCH(bool, isWhole);
+        const TemporaryHome home(sampleOf40());
+        Editor editor(home.settingsPath());
+        editor.window.resize(size);
+        if (editor.window.findChild<Panes *>()->isNarrow())
+            editor.showTab("Paper");
+        QTRY_COMPARE_WITH_TIMEOUT(editor.findings().size(), 2, longEnough);
+        const auto *list = editor.child<QListWidget>("findings");
+        const auto shows = [&](int row) {
+            return list->viewport()->rect().contains(list->visualItemRect(list->item(row)));
+        };
+        QTRY_COMPARE(shows(1), isWhole);
+        QVERIFY(list->height() > 2 * list->fontMetrics().lineSpacing());
+        QVERIFY(editor.paper()->visibleRegion().boundingRect().height() > 20);
+        // The words are broken, not cut.
+        QVERIFY(list->visualItemRect(list->item(0)).width() <= list->viewport()->width());
+        QVERIFY(list->visualItemRect(list->item(0)).height()
+                > 2 * list->fontMetrics().height() - 4);
+    }
+
     void aLowWindowHasNoEmptyLine()
     {
         const TemporaryHome home(example("korvel.conf"));
