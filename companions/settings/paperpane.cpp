@@ -21,6 +21,7 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <chrono>
 
 using namespace Qt::Literals::StringLiterals;
@@ -76,6 +77,7 @@ PaperPane::PaperPane(State &theSettings, const QString &renderer, QWidget *paren
                         span = edge.span;
                 }
                 paper->light(found, span);
+                showLit();
             });
     connect(paper, &PaperView::rowChosen, this, &PaperPane::chooseRow);
     connect(ruler, &Ruler::dragged, this, [this](const auto &setting, int value, int move) {
@@ -263,6 +265,20 @@ void PaperPane::lightSetting(const QStringList &setting)
         pause.start();
 }
 
+/// Scrolls to what is lit, unless some of it is in sight.
+void PaperPane::showLit()
+{
+    const QRect sight = paper->visibleRegion().boundingRect();
+    const QList<int> &lit = paper->lit();
+    const bool isSeen = std::any_of(lit.begin(), lit.end(), [&](int row) {
+        const int middle = paper->placeOf(row).y();
+        return sight.top() < middle && middle < sight.bottom();
+    });
+    if (!lit.isEmpty() && !sight.isEmpty() && !isSeen)
+        scroll->ensureVisible(sight.center().x(), paper->placeOf(lit.constFirst()).y(), 0,
+                              scroll->height() / 3);
+}
+
 void PaperPane::chooseRow(int row, int column)
 {
     if (!shownMethod)
@@ -348,6 +364,8 @@ bool PaperPane::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == paper && (event->type() == QEvent::Move || event->type() == QEvent::Resize))
         QTimer::singleShot(0, this, &PaperPane::updateScale);
+    if (watched == paper && event->type() == QEvent::Show)
+        QTimer::singleShot(0, this, &PaperPane::showLit);
     return false;
 }
 

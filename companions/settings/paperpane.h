@@ -98,6 +98,7 @@ private:
     void showRendered(const shared::Rendered &rendered);
     void listFindings(const QString &byRenderer);
     void partRoom();
+    void showLit();
     void chooseRow(int row, int column);
     void showMakers(int row, const QList<QStringList> &makers);
     void updateScale();

@@ -56,8 +56,12 @@ void Ruler::paintEvent(QPaintEvent * /*event*/)
     int last = vocabulary::lineWidth;
     for (const ColumnEdge &edge : columnEdges)
         last = std::max(last, edge.at());
-    for (int column = 0; column <= last && place(column) < width(); ++column) {
+    const int begin = beyond(End::Left) ? arrow : 0;
+    const int end = width() - (beyond(End::Right) ? arrow : 0);
+    for (int column = 0; column <= last && place(column) < end; ++column) {
         const int x = qRound(place(column));
+        if (x < begin)
+            continue;
         painter.drawLine(x, bottom, x, bottom - (column % 10 == 0 ? 6 : column % 5 == 0 ? 4 : 2));
         if (column % 10 == 0 && column > 0)
             painter.drawText(QRect(x - 20, 0, 40, bottom - 5), Qt::AlignCenter,
@@ -66,8 +70,8 @@ void Ruler::paintEvent(QPaintEvent * /*event*/)
     painter.setPen(QPen(palette().color(QPalette::Highlight), 3));
     for (const ColumnEdge &edge : columnEdges)
         painter.drawLine(placeOf(edge), 2, placeOf(edge), bottom);
-    for (const End end : {End::Left, End::Right})
-        paintArrow(painter, end);
+    for (const End side : {End::Left, End::Right})
+        paintArrow(painter, side);
 }
 
 void Ruler::paintArrow(QPainter &painter, End end) const
@@ -76,7 +80,6 @@ void Ruler::paintArrow(QPainter &painter, End end) const
         return;
     const int base = end == End::Left ? arrow : width() - arrow;
     const int point = end == End::Left ? 0 : width();
-    painter.fillRect(std::min(base, point), 0, arrow, height(), palette().color(QPalette::Window));
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette().color(QPalette::Highlight));
     painter.drawPolygon(

@@ -86,6 +86,32 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(editor.paper()->lit(), rows, longEnough);
     }
 
+    /// What is lit comes in sight, and what is in sight stays where it is.
+    void theLightIsSeen()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        editor.showForm();
+        editor.window.resize(800, 400);
+        TRY_STREAM(editor, example("expected/receipt.out"));
+        editor.activate();
+        const auto seen = [&](int row) {
+            return editor.paper()->visibleRegion().contains(editor.paper()->placeOf(row));
+        };
+        QVERIFY(seen(0));
+        QVERIFY(!seen(19));
+        // The rows of items end far below; the header is the first line.
+        editor.number("receiptdoc.totalPriceFieldWidth")->setFocus();
+        QTRY_VERIFY_WITH_TIMEOUT(seen(18), longEnough);
+        const int place = editor.paper()->y();
+        editor.number("receiptdoc.priceFieldWidth")->setFocus();
+        QTRY_COMPARE_WITH_TIMEOUT(editor.paper()->lit().value(0), 18, longEnough);
+        QTest::qWait(50);
+        QCOMPARE(editor.paper()->y(), place);
+        editor.check("receiptdoc.printHeader")->setFocus();
+        QTRY_VERIFY_WITH_TIMEOUT(seen(0), longEnough);
+    }
+
     void aLineLeadsToItsSetting_data()
     {
         QTest::addColumn<int>("row");
