@@ -81,7 +81,7 @@ FindingsList::FindingsList(QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
     setSpacing(1);
-    setMinimumHeight(2 * fontMetrics().lineSpacing() + 8);
+    setMinimumHeight(fontMetrics().lineSpacing() + 8);
     connect(this, &QListWidget::itemActivated, this, &FindingsList::choose);
     connect(this, &QListWidget::itemClicked, this, &FindingsList::choose);
 }

@@ -120,7 +120,7 @@ void PaperPane::build()
             &PaperPane::updateScale);
     layout->addWidget(ruler);
 
-    scroll->setMinimumHeight(3 * fontMetrics().lineSpacing());
+    scroll->setMinimumHeight(2 * fontMetrics().lineSpacing());
     findings->setObjectName(u"findings"_s);
     connect(findings, &FindingsList::settingChosen, this, &PaperPane::settingChosen);
     connect(findings, &FindingsList::rowChosen, this, [this](int row) { chooseRow(row, 0); });
@@ -372,6 +372,8 @@ bool PaperPane::eventFilter(QObject *watched, QEvent *event)
 void PaperPane::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
+    // What it does, the fields do too: in the lowest windows its line is the paper's.
+    ruler->setVisible(height() > 9 * fontMetrics().lineSpacing());
     QTimer::singleShot(0, this, &PaperPane::updateScale);
 }
 

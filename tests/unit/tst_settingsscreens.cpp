@@ -104,6 +104,26 @@ private slots:
         QTRY_VERIFY(editor.paper()->isVisible());
     }
 
+    /// On the smallest screen nothing lies over something else.
+    void thePaperOfTheSmallestScreen()
+    {
+        const TemporaryHome home(sampleOf40());
+        Editor editor(home.settingsPath());
+        editor.window.resize(266, 160);
+        editor.showTab("Paper");
+        QTRY_COMPARE_WITH_TIMEOUT(editor.findings().size(), 2, longEnough);
+        const auto *list = editor.child<QListWidget>("findings");
+        const auto placeOf = [&](const QWidget *widget) {
+            return QRect(widget->mapTo(&editor.window, QPoint()), widget->size());
+        };
+        const QRect window = editor.window.rect();
+        QTRY_VERIFY(list->isVisible() && window.contains(placeOf(list)));
+        const QWidget *view = editor.paper()->parentWidget();
+        QVERIFY(!placeOf(view).intersects(placeOf(list)));
+        QVERIFY(!placeOf(view).intersects(placeOf(editor.jobs())));
+        QVERIFY(view->height() > 10);
+    }
+
     /// All words of what is wrong are seen where there is room, and some of them where there is
     /// not.
     void theRoomOfFindings_data()
@@ -129,7 +149,7 @@ private slots:
             return list->viewport()->rect().contains(list->visualItemRect(list->item(row)));
         };
         QTRY_COMPARE(shows(1), isWhole);
-        QVERIFY(list->height() > 2 * list->fontMetrics().lineSpacing());
+        QTRY_VERIFY(list->height() > 2 * list->fontMetrics().lineSpacing());
         QVERIFY(editor.paper()->visibleRegion().boundingRect().height() > 20);
         // The words are broken, not cut.
         QVERIFY(list->visualItemRect(list->item(0)).width() <= list->viewport()->width());
