@@ -92,6 +92,24 @@ private slots:
         QVERIFY(QApplication::focusWidget()->isVisible());
     }
 
+    /// What the field lights is there, and in sight, when the paper comes to the front.
+    void theLightBehindTheTab()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        TRY_STREAM(editor, example("expected/receipt.out"));
+        editor.showForm();
+        editor.window.resize(400, 240);
+        editor.activate();
+        editor.number("receiptdoc.totalPriceFieldWidth")->setFocus();
+        // The titles of the columns, seven items and the total, counted from 0.
+        const QList<int> rows = {18, 19, 20, 21, 22, 23, 24, 25, 27};
+        QTRY_COMPARE_WITH_TIMEOUT(editor.paper()->lit(), rows, longEnough);
+        editor.showTab("Paper");
+        QTRY_VERIFY(editor.paper()->visibleRegion().contains(editor.paper()->placeOf(18)));
+        QCOMPARE(editor.paper()->lit(), rows);
+    }
+
     void aJobComesToTheFront()
     {
         const TemporaryHome home(example("korvel.conf"));
