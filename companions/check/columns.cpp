@@ -15,8 +15,8 @@ namespace korvel::check {
 
 namespace {
 
-/// Where the settings of a group stand, by their keys.
-using SettingPlaces = QHash<QString, Place>;
+/// The settings of a group, by their keys.
+using GroupSettings = QHash<QString, const SettingsFile::Entry *>;
 
 /// A row that has no room for its description.
 struct NarrowRow
@@ -47,16 +47,19 @@ QLatin1StringView narrowest(const NarrowRow &row, const SettingsFile &settings,
 
 /// Whether the columns of a group's documents leave room for the description, and no more than
 /// there is.
-void checkGroup(const SettingsFile &settings, QLatin1StringView group, const SettingPlaces &places,
+void checkGroup(const SettingsFile &settings, QLatin1StringView group, const GroupSettings &entries,
                 QList<Finding> &findings)
 {
     const auto number = [&](QLatin1StringView key) { return settings.number(group, key); };
     const auto note = [&](QLatin1StringView key, const QString &words) {
-        findings.append({places.value(key),
-                         Code::Columns,
-                         worded(Code::Columns, words),
-                         {vocabulary::group::korvel, group},
-                         0});
+        Finding finding{
+            {}, Code::Columns, worded(Code::Columns, words), {vocabulary::group::korvel, group}};
+        if (const SettingsFile::Entry *entry = entries.value(key)) {
+            finding.place = entry->place;
+            finding.setting = entry->groups + QStringList(entry->key);
+            finding.occurrence = entry->occurrence;
+        }
+        findings.append(finding);
     };
     const int paper = number(vocabulary::key::paperWidth);
     const qint64 width = paper == 0 ? vocabulary::lineWidth : paper;
@@ -94,15 +97,15 @@ void checkGroup(const SettingsFile &settings, QLatin1StringView group, const Set
 void checkColumns(const SettingsFile &settings, const QSet<QString> &groups,
                   QList<Finding> &findings)
 {
-    QHash<QString, SettingPlaces> places;
+    QHash<QString, GroupSettings> groupSettings;
     for (const SettingsFile::Entry &entry : settings.entries()) {
         if (!entry.meant.isEmpty())
-            places[settings.groups()[entry.group].meant.constFirst()].insert(entry.meant,
-                                                                             entry.place);
+            groupSettings[settings.groups()[entry.group].meant.constFirst()].insert(entry.meant,
+                                                                                    &entry);
     }
     for (const vocabulary::DocumentType &type : vocabulary::documentTypes) {
         if (groups.contains(type.group))
-            checkGroup(settings, type.group, places.value(type.group), findings);
+            checkGroup(settings, type.group, groupSettings.value(type.group), findings);
     }
 }
 

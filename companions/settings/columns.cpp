@@ -29,8 +29,7 @@ const vocabulary::RowStyle *styleOf(vocabulary::Document document)
 
 int ColumnEdge::valueAt(int column) const
 {
-    const bool isLeft = at == span.from && fixed == span.to;
-    return std::clamp(isLeft ? fixed - column : column - fixed, 0, widest);
+    return std::clamp(isLeft ? span.to - column : column - span.from, 0, widest);
 }
 
 QList<ColumnEdge> edgesOf(const State &state, const vocabulary::Method &method)
@@ -48,21 +47,23 @@ QList<ColumnEdge> edgesOf(const State &state, const vocabulary::Method &method)
     QList<ColumnEdge> edges;
     if (const vocabulary::RowStyle *style = styleOf(method.document)) {
         const auto has = [&](vocabulary::Column column) { return (style->columns & column) != 0; };
-        if (const int width = number(key::quantityFieldWidth); has(vocabulary::Quantity))
-            edges.append({path(key::quantityFieldWidth), width, 0, {0, width}});
-        // A row of dates ends where these leave off.
-        int right = has(vocabulary::Total) ? paper : paper - style->beside + vocabulary::dateWidth;
-        const auto addFromRight = [&](QLatin1StringView name) {
-            const int width = number(name);
-            edges.append({path(name), right - width, right, {right - width, right}});
-            right -= width;
-        };
-        if (has(vocabulary::Total))
-            addFromRight(key::totalPriceFieldWidth);
+        const int quantity = number(key::quantityFieldWidth);
+        const int price = number(key::priceFieldWidth);
+        const int total = number(key::totalPriceFieldWidth);
+        if (has(vocabulary::Quantity))
+            edges.append({path(key::quantityFieldWidth), {0, quantity}});
+        // The description gives way until it has no room; then the columns push one another.
+        const qint64 room = style->descriptionWidth(paper, quantity, price, total);
+        const int left =
+            has(vocabulary::Quantity) ? quantity + style->beside : vocabulary::dateWidth;
+        const int first = left + static_cast<int>(std::max<qint64>(room, 0));
+        const int behind = first + (has(vocabulary::Price) ? price : 0);
         if (has(vocabulary::Price))
-            addFromRight(key::priceFieldWidth);
+            edges.append({path(key::priceFieldWidth), {first, behind}, room >= 0});
+        if (has(vocabulary::Total))
+            edges.append({path(key::totalPriceFieldWidth), {behind, behind + total}, room >= 0});
     }
-    edges.append({path(key::paperWidth), paper, 0, {0, paper}});
+    edges.append({path(key::paperWidth), {0, paper}});
     return edges;
 }
 

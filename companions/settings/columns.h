@@ -15,15 +15,18 @@ class State;
 struct ColumnEdge
 {
     QStringList setting; // path
-    int at = 0;          // column of the paper
-    int fixed = 0;       // where the column's other edge stands
     Span span;           // the column
+    bool isLeft = false; // it is the column's left edge; the other one stays where it is
+
+    /// The column of the paper where it stands.
+    [[nodiscard]] int at() const { return isLeft ? span.from : span.to; }
 
     /// What the setting becomes when the edge is moved to a column of the paper.
     [[nodiscard]] int valueAt(int column) const;
 };
 
-/// The edges of a document's columns, the paper's last; none for a document without columns.
+/// The edges of a document's columns, the paper's last; none for a document without columns. The
+/// columns that are wider than the paper go on behind its edge, as its characters do.
 QList<ColumnEdge> edgesOf(const State &state, const vocabulary::Method &method);
 
 } // namespace korvel::settings

@@ -8,7 +8,7 @@
 #include "companions/settings/state.h"
 #include "config/config.h"
 
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -81,22 +81,31 @@ ExpertPane::ExpertPane(State &settings, QWidget *parent)
     addSettingButton->setObjectName(u"addSetting"_s);
     addGroupButton->setObjectName(u"addGroup"_s);
     removeButton->setObjectName(u"remove"_s);
-    auto *buttons = new QHBoxLayout;
-    for (QPushButton *button : {addSettingButton, addGroupButton, removeButton}) {
+    auto *buttons = new QGridLayout;
+    buttons->addWidget(addSettingButton, 0, 0);
+    buttons->addWidget(addGroupButton, 0, 1);
+    buttons->addWidget(removeButton, 1, 0);
+    buttons->setColumnStretch(2, 1);
+    for (QPushButton *button : {addSettingButton, addGroupButton, removeButton})
         button->setAutoDefault(false);
-        buttons->addWidget(button);
-    }
-    buttons->addStretch(1);
     layout->addLayout(buttons);
     meaning->setObjectName(u"meaning"_s);
     meaning->setWordWrap(true);
     meaning->setTextFormat(Qt::RichText);
-    meaning->setMinimumHeight(4 * meaning->fontMetrics().lineSpacing());
     meaning->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     layout->addWidget(meaning);
     connect(addSettingButton, &QPushButton::clicked, this, &ExpertPane::addSetting);
     connect(addGroupButton, &QPushButton::clicked, this, &ExpertPane::addGroup);
     connect(removeButton, &QPushButton::clicked, this, &ExpertPane::remove);
+}
+
+/// Keeps room for a meaning, so that the rows stay where they are, unless it is the rows that lack
+/// it.
+void ExpertPane::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    const int line = fontMetrics().lineSpacing();
+    meaning->setMinimumHeight(height() > 20 * line ? 4 * line : 0);
 }
 
 ExpertPane::~ExpertPane()

@@ -41,6 +41,9 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 signals:
     /// The row of a setting has become the current one, or has got the focus.
     void entered(const QStringList &path);

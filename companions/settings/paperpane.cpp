@@ -3,8 +3,8 @@
 
 #include "companions/check/checks.h"
 #include "companions/check/settingsfile.h"
-#include "companions/preview/findings.h"
 #include "companions/settings/fields.h"
+#include "companions/settings/findingslist.h"
 #include "companions/settings/jobs.h"
 #include "companions/settings/paperview.h"
 #include "companions/settings/ruler.h"
@@ -16,12 +16,12 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
-#include <QListWidget>
-#include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSplitter>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <chrono>
 
 using namespace Qt::Literals::StringLiterals;
@@ -31,23 +31,19 @@ namespace korvel::settings {
 
 namespace {
 
-constexpr int settingRole = Qt::UserRole;
-constexpr int rowRole = Qt::UserRole + 1;
-constexpr int mostFindings = 20;
-
-/// A finding in words, by its line of the paper: nobody who looks at paper counts bytes.
-QString wordsOf(const preview::Finding &finding, const QList<preview::PaperRow> &rows)
+/// What the columns take, where they are wider than the paper: their fields and widths.
+QString widthsOf(const QList<ColumnEdge> &edges)
 {
-    if (finding.code == preview::Code::TooWide && finding.row > 0)
-        return PaperPane::tr("Line %1 is wider than the paper: %2 characters, of %3.")
-            .arg(finding.row)
-            .arg(rows.value(finding.row - 1).text.size())
-            .arg(vocabulary::lineWidth);
-    static const QRegularExpression bytes(
-        u" ((that begins |opened )?at byte \\d+|\\((byte|octet) \\d+\\))"_s,
-        QRegularExpression::CaseInsensitiveOption);
-    const QString text = QString(finding.text).remove(bytes);
-    return finding.row > 0 ? PaperPane::tr("Line %1: %2").arg(finding.row).arg(text) : text;
+    bool isWide = false;
+    QStringList widths;
+    for (const ColumnEdge &edge : edges) {
+        const QString &key = edge.setting.constLast();
+        isWide = isWide || edge.span.to > vocabulary::lineWidth;
+        if (key != vocabulary::key::paperWidth || edge.span.to > vocabulary::lineWidth)
+            widths.append(fields::titleOf(key) + u' '
+                          + QString::number(edge.span.to - edge.span.from));
+    }
+    return isWide ? widths.join(u", "_s) + u'.' : QString();
 }
 
 } // namespace
@@ -61,7 +57,8 @@ PaperPane::PaperPane(State &theSettings, const QString &renderer, QWidget *paren
     , ruler(new Ruler)
     , paper(new PaperView)
     , scroll(new QScrollArea)
-    , findings(new QListWidget)
+    , parts(new QSplitter(Qt::Vertical))
+    , findings(new FindingsList)
 {
     build();
     pause.setSingleShot(true);
@@ -82,10 +79,15 @@ PaperPane::PaperPane(State &theSettings, const QString &renderer, QWidget *paren
                         span = edge.span;
                 }
                 paper->light(found, span);
+                showLit();
             });
     connect(paper, &PaperView::rowChosen, this, &PaperPane::chooseRow);
     connect(ruler, &Ruler::dragged, this, [this](const auto &setting, int value, int move) {
         state.set(setting, QString::number(value), move);
+    });
+    connect(ruler, &Ruler::asked, this, [this](int column) {
+        const int row = scroll->verticalScrollBar()->value() + 1;
+        scroll->ensureVisible(qRound(paper->leftOf(column)), row, scroll->width() / 4, 0);
     });
 }
 
@@ -119,24 +121,18 @@ void PaperPane::build()
     connect(scroll->horizontalScrollBar(), &QScrollBar::valueChanged, this,
             &PaperPane::updateScale);
     layout->addWidget(ruler);
-    layout->addWidget(scroll, 1);
 
+    scroll->setMinimumHeight(2 * fontMetrics().lineSpacing());
     findings->setObjectName(u"findings"_s);
-    findings->setAccessibleName(tr("What is wrong"));
-    findings->setWordWrap(true);
-    findings->setMaximumHeight(4 * findings->fontMetrics().lineSpacing() + 8);
-    connect(findings, &QListWidget::itemActivated, this, &PaperPane::chooseFinding);
-    connect(findings, &QListWidget::itemClicked, this, &PaperPane::chooseFinding);
-    layout->addWidget(findings);
+    connect(findings, &FindingsList::settingChosen, this, &PaperPane::settingChosen);
+    connect(findings, &FindingsList::rowChosen, this, [this](int row) { chooseRow(row, 0); });
+    parts->addWidget(scroll);
+    parts->addWidget(findings);
+    parts->setStretchFactor(0, 1);
+    parts->setChildrenCollapsible(false);
+    connect(parts, &QSplitter::splitterMoved, this, [this] { isParted = true; });
+    layout->addWidget(parts, 1);
     layout->setContentsMargins(4, 4, 4, 4);
-}
-
-void PaperPane::chooseFinding(const QListWidgetItem *item)
-{
-    if (const QStringList setting = item->data(settingRole).toStringList(); !setting.isEmpty())
-        emit settingChosen(setting);
-    else if (const int row = item->data(rowRole).toInt(); row >= 0)
-        chooseRow(row, 0);
 }
 
 void PaperPane::showDocument(const vocabulary::Method &method)
@@ -190,6 +186,7 @@ QString PaperPane::openJob(const QString &path)
     jobPath = path;
     job = *bytes;
     render();
+    emit jobOpened();
     return {};
 }
 
@@ -221,15 +218,7 @@ void PaperPane::showRendered(const shared::Rendered &rendered)
         pause.start();
     listFindings(rendered.isThere() ? rendered.said : QString());
     updateScale();
-}
-
-void PaperPane::addFinding(const QString &text, const QStringList &setting, int row)
-{
-    if (findings->count() > mostFindings)
-        return;
-    auto *item = new QListWidgetItem(findings->count() == mostFindings ? u"…"_s : text, findings);
-    item->setData(settingRole, setting);
-    item->setData(rowRole, row);
+    QTimer::singleShot(0, this, &PaperPane::partRoom); // the list has its width then
 }
 
 /// What the settings of the shown document have, then what the checker says of the user's job, then
@@ -237,27 +226,37 @@ void PaperPane::addFinding(const QString &text, const QStringList &setting, int 
 void PaperPane::listFindings(const QString &byRenderer)
 {
     findings->clear();
-    if (!byRenderer.isEmpty())
-        addFinding(byRenderer, {});
     for (const hints::Hint &hint : std::as_const(hintsFound)) {
         const QString group = hint.setting.value(1);
         if (hint.isUnread
             || (shownMethod && group != shownMethod->group && group != vocabulary::group::language))
             continue;
         const QString key = hint.setting.value(2);
-        addFinding(key.isEmpty() ? hint.text : fields::titleOf(key) + u": "_s + hint.text,
-                   hint.setting);
+        findings->add(key.isEmpty() ? hint.text : fields::titleOf(key) + u": "_s + hint.text,
+                      hint.setting);
     }
+    const int ofSettings = findings->count();
+    if (!byRenderer.isEmpty())
+        findings->add(byRenderer);
     if (!jobPath.isEmpty()) {
         const check::SettingsFile file(settings);
         for (const check::Finding &finding : check::checkJob(job, &file))
-            addFinding(tr("Job, line %1: %2").arg(finding.place.line).arg(finding.text), {});
+            findings->add(tr("Job, line %1: %2").arg(finding.place.line).arg(finding.text));
     }
-    if (!rows.isEmpty()) {
-        for (const preview::Finding &finding : preview::findings(shown, vocabulary::lineWidth))
-            addFinding(wordsOf(finding, rows), {}, static_cast<int>(finding.row) - 1);
-    }
+    if (!rows.isEmpty())
+        findings->addOfPaper(shown, rows, widthsOf(ruler->edges()));
     findings->setVisible(findings->count() > 0);
+    emit found(findings->textsFrom(ofSettings));
+}
+
+/// Gives the findings the room that they need, up to a part of the pane, unless the user did.
+void PaperPane::partRoom()
+{
+    if (isParted || !findings->isVisible())
+        return;
+    const int room = parts->height() - parts->handleWidth();
+    const int below = std::min(findings->wholeHeight(), room * 2 / 5);
+    parts->setSizes({room - below, below});
 }
 
 void PaperPane::lightSetting(const QStringList &setting)
@@ -266,6 +265,20 @@ void PaperPane::lightSetting(const QStringList &setting)
     paper->light({});
     if (!setting.isEmpty() && !rows.isEmpty())
         pause.start();
+}
+
+/// Scrolls to what is lit, unless some of it is in sight.
+void PaperPane::showLit()
+{
+    const QRect sight = paper->visibleRegion().boundingRect();
+    const QList<int> &lit = paper->lit();
+    const bool isSeen = std::any_of(lit.begin(), lit.end(), [&](int row) {
+        const int middle = paper->placeOf(row).y();
+        return sight.top() < middle && middle < sight.bottom();
+    });
+    if (!lit.isEmpty() && !sight.isEmpty() && !isSeen)
+        scroll->ensureVisible(sight.center().x(), paper->placeOf(lit.constFirst()).y(), 0,
+                              scroll->height() / 3);
 }
 
 void PaperPane::chooseRow(int row, int column)
@@ -338,6 +351,7 @@ void PaperPane::setFitsWidth(bool fits)
 /// Brings zoom and ruler in line with the paper's place on the screen.
 void PaperPane::updateScale()
 {
+    partRoom();
     if (fitting) {
         const int bar = scroll->verticalScrollBar()->sizeHint().width();
         const double fit = paper->zoomForWidth(scroll->width() - bar - 4);
@@ -352,12 +366,16 @@ bool PaperPane::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == paper && (event->type() == QEvent::Move || event->type() == QEvent::Resize))
         QTimer::singleShot(0, this, &PaperPane::updateScale);
+    if (watched == paper && event->type() == QEvent::Show)
+        QTimer::singleShot(0, this, &PaperPane::showLit);
     return false;
 }
 
 void PaperPane::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
+    // What it does, the fields do too: in the lowest windows its line is the paper's.
+    ruler->setVisible(height() > 9 * fontMetrics().lineSpacing());
     QTimer::singleShot(0, this, &PaperPane::updateScale);
 }
 

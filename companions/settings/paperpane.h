@@ -10,12 +10,12 @@
 #include <QWidget>
 
 class QComboBox;
-class QListWidget;
-class QListWidgetItem;
 class QScrollArea;
+class QSplitter;
 
 namespace korvel::settings {
 
+class FindingsList;
 class PaperView;
 class Ruler;
 class State;
@@ -77,7 +77,13 @@ signals:
     /// The user opened a job of another document.
     void documentChosen(const QString &method);
 
+    /// A job of the user's own is shown.
+    void jobOpened();
+
     void failed(const QString &text);
+
+    /// What is wrong with the shown job and its paper, beside its settings; nothing for none.
+    void found(const QStringList &texts);
 
     /// A line for the status bar.
     void said(const QString &text);
@@ -91,8 +97,8 @@ private:
     void render();
     void showRendered(const shared::Rendered &rendered);
     void listFindings(const QString &byRenderer);
-    void addFinding(const QString &text, const QStringList &setting, int row = -1);
-    void chooseFinding(const QListWidgetItem *item);
+    void partRoom();
+    void showLit();
     void chooseRow(int row, int column);
     void showMakers(int row, const QList<QStringList> &makers);
     void updateScale();
@@ -112,12 +118,14 @@ private:
     QStringList litSetting;
     int clickedColumn = 0;
     bool fitting = true;
+    bool isParted = false; // by the user: paper and findings
 
     QComboBox *jobs;
     Ruler *ruler;
     PaperView *paper;
     QScrollArea *scroll;
-    QListWidget *findings;
+    QSplitter *parts; // paper and findings
+    FindingsList *findings;
 };
 
 } // namespace korvel::settings

@@ -11,6 +11,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -105,7 +106,9 @@ void PaperView::setZoom(double newFactor)
 
 double PaperView::zoomForWidth(int width) const
 {
-    return picture ? static_cast<double>(width - 2 * border) / picture->size().width() : factor;
+    const preview::Look look = preview::Look::plain();
+    const int paper = 2 * look.margin + vocabulary::lineWidth * look.cell.width();
+    return picture ? static_cast<double>(width - 2 * border) / paper : factor;
 }
 
 double PaperView::leftOf(int column) const
@@ -120,8 +123,12 @@ QRectF PaperView::rectOf(int row, const Span &columns) const
 {
     const preview::Look look = preview::Look::plain();
     const int height = look.cell.height();
-    return {leftOf(columns.from), border + factor * (look.space + row * height),
-            leftOf(columns.to) - leftOf(columns.from), factor * height};
+    // The paper's edge is the left one of what goes on behind it, and the right one of the rest.
+    const double left = columns.from < vocabulary::lineWidth
+                            ? leftOf(columns.from)
+                            : leftOf(columns.from + 1) - factor * look.cell.width();
+    return {left, border + factor * (look.space + row * height),
+            std::max(0.0, leftOf(columns.to) - left), factor * height};
 }
 
 QPoint PaperView::placeOf(int row, int column) const
@@ -169,7 +176,11 @@ void PaperView::mousePressEvent(QMouseEvent *event)
         return;
     current = row;
     update();
-    emit rowChosen(row, static_cast<int>(x) / look.cell.width());
+    const int cell = look.cell.width();
+    const int column = static_cast<int>(std::floor(x / cell));
+    const int behind = static_cast<int>(std::floor((x - look.margin) / cell)) - 1;
+    emit rowChosen(row, column < vocabulary::lineWidth ? column
+                                                       : std::max(behind, vocabulary::lineWidth));
 }
 
 void PaperView::keyPressEvent(QKeyEvent *event)

@@ -53,7 +53,8 @@ public:
     void setZoom(double factor);
     [[nodiscard]] double zoom() const { return factor; }
 
-    /// The zoom at which the paper has this width; the present one while there is no paper.
+    /// The zoom at which the paper has this width, without what is beyond its edge; the present one
+    /// while there is no paper.
     [[nodiscard]] double zoomForWidth(int width) const;
 
     /// Where a column begins, from the widget's left.

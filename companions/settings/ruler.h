@@ -7,9 +7,14 @@
 
 #include <functional>
 
+class QPainter;
+
 namespace korvel::settings {
 
-/// The same can be done with the fields of the form, which the keyboard reaches.
+/**
+ * The same can be done with the fields of the form, which the keyboard reaches. An arrow at an end
+ * stands for edges that are further out; a click on it asks for the nearest.
+ */
 class Ruler : public QWidget
 {
     Q_OBJECT
@@ -32,6 +37,9 @@ signals:
     /// An edge is dragged: its setting becomes this. The steps of one move have one number.
     void dragged(const QStringList &setting, int value, int move);
 
+    /// An edge at this column is asked for, which is out of sight.
+    void asked(int column);
+
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -39,6 +47,10 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    enum class End { Left, Right };
+    [[nodiscard]] const ColumnEdge *beyond(End end) const;
+    [[nodiscard]] const ColumnEdge *arrowAt(double x) const;
+    void paintArrow(QPainter &painter, End end) const;
     [[nodiscard]] int edgeAt(double x) const;
     [[nodiscard]] int columnAt(double x) const;
 

@@ -8,6 +8,7 @@
 #include "companions/settings/formpane.h"
 #include "companions/settings/hints.h"
 #include "companions/settings/jobs.h"
+#include "companions/settings/panes.h"
 #include "companions/settings/paperpane.h"
 #include "companions/settings/unreadpane.h"
 
@@ -19,13 +20,13 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QSettings>
-#include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QStyle>
 #include <QTabWidget>
 #include <QTreeWidget>
 
+#include <algorithm>
 #include <chrono>
 
 using namespace Qt::Literals::StringLiterals;
@@ -127,13 +128,7 @@ void SettingsWindow::buildPanes(const QString &renderer)
     tabs->addTab(expert, tr("E&xpert"));
     paper = new PaperPane(state, renderer);
 
-    panes = new QSplitter;
-    panes->addWidget(documents);
-    panes->addWidget(tabs);
-    panes->addWidget(paper);
-    panes->setStretchFactor(1, 2);
-    panes->setStretchFactor(2, 3);
-    panes->setChildrenCollapsible(false);
+    panes = new Panes(documents, tabs, paper);
     setCentralWidget(panes);
 }
 
@@ -146,7 +141,15 @@ void SettingsWindow::connectPanes()
         if (selected.size() == 1 && selected.constFirst() != documents->currentItem())
             documents->setCurrentItem(selected.constFirst());
     });
-    connect(tabs, &QTabWidget::currentChanged, paper, [this] { paper->lightSetting({}); });
+    connect(tabs, &QTabWidget::currentChanged, paper, [this] {
+        if (tabs->currentWidget() != paper) // which may be a tab itself
+            paper->lightSetting({});
+    });
+    // In a narrow window a chosen document's settings are behind the list.
+    connect(documents, &QListWidget::itemActivated, this, [this] {
+        if (panes->isNarrow())
+            panes->bringToFront(pages);
+    });
     connect(form, &FormPane::entered, paper, &PaperPane::lightSetting);
     connect(expert, &ExpertPane::entered, paper, &PaperPane::lightSetting);
     connect(paper, &PaperPane::settingChosen, this, &SettingsWindow::chooseSetting);
@@ -156,9 +159,12 @@ void SettingsWindow::connectPanes()
                 documents->setCurrentRow(row);
         }
     });
+    connect(paper, &PaperPane::found, this, &SettingsWindow::noteOfPaper);
+    connect(paper, &PaperPane::jobOpened, this, [this] { panes->bringToFront(paper); });
     connect(paper, &PaperPane::failed, this, &SettingsWindow::tell);
     connect(paper, &PaperPane::said, this,
             [this](const QString &text) { statusBar()->showMessage(text, 8000); });
+    connect(statusBar(), &QStatusBar::messageChanged, this, &SettingsWindow::showStatusBar);
 }
 
 /// The document in a row of the list; null for the other rows.
@@ -197,8 +203,8 @@ void SettingsWindow::chooseSetting(const QStringList &setting)
             state.view()->setFocus();
             return;
         }
-        tabs->setCurrentWidget(pages);
     }
+    panes->bringToFront(pages);
     if (form->choose(setting))
         return;
     if (setting.value(1) == vocabulary::group::language) {
@@ -236,8 +242,18 @@ void SettingsWindow::refresh()
     form->refresh(found);
     unread->refresh();
     expert->showCurrent();
+    // Of the other documents it is not known what the paper is like now.
+    const QString shown = paper->method() ? QString(paper->method()->name) : QString();
+    ofPaper = {{shown, ofPaper.value(shown)}};
     markDocuments();
     paper->refresh(settings, found);
+}
+
+void SettingsWindow::noteOfPaper(const QStringList &texts)
+{
+    if (const vocabulary::Method *method = paper->method())
+        ofPaper[method->name] = texts;
+    markDocuments();
 }
 
 void SettingsWindow::markDocuments()
@@ -252,6 +268,10 @@ void SettingsWindow::markDocuments()
                              && hint.setting.value(1) == vocabulary::group::language)
                 texts.append(hint.text);
         }
+        if (method)
+            texts += ofPaper.value(method->name);
+        if (method && method == paper->method())
+            panes->markPaper(texts.isEmpty() ? QIcon() : icon);
         QListWidgetItem *item = documents->item(row);
         item->setIcon(texts.isEmpty() ? QIcon() : icon);
         item->setToolTip(texts.join(u'\n'));
@@ -279,15 +299,34 @@ void SettingsWindow::updateTitle()
     setWindowFilePath(document->path());
 }
 
+/// In a low window its line is the fields', unless there is something to say.
+void SettingsWindow::showStatusBar()
+{
+    const bool isLow = height() < 20 * fontMetrics().height();
+    statusBar()->setVisible(!isLow || !statusBar()->currentMessage().isEmpty());
+}
+
+void SettingsWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    showStatusBar();
+}
+
+/// As the window was, as far as the screen has room for it.
 void SettingsWindow::restoreSize()
 {
-    const QSize room = screen()->availableSize();
-    resize(QSize(1180, 760).boundedTo(room));
+    resize(QSize(1180, 760).boundedTo(screen()->availableSize()));
     panes->setSizes({width() * 17 / 100, width() * 40 / 100, width() * 43 / 100});
     const QSettings settings;
-    restoreGeometry(settings.value(u"window/geometry"_s).toByteArray());
-    panes->restoreState(settings.value(u"window/columns"_s).toByteArray());
-    resize(size().boundedTo(room));
+    const bool isPlaced = restoreGeometry(settings.value(u"window/geometry"_s).toByteArray());
+    panes->loadState(settings.value(u"window/columns"_s).toByteArray());
+    const QRect room = screen()->availableGeometry();
+    const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    if (width() > room.width() || height() > room.height())
+        resize(size().boundedTo(room.size() - QSize(0, title)));
+    if (isPlaced)
+        move(std::max(room.left(), std::min(x(), room.right() + 1 - width())),
+             std::max(room.top(), std::min(y(), room.bottom() + 1 - height() - title)));
 }
 
 void SettingsWindow::closeEvent(QCloseEvent *event)
@@ -298,7 +337,7 @@ void SettingsWindow::closeEvent(QCloseEvent *event)
     }
     QSettings settings;
     settings.setValue(u"window/geometry"_s, saveGeometry());
-    settings.setValue(u"window/columns"_s, panes->saveState());
+    settings.setValue(u"window/columns"_s, panes->savedState());
     event->accept();
 }
 

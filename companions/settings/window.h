@@ -5,6 +5,7 @@
 #include "companions/settings/hints.h"
 #include "companions/settings/state.h"
 
+#include <QHash>
 #include <QMainWindow>
 #include <QTimer>
 
@@ -12,7 +13,6 @@
 
 class QListWidget;
 class QMenu;
-class QSplitter;
 class QStackedWidget;
 class QTabWidget;
 
@@ -25,6 +25,7 @@ namespace korvel::settings {
 class ExpertPane;
 class FormPane;
 class PaperPane;
+class Panes;
 class UnreadPane;
 
 /**
@@ -58,6 +59,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void buildPanes(const QString &renderer);
@@ -92,17 +94,21 @@ private:
     void chooseSetting(const QStringList &setting);
     void edited();
     void refresh();
+    void noteOfPaper(const QStringList &texts);
     void markDocuments();
     void showUnreadRow();
     void updateTitle();
+    void showStatusBar();
     void restoreSize();
 
     State state; // outlives the panes
     std::unique_ptr<SettingsDocument> document;
     QList<hints::Hint> found; // hints of the settings as they are
-    QTimer pause;             // gathers the edits of a moment into one run
+    QHash<QString, QStringList>
+        ofPaper;  // what else is wrong, by documents that were shown with them
+    QTimer pause; // gathers the edits of a moment into one run
 
-    QSplitter *panes = nullptr;
+    Panes *panes = nullptr;
     QListWidget *documents = nullptr;
     QTabWidget *tabs = nullptr;
     QStackedWidget *pages = nullptr; // of the first tab

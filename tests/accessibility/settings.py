@@ -139,7 +139,11 @@ def check(desktop, program, sample):
     reader.set_width(40)
     reader.width(40, finding=True)
     reader.find("list item", f"Paper width: {TOO_WIDE}")
-    reader.find("list item", "Line 2 is wider than the paper: 40 characters, of 32.")
+    reader.find(
+        "list item",
+        "Lines 2, 4, 9, 11, 15, 18–26, 28 are wider than the paper: up to 40 characters, of 32. "
+        "Quantity column 3, Price column 7, Amount column 8, Paper width 40.",
+    )
     reader.paper("=" * 40)
 
     reader.do("menu item", "Undo paper width 40", "Press")

@@ -99,6 +99,17 @@ public:
     void showExpert() const { child<QTabWidget>("tabs")->setCurrentIndex(1); }
     void showForm() const { child<QTabWidget>("tabs")->setCurrentIndex(0); }
 
+    /// Brings a tab to the front by its title, without the mark of its key.
+    void showTab(const QString &title) const
+    {
+        auto *tabs = child<QTabWidget>("tabs");
+        for (int i = 0; i < tabs->count(); ++i) {
+            if (tabs->tabText(i).remove('&') == title)
+                return tabs->setCurrentIndex(i);
+        }
+        qFatal("there is no tab %s", qPrintable(title));
+    }
+
     /// Chooses a document by its title, or another row of the list.
     void choose(const QString &title) const
     {

@@ -138,7 +138,7 @@ private slots:
         for (const check::Finding &finding : checkSettings(*settings))
             about.append(QString(infoOf(finding.code).name) + ' ' + finding.setting.join('.'));
         const QStringList expected = {"unread-key loose",
-                                      "columns korvel.doc",
+                                      "columns korvel.doc.quantityFieldWidth",
                                       "columns korvel.doc.paperWidth",
                                       "not-true korvel.doc.printDate",
                                       "not-a-number korvel.doc.topMargin",

@@ -3,6 +3,7 @@
 #include "companions/check/checks.h"
 #include "companions/check/settingsfile.h"
 #include "companions/preview/codes.h"
+#include "companions/settings/findingslist.h"
 #include "support/answers.h"
 #include "support/settingseditor.h"
 #include "support/settingstext.h"
@@ -61,8 +62,63 @@ private slots:
         const Editor editor(home.settingsPath());
         QTRY_VERIFY_WITH_TIMEOUT(!editor.findings().isEmpty(), longEnough);
         QCOMPARE(editor.findings().constFirst(),
-                 QString("Zu breit für das Papier: Zeilen mit mehr als 32 Zeichen "
+                 QString("Papierbreite: Zu breit für das Papier: Zeilen mit mehr als 32 Zeichen "
                          "oder kein Platz für die Bezeichnung."));
+    }
+
+    /// The paper of the sample receipt begins with a line and its separator; the titles of the
+    /// columns are its 19th line, seven items follow, the total is the 28th. A title or a total has
+    /// one blank behind the quantity, an item " x ": 3 + 1 + 7 + 40 characters, or 53.
+    void columnsTooWide()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        TRY_STREAM(editor, example("expected/receipt.out"));
+        editor.edit("receiptdoc.totalPriceFieldWidth", "40");
+        const QStringList expected = {
+            "Amount column: Too wide for the paper: lines of more than 32 characters, or no room "
+            "for the description.",
+            "Lines 19–26, 28 are wider than the paper: up to 53 characters, of 32. Quantity column "
+            "3, Price column 7, Amount column 40.",
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(editor.findings(), expected, longEnough);
+        // It stands at the field too.
+        editor.showForm();
+        QVERIFY(editor.number("receiptdoc.totalPriceFieldWidth")
+                    ->accessibleDescription()
+                    .contains("Too wide"));
+        editor.edit("receiptdoc.totalPriceFieldWidth", "8");
+        QTRY_COMPARE_WITH_TIMEOUT(editor.findings(), QStringList(), longEnough);
+    }
+
+    /// A section that is opened in front of the first line, and one behind lines.
+    void aSectionThatIsNeverClosed()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        const QString job = home.path() + "/own.xml";
+        writeFile(job, "<printjob>\n<method name=\"printFullOrderReceipt\"/>\n"
+                       "<receipt serialnumber=\"7\"/>\n<block>\n");
+        answers.give({job});
+        editor.shortcut(Qt::Key_J);
+        QTRY_COMPARE_WITH_TIMEOUT(
+            editor.findings().value(1),
+            QString("Line 1: the receipt section opened here is never closed"), longEnough);
+        const auto *list = editor.child<QListWidget>("findings");
+        emit editor.child<QListWidget>("findings")->itemActivated(list->item(1));
+        QTRY_COMPARE_WITH_TIMEOUT(editor.paper()->lit(), QList<int>{0}, longEnough);
+    }
+
+    void linesOfWhatPrintsNone()
+    {
+        // Two lines, then a section that is opened inside another one, a line, and the end.
+        const QByteArray stream = "=o/*1\n" + line("one") + line("two") + "=o/*1\n" + line("three");
+        settings::FindingsList list;
+        list.addOfPaper(stream, preview::paperOf(stream, 32), {});
+        QCOMPARE(list.textsFrom(0),
+                 QStringList({"Line 3: the receipt section is still open where the receipt section "
+                              "is opened",
+                              "Line 3: the receipt section opened here is never closed"}));
     }
 
     /// The columns of the receipt are 3, 7 and 8 wide, and three blanks part them from a paper
@@ -193,7 +249,7 @@ private:
     Answers answers;
 };
 
-KORVEL_TEST(TestSettingsFindings)
+KORVEL_TEST_BY(runWindowTest, TestSettingsFindings)
 
 } // namespace tst_settingsfindings
 

@@ -86,6 +86,32 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(editor.paper()->lit(), rows, longEnough);
     }
 
+    /// What is lit comes in sight, and what is in sight stays where it is.
+    void theLightIsSeen()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        editor.showForm();
+        editor.window.resize(800, 400);
+        TRY_STREAM(editor, example("expected/receipt.out"));
+        editor.activate();
+        const auto seen = [&](int row) {
+            return editor.paper()->visibleRegion().contains(editor.paper()->placeOf(row));
+        };
+        QVERIFY(seen(0));
+        QVERIFY(!seen(19));
+        // The rows of items end far below; the header is the first line.
+        editor.number("receiptdoc.totalPriceFieldWidth")->setFocus();
+        QTRY_VERIFY_WITH_TIMEOUT(seen(18), longEnough);
+        const int place = editor.paper()->y();
+        editor.number("receiptdoc.priceFieldWidth")->setFocus();
+        QTRY_COMPARE_WITH_TIMEOUT(editor.paper()->lit().value(0), 18, longEnough);
+        QTest::qWait(50);
+        QCOMPARE(editor.paper()->y(), place);
+        editor.check("receiptdoc.printHeader")->setFocus();
+        QTRY_VERIFY_WITH_TIMEOUT(seen(0), longEnough);
+    }
+
     void aLineLeadsToItsSetting_data()
     {
         QTest::addColumn<int>("row");
@@ -172,9 +198,9 @@ private slots:
         QCOMPARE(ruler->edges().size(), 4);
         // The edge between price and amount stands at 32 - 8; two columns to the left of it the
         // amount has 10.
-        const ColumnEdge edge = ruler->edges()[1];
+        const ColumnEdge edge = ruler->edges()[2];
         QCOMPARE(edge.setting.constLast(), QString("totalPriceFieldWidth"));
-        QCOMPARE(edge.at, 24);
+        QCOMPARE(edge.at(), 24);
         QTest::qWait(50);
         const int from = ruler->placeOf(edge);
         const int cell = qRound(editor.paper()->leftOf(1) - editor.paper()->leftOf(0));
@@ -201,6 +227,33 @@ private slots:
         auto *list = editor.child<QListWidget>("findings");
         emit list->itemActivated(list->item(0));
         QCOMPARE(QApplication::focusWidget()->objectName(), QString("receiptdoc.paperWidth"));
+    }
+
+    /// What a document has wrong is said in the list of documents, whether it is the settings or
+    /// the paper.
+    void aDocumentIsMarked()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        TRY_STREAM(editor, example("expected/receipt.out"));
+        const auto noteOf = [&](const QString &title) {
+            const auto found = editor.documents()->findItems(title, Qt::MatchExactly);
+            return found.constFirst()->icon().isNull() ? QString() : found.constFirst()->toolTip();
+        };
+        QCOMPARE(noteOf("Receipt"), QString());
+        // A ")" in a name is a matter of the job and of the paper alone.
+        const QString job = home.path() + "/own.xml";
+        writeFile(job, "<printjob><method name=\"printFullOrderReceipt\"/>"
+                       "<receipe number=\"1\" name=\"Tea )\" price=\"2.00\" totalPrice=\"2.00\"/>"
+                       "</printjob>");
+        answers.give({job});
+        editor.shortcut(Qt::Key_J);
+        QTRY_VERIFY_WITH_TIMEOUT(noteOf("Receipt").contains("a \")\" inside a text ends it early"),
+                                 longEnough);
+        QCOMPARE(noteOf("Summary receipt"), QString());
+        // The sample has nothing wrong.
+        emit editor.jobs()->activated(0);
+        QTRY_COMPARE_WITH_TIMEOUT(noteOf("Receipt"), QString(), longEnough);
     }
 
     void whatTheCheckerSaysOfAJob()

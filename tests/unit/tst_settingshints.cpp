@@ -94,11 +94,13 @@ private slots:
         row("columns that leave none",
             "receiptdoc: { quantityFieldWidth = 10; priceFieldWidth = 10; totalPriceFieldWidth = 9;"
             " paperWidth = 32; };",
-            {"korvel.receiptdoc"}, "description");
+            {"korvel.receiptdoc.quantityFieldWidth", "korvel.receiptdoc.quantityFieldWidth.10"},
+            "description");
         row("without paperWidth the device's 32 count",
             "receiptdoc: { quantityFieldWidth = 10; priceFieldWidth = 10; totalPriceFieldWidth = 9;"
             " };",
-            {"korvel.receiptdoc"}, "description");
+            {"korvel.receiptdoc.quantityFieldWidth", "korvel.receiptdoc.quantityFieldWidth.10"},
+            "description");
         row("the full order has two characters more",
             "prefiscaldoc: { quantityFieldWidth = 10; priceFieldWidth = 10;"
             " totalPriceFieldWidth = 10; };",
@@ -106,14 +108,16 @@ private slots:
         row("but no more than that",
             "prefiscaldoc: { quantityFieldWidth = 10; priceFieldWidth = 10;"
             " totalPriceFieldWidth = 11; };",
-            {"korvel.prefiscaldoc"}, "description");
+            {"korvel.prefiscaldoc.totalPriceFieldWidth",
+             "korvel.prefiscaldoc.totalPriceFieldWidth.11"},
+            "description");
         row("the kitchen order has no prices, and widths of them are not read",
             doc("quantityFieldWidth = 28; priceFieldWidth = 9; totalPriceFieldWidth = 8;"),
             {"korvel.doc.priceFieldWidth", "korvel.doc.priceFieldWidth.9",
              "korvel.doc.totalPriceFieldWidth", "korvel.doc.totalPriceFieldWidth.8"},
             "No document");
         row("the kitchen order's quantity is too wide", doc("quantityFieldWidth = 29;"),
-            {"korvel.doc"}, "description");
+            {"korvel.doc.quantityFieldWidth", "korvel.doc.quantityFieldWidth.29"}, "description");
         row("a paper wider than the printer's", doc("paperWidth = 33;"),
             {"korvel.doc.paperWidth", "korvel.doc.paperWidth.33"}, "32");
         row("the second of two groups of a name",

@@ -1329,6 +1329,25 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::FindingsList</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
+        <translation>Zeile %1 ist breiter als das Papier: %2 Zeichen, von %3.</translation>
+    </message>
+    <message>
+        <source>Lines %1 are wider than the paper: up to %2 characters, of %3.</source>
+        <translation>Die Zeilen %1 sind breiter als das Papier: bis zu %2 Zeichen, von %3.</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Was nicht stimmt</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::FormPane</name>
     <message>
         <source>This document prints nothing.</source>
@@ -1340,15 +1359,18 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::Panes</name>
+    <message>
+        <source>Do&amp;cuments</source>
+        <translation>Do&amp;kumente</translation>
+    </message>
+    <message>
+        <source>&amp;Paper</source>
+        <translation>&amp;Papier</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperPane</name>
-    <message>
-        <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
-        <translation>Zeile %1 ist breiter als das Papier: %2 Zeichen, von %3.</translation>
-    </message>
-    <message>
-        <source>Line %1: %2</source>
-        <translation>Zeile %1: %2</translation>
-    </message>
     <message>
         <source>&amp;Job:</source>
         <translation>A&amp;uftrag:</translation>
@@ -1360,10 +1382,6 @@
     <message>
         <source>Open a job file …</source>
         <translation>Auftragsdatei öffnen …</translation>
-    </message>
-    <message>
-        <source>What is wrong</source>
-        <translation>Was nicht stimmt</translation>
     </message>
     <message>
         <source>Choose a job</source>

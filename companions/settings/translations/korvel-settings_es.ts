@@ -1329,6 +1329,25 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::FindingsList</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Línea %1: %2</translation>
+    </message>
+    <message>
+        <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
+        <translation>La línea %1 es más ancha que el papel: %2 caracteres, de %3.</translation>
+    </message>
+    <message>
+        <source>Lines %1 are wider than the paper: up to %2 characters, of %3.</source>
+        <translation>Las líneas %1 son más anchas que el papel: hasta %2 caracteres, de %3.</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Lo que está mal</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::FormPane</name>
     <message>
         <source>This document prints nothing.</source>
@@ -1340,15 +1359,18 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::Panes</name>
+    <message>
+        <source>Do&amp;cuments</source>
+        <translation>D&amp;ocumentos</translation>
+    </message>
+    <message>
+        <source>&amp;Paper</source>
+        <translation>&amp;Papel</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperPane</name>
-    <message>
-        <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
-        <translation>La línea %1 es más ancha que el papel: %2 caracteres, de %3.</translation>
-    </message>
-    <message>
-        <source>Line %1: %2</source>
-        <translation>Línea %1: %2</translation>
-    </message>
     <message>
         <source>&amp;Job:</source>
         <translation>&amp;Trabajo:</translation>
@@ -1360,10 +1382,6 @@
     <message>
         <source>Open a job file …</source>
         <translation>Abrir un archivo de trabajo …</translation>
-    </message>
-    <message>
-        <source>What is wrong</source>
-        <translation>Lo que está mal</translation>
     </message>
     <message>
         <source>Choose a job</source>

@@ -1329,6 +1329,25 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::FindingsList</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Ligne %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
+        <translation>La ligne %1 est plus large que le papier&#xa0;: %2 caractères, sur %3.</translation>
+    </message>
+    <message>
+        <source>Lines %1 are wider than the paper: up to %2 characters, of %3.</source>
+        <translation>Les lignes %1 sont plus larges que le papier&#xa0;: jusqu&apos;à %2 caractères, sur %3.</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Ce qui ne va pas</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::FormPane</name>
     <message>
         <source>This document prints nothing.</source>
@@ -1340,15 +1359,18 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::Panes</name>
+    <message>
+        <source>Do&amp;cuments</source>
+        <translation>D&amp;ocuments</translation>
+    </message>
+    <message>
+        <source>&amp;Paper</source>
+        <translation>&amp;Papier</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperPane</name>
-    <message>
-        <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
-        <translation>La ligne %1 est plus large que le papier&#xa0;: %2 caractères, sur %3.</translation>
-    </message>
-    <message>
-        <source>Line %1: %2</source>
-        <translation>Ligne %1&#xa0;: %2</translation>
-    </message>
     <message>
         <source>&amp;Job:</source>
         <translation>&amp;Tâche&#xa0;:</translation>
@@ -1360,10 +1382,6 @@
     <message>
         <source>Open a job file …</source>
         <translation>Ouvrir un fichier de tâche …</translation>
-    </message>
-    <message>
-        <source>What is wrong</source>
-        <translation>Ce qui ne va pas</translation>
     </message>
     <message>
         <source>Choose a job</source>

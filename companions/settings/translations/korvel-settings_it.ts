@@ -1329,6 +1329,25 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::FindingsList</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Riga %1: %2</translation>
+    </message>
+    <message>
+        <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
+        <translation>La riga %1 è più larga della carta: %2 caratteri, su %3.</translation>
+    </message>
+    <message>
+        <source>Lines %1 are wider than the paper: up to %2 characters, of %3.</source>
+        <translation>Le righe %1 sono più larghe della carta: fino a %2 caratteri, su %3.</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Che cosa non va</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::FormPane</name>
     <message>
         <source>This document prints nothing.</source>
@@ -1340,15 +1359,18 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::Panes</name>
+    <message>
+        <source>Do&amp;cuments</source>
+        <translation>Do&amp;cumenti</translation>
+    </message>
+    <message>
+        <source>&amp;Paper</source>
+        <translation>C&amp;arta</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperPane</name>
-    <message>
-        <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
-        <translation>La riga %1 è più larga della carta: %2 caratteri, su %3.</translation>
-    </message>
-    <message>
-        <source>Line %1: %2</source>
-        <translation>Riga %1: %2</translation>
-    </message>
     <message>
         <source>&amp;Job:</source>
         <translation>&amp;Lavoro:</translation>
@@ -1360,10 +1382,6 @@
     <message>
         <source>Open a job file …</source>
         <translation>Aprire un file di lavoro …</translation>
-    </message>
-    <message>
-        <source>What is wrong</source>
-        <translation>Che cosa non va</translation>
     </message>
     <message>
         <source>Choose a job</source>
