@@ -211,7 +211,7 @@ QString SettingsDocument::save(const QTreeWidget &view)
     if (!QDir().mkpath(folder))
         return tr("The folder %1 cannot be made.").arg(folder);
     // The backup would be empty, and the one before it lost.
-    if (const QString error = readError(); !error.isEmpty())
+    if (QString error = readError(); !error.isEmpty())
         return error;
     const QByteArray expected = writtenBy(view, notation);
     const QByteArray before = bytesOnDisk();
