@@ -2,6 +2,7 @@
 #include "companions/settings/document.h"
 
 #include "companions/settings/fields.h"
+#include "companions/settings/jobs.h"
 #include "config/config.h"
 #include "config/path.h"
 #include "config/statements.h"
@@ -141,14 +142,10 @@ std::unique_ptr<QTreeWidget> SettingsDocument::read()
 
 QString SettingsDocument::readError() const
 {
-    if (!exists())
-        return {};
-    if (!QFileInfo(filePath).isFile())
-        return tr("%1 is no file.").arg(filePath);
-    QFile file(filePath);
-    return file.open(QIODevice::ReadOnly)
-               ? QString()
-               : tr("%1 cannot be read: %2").arg(filePath, file.errorString());
+    QString error;
+    if (exists())
+        fileBytes(filePath, error);
+    return error;
 }
 
 bool SettingsDocument::hasChanged() const

@@ -91,10 +91,8 @@ void SettingsWindow::fillRecent(QMenu &menu)
     menu.clear();
     const QStringList paths = QSettings().value(u"recent"_s).toStringList();
     for (const QString &path : paths)
-        menu.addAction(QString(path).replace(u'&', "&&"_L1), this, [this, path] {
-            if (mayDiscardEdits())
-                openPath(path);
-        });
+        menu.addAction(QString(path).replace(u'&', "&&"_L1), this,
+                       [this, path] { openPath(path); });
     if (paths.isEmpty())
         menu.addAction(tr("None"))->setEnabled(false);
 }

@@ -155,25 +155,43 @@ void PaperPane::chooseJob(int index)
     if (index == jobs->count() - 1)
         chooseJobFile();
     else if (!path.isEmpty())
-        emit failed(openJob(path));
+        reopenJob(index);
     else if (sampleMethod)
         showDocument(*sampleMethod);
 }
 
+/// Shows a job that was opened before. One that cannot be read any more is listed no longer; where
+/// its paper is the one that is shown, the sample takes its place.
+void PaperPane::reopenJob(int index)
+{
+    const QString path = jobs->itemData(index).toString();
+    const QString error = openJob(path);
+    if (error.isEmpty())
+        return;
+    jobs->removeItem(index);
+    if (path == jobPath && sampleMethod)
+        showDocument(*sampleMethod);
+    else
+        jobs->setCurrentIndex(shownJob());
+    emit failed(error);
+}
+
+/// The entry of the job that is shown.
+int PaperPane::shownJob() const { return jobPath.isEmpty() ? 0 : jobs->findData(jobPath); }
+
 void PaperPane::chooseJobFile()
 {
-    const int before = jobPath.isEmpty() ? 0 : jobs->findData(jobPath);
     const QString path = QFileDialog::getOpenFileName(this, tr("Choose a job"), QString(),
                                                       tr("Jobs (*.xml);;All files (*)"));
-    jobs->setCurrentIndex(before);
+    jobs->setCurrentIndex(shownJob());
     if (!path.isEmpty())
-        emit failed(openJob(path));
+        emit fileChosen(path);
 }
 
 QString PaperPane::openJob(const QString &path)
 {
     QString error;
-    const auto bytes = jobFile(path, error);
+    const auto bytes = fileBytes(path, error);
     if (!bytes)
         return error;
     int index = jobs->findData(path);

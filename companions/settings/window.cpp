@@ -1,7 +1,6 @@
 // What the window shows, and how its parts follow one another.
 #include "companions/settings/window.h"
 
-#include "companions/check/checks.h"
 #include "companions/check/vocabulary.h"
 #include "companions/settings/expertpane.h"
 #include "companions/settings/fields.h"
@@ -89,11 +88,19 @@ SettingsWindow::~SettingsWindow()
     delete takeCentralWidget(); // before the state that it shows
 }
 
-void SettingsWindow::begin()
+void SettingsWindow::begin(const QString &named)
 {
+    QString error;
+    const auto bytes = fileBytes(named, error);
+    const bool isSettings =
+        bytes ? kindOf(*bytes) == FileKind::Settings : !QFileInfo::exists(named);
+    if (!named.isEmpty() && isSettings)
+        document = std::make_unique<SettingsDocument>(named);
     if (!document->exists())
         offerSample();
     load();
+    if (!named.isEmpty() && !isSettings)
+        openPath(named);
 }
 
 QByteArray SettingsWindow::shownStream() const { return paper->stream(); }
@@ -156,6 +163,7 @@ void SettingsWindow::connectPanes()
                 documents->setCurrentRow(row);
         }
     });
+    connect(paper, &PaperPane::fileChosen, this, &SettingsWindow::openPath);
     connect(paper, &PaperPane::failed, this, &SettingsWindow::tell);
     connect(paper, &PaperPane::said, this,
             [this](const QString &text) { statusBar()->showMessage(text, 8000); });
@@ -309,20 +317,13 @@ void SettingsWindow::dragEnterEvent(QDragEnterEvent *event)
         event->acceptProposedAction();
 }
 
-/// Settings are opened, a job is shown.
 void SettingsWindow::dropEvent(QDropEvent *event)
 {
     const QList<QUrl> urls = event->mimeData()->urls();
     if (urls.isEmpty())
         return;
     event->acceptProposedAction();
-    const QString path = urls.constFirst().toLocalFile();
-    QString error;
-    const auto bytes = jobFile(path, error);
-    if (!bytes || !check::isSettings(*bytes))
-        tell(paper->openJob(path));
-    else if (mayDiscardEdits())
-        openPath(path);
+    openPath(urls.constFirst().toLocalFile());
 }
 
 } // namespace korvel::settings

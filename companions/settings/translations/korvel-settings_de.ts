@@ -1247,6 +1247,14 @@
         <source>%1 cannot be read: %2</source>
         <translation>%1 lässt sich nicht lesen: %2</translation>
     </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Es gibt keine Datei %1.</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::AddDialog</name>
@@ -1422,14 +1430,6 @@
 </context>
 <context>
     <name>korvel::settings::SettingsDocument</name>
-    <message>
-        <source>%1 is no file.</source>
-        <translation>%1 ist keine Datei.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>%1 lässt sich nicht lesen: %2</translation>
-    </message>
     <message>
         <source>Everything: nothing in the file could be read, and it would be emptied.</source>
         <translation>Alles: In der Datei war nichts lesbar, und sie würde geleert.</translation>
@@ -1672,8 +1672,8 @@ Mit den Beispieleinstellungen beginnen?</translation>
         <translation>Exportiert: %1</translation>
     </message>
     <message>
-        <source>There is no file %1.</source>
-        <translation>Es gibt keine Datei %1.</translation>
+        <source>%1 is neither settings nor a job. Choose a settings file such as korvel.conf, or a job in XML.</source>
+        <translation>%1 enthält weder Einstellungen noch einen Druckauftrag. Bitte eine Einstellungsdatei wie korvel.conf oder einen Druckauftrag in XML wählen.</translation>
     </message>
 </context>
 <context>

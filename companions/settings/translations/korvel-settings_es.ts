@@ -1247,6 +1247,14 @@
         <source>%1 cannot be read: %2</source>
         <translation>No se puede leer %1: %2</translation>
     </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>No hay ningún archivo %1.</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 no es un archivo.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::AddDialog</name>
@@ -1422,14 +1430,6 @@
 </context>
 <context>
     <name>korvel::settings::SettingsDocument</name>
-    <message>
-        <source>%1 is no file.</source>
-        <translation>%1 no es un archivo.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>No se puede leer %1: %2</translation>
-    </message>
     <message>
         <source>Everything: nothing in the file could be read, and it would be emptied.</source>
         <translation>Todo: no se pudo leer nada del archivo, y quedaría vacío.</translation>
@@ -1672,8 +1672,8 @@ Begin with the sample settings?</source>
         <translation>Exportado: %1</translation>
     </message>
     <message>
-        <source>There is no file %1.</source>
-        <translation>No hay ningún archivo %1.</translation>
+        <source>%1 is neither settings nor a job. Choose a settings file such as korvel.conf, or a job in XML.</source>
+        <translation>%1 no contiene ni ajustes ni un trabajo. Elija un archivo de ajustes como korvel.conf o un trabajo en XML.</translation>
     </message>
 </context>
 <context>

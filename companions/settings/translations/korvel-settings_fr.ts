@@ -1247,6 +1247,14 @@
         <source>%1 cannot be read: %2</source>
         <translation>Impossible de lire %1&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Il n&apos;y a pas de fichier %1.</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 n&apos;est pas un fichier.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::AddDialog</name>
@@ -1422,14 +1430,6 @@
 </context>
 <context>
     <name>korvel::settings::SettingsDocument</name>
-    <message>
-        <source>%1 is no file.</source>
-        <translation>%1 n&apos;est pas un fichier.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>Impossible de lire %1&#xa0;: %2</translation>
-    </message>
     <message>
         <source>Everything: nothing in the file could be read, and it would be emptied.</source>
         <translation>Tout&#xa0;: rien n&apos;a pu être lu dans le fichier, et il serait vidé.</translation>
@@ -1672,8 +1672,8 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
         <translation>Exporté&#xa0;: %1</translation>
     </message>
     <message>
-        <source>There is no file %1.</source>
-        <translation>Il n&apos;y a pas de fichier %1.</translation>
+        <source>%1 is neither settings nor a job. Choose a settings file such as korvel.conf, or a job in XML.</source>
+        <translation>%1 ne contient ni réglages ni tâche d&apos;impression. Choisissez un fichier de réglages comme korvel.conf, ou une tâche en XML.</translation>
     </message>
 </context>
 <context>

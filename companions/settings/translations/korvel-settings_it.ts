@@ -1247,6 +1247,14 @@
         <source>%1 cannot be read: %2</source>
         <translation>Impossibile leggere %1: %2</translation>
     </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Non c&apos;è nessun file %1.</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 non è un file.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::AddDialog</name>
@@ -1422,14 +1430,6 @@
 </context>
 <context>
     <name>korvel::settings::SettingsDocument</name>
-    <message>
-        <source>%1 is no file.</source>
-        <translation>%1 non è un file.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>Impossibile leggere %1: %2</translation>
-    </message>
     <message>
         <source>Everything: nothing in the file could be read, and it would be emptied.</source>
         <translation>Tutto: nel file non si è potuto leggere nulla, e verrebbe svuotato.</translation>
@@ -1672,8 +1672,8 @@ Iniziare con le impostazioni di esempio?</translation>
         <translation>Esportato: %1</translation>
     </message>
     <message>
-        <source>There is no file %1.</source>
-        <translation>Non esiste alcun file %1.</translation>
+        <source>%1 is neither settings nor a job. Choose a settings file such as korvel.conf, or a job in XML.</source>
+        <translation>%1 non contiene né impostazioni né un lavoro. Scegliere un file di impostazioni come korvel.conf o un lavoro in XML.</translation>
     </message>
 </context>
 <context>
