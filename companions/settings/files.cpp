@@ -127,6 +127,7 @@ bool SettingsWindow::save()
         return false;
     }
     state.markSaved();
+    setWindowModified(false);
     updateTitle();
     if (!losses.isEmpty())
         load(); // so that the tree shows what was kept

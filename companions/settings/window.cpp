@@ -77,14 +77,11 @@ SettingsWindow::SettingsWindow(const QString &file, const QString &renderer)
     pause.setInterval(50ms);
     connect(&pause, &QTimer::timeout, this, &SettingsWindow::refresh);
     connect(&state, &State::changed, this, &SettingsWindow::edited);
-    connect(&state.history(), &QUndoStack::cleanChanged, this,
-            [this](bool clean) { setWindowModified(!clean); });
 }
 
 SettingsWindow::~SettingsWindow()
 {
     state.disconnect(this);
-    state.history().disconnect(this);
     delete takeCentralWidget(); // before the state that it shows
 }
 
@@ -230,6 +227,7 @@ void SettingsWindow::finishEditing()
 
 void SettingsWindow::edited()
 {
+    setWindowModified(state.isModified());
     form->refresh(found);
     unread->refresh();
     pause.start();

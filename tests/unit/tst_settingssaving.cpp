@@ -41,6 +41,59 @@ private slots:
         QVERIFY(!editor.window.isWindowModified());
     }
 
+    // What is saved then would be what the file has.
+    void whatIsSetBackIsNoEdit()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        editor.edit("receiptdoc.paperWidth", "40");
+        QVERIFY(editor.window.isWindowModified());
+        editor.edit("receiptdoc.paperWidth", "32");
+        QVERIFY(!editor.window.isWindowModified());
+
+        editor.showForm();
+        editor.activate();
+        auto *header = editor.check("receiptdoc.printHeader");
+        header->setFocus();
+        Editor::press(Qt::Key_Space);
+        QVERIFY(editor.window.isWindowModified());
+        editor.shortcut(Qt::Key_L); // as in the file
+        QVERIFY(header->isChecked());
+        QVERIFY(!editor.window.isWindowModified());
+        QVERIFY(editor.window.close()); // asks nothing
+    }
+
+    void whatIsUndoneBehindASaveIsAnEdit()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        editor.edit("receiptdoc.paperWidth", "40");
+        editor.save();
+        editor.shortcut(Qt::Key_Z);
+        QCOMPARE(editor.valueRow("receiptdoc.paperWidth")->text(0), QString("32"));
+        QVERIFY(editor.window.isWindowModified());
+        editor.edit("receiptdoc.paperWidth", "40");
+        QVERIFY(!editor.window.isWindowModified());
+    }
+
+    // A setting that was taken out stands behind the others when it is set again.
+    void anotherOrderIsAnEdit()
+    {
+        const TemporaryHome home(settingsFile(documentGroup("doc", "style = a; paperWidth = 31;")));
+        Editor editor(home.settingsPath());
+        editor.showForm();
+        editor.activate();
+        editor.choose("Kitchen order");
+        editor.field<QLineEdit>("doc.style")->setFocus();
+        editor.shortcut(Qt::Key_N); // not set
+        editor.shortcut(Qt::Key_L); // as in the file
+        QVERIFY(editor.window.isWindowModified());
+        editor.shortcut(Qt::Key_Z);
+        QVERIFY(editor.window.isWindowModified());
+        editor.shortcut(Qt::Key_Z);
+        QVERIFY(!editor.window.isWindowModified());
+    }
+
     // A value that is being typed counts as much as one behind Enter.
     void savingTakesTheOpenEditorAlong()
     {
