@@ -150,6 +150,7 @@ void SettingsWindow::saveAs()
     else
         *document = before;
     updateTitle();
+    refresh(); // the renderer may read another notation now
 }
 
 void SettingsWindow::revert()

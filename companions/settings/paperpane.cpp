@@ -260,7 +260,8 @@ void PaperPane::listFindings(const QString &byRenderer)
     for (const hints::Hint &hint : std::as_const(hintsFound)) {
         const QString group = hint.setting.value(1);
         if (hint.isUnread
-            || (shownMethod && group != shownMethod->group && group != vocabulary::group::language))
+            || (!hint.isOfAll && shownMethod && group != shownMethod->group
+                && group != vocabulary::group::language))
             continue;
         const QString key = hint.setting.value(2);
         addFinding(key.isEmpty() ? hint.text : fields::titleOf(key) + u": "_s + hint.text,

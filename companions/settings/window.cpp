@@ -53,13 +53,18 @@ QStringList catalogueFolders(const QString &renderer)
     return folders;
 }
 
-/// Whether a hint is about what a document reads.
-bool concerns(const hints::Hint &hint, const vocabulary::Method &method)
+/// Whether a hint is about what a document reads; without one, about the language of the labels.
+bool concerns(const hints::Hint &hint, const vocabulary::Method *method)
 {
-    if (hint.isUnread || hint.setting.value(1) != method.group)
+    if (hint.isOfAll)
+        return true;
+    const QString group = method ? method->group : vocabulary::group::language;
+    if (hint.isUnread || hint.setting.value(1) != group)
         return false;
+    if (!method)
+        return true;
     const vocabulary::Setting *setting = vocabulary::findSetting(hint.setting.value(2));
-    return !setting || (setting->documents & method.document) != 0;
+    return !setting || (setting->documents & method->document) != 0;
 }
 
 } // namespace
@@ -236,8 +241,8 @@ void SettingsWindow::edited()
 /// Brings the marks and the paper in line with the settings.
 void SettingsWindow::refresh()
 {
-    const QByteArray settings = SettingsDocument::writtenBy(*state.view());
-    found = hints::find(settings);
+    const QByteArray settings = document->written(*state.view());
+    found = document->isXml() ? QList<hints::Hint>{hints::ofXml()} : hints::find(settings);
     hints::mark(*state.view(), found);
     form->refresh(found);
     unread->refresh();
@@ -253,9 +258,7 @@ void SettingsWindow::markDocuments()
         const vocabulary::Method *method = methodAt(row);
         QStringList texts;
         for (const hints::Hint &hint : std::as_const(found)) {
-            if (method ? concerns(hint, *method)
-                       : row == languageRow() && !hint.isUnread
-                             && hint.setting.value(1) == vocabulary::group::language)
+            if (row != unreadRow() && concerns(hint, method))
                 texts.append(hint.text);
         }
         QListWidgetItem *item = documents->item(row);

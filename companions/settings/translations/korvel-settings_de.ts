@@ -1755,6 +1755,10 @@ Mit den Beispieleinstellungen beginnen?</translation>
         <source>Read by: %1.</source>
         <translation>Gelesen von: %1.</translation>
     </message>
+    <message>
+        <source>The renderer reads nothing of this file: it is written as XML. Save as, in the menu File, writes the settings as the renderer reads them.</source>
+        <translation>Das Druckprogramm liest nichts von dieser Datei: Sie ist in XML geschrieben. „Speichern unter“ im Menü „Datei“ schreibt die Einstellungen so, wie das Druckprogramm sie liest.</translation>
+    </message>
 </context>
 <context>
     <name>vocabulary</name>

@@ -1755,6 +1755,10 @@ Begin with the sample settings?</source>
         <source>Read by: %1.</source>
         <translation>Leído por: %1.</translation>
     </message>
+    <message>
+        <source>The renderer reads nothing of this file: it is written as XML. Save as, in the menu File, writes the settings as the renderer reads them.</source>
+        <translation>El programa de impresión no lee nada de este archivo: está escrito en XML. «Guardar como», en el menú «Archivo», escribe los ajustes como el programa de impresión los lee.</translation>
+    </message>
 </context>
 <context>
     <name>vocabulary</name>

@@ -1755,6 +1755,10 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
         <source>Read by: %1.</source>
         <translation>Lu par&#xa0;: %1.</translation>
     </message>
+    <message>
+        <source>The renderer reads nothing of this file: it is written as XML. Save as, in the menu File, writes the settings as the renderer reads them.</source>
+        <translation>Le programme d&apos;impression ne lit rien de ce fichier&#xa0;: il est écrit en XML. «&#xa0;Enregistrer sous&#xa0;», dans le menu «&#xa0;Fichier&#xa0;», écrit les réglages comme le programme d&apos;impression les lit.</translation>
+    </message>
 </context>
 <context>
     <name>vocabulary</name>

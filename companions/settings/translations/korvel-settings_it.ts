@@ -1755,6 +1755,10 @@ Iniziare con le impostazioni di esempio?</translation>
         <source>Read by: %1.</source>
         <translation>Letto da: %1.</translation>
     </message>
+    <message>
+        <source>The renderer reads nothing of this file: it is written as XML. Save as, in the menu File, writes the settings as the renderer reads them.</source>
+        <translation>Il programma di stampa non legge nulla di questo file: è scritto in XML. «Salvare con nome», nel menu «File», scrive le impostazioni come il programma di stampa le legge.</translation>
+    </message>
 </context>
 <context>
     <name>vocabulary</name>
