@@ -1761,6 +1761,25 @@ Mit den Beispieleinstellungen beginnen?</translation>
     </message>
 </context>
 <context>
+    <name>paper</name>
+    <message>
+        <source>DEDUCTION</source>
+        <translation>ABZUG</translation>
+    </message>
+    <message>
+        <source>Sum (by the preview)</source>
+        <translation>Summe (der Vorschau)</translation>
+    </message>
+    <message>
+        <source>Sum so far (preview)</source>
+        <translation>Bisher (Vorschau)</translation>
+    </message>
+    <message>
+        <source>Rows not counted</source>
+        <translation>Nicht gezählte Zeilen</translation>
+    </message>
+</context>
+<context>
     <name>vocabulary</name>
     <message>
         <source>width of the quantity column</source>

@@ -1761,6 +1761,25 @@ Begin with the sample settings?</source>
     </message>
 </context>
 <context>
+    <name>paper</name>
+    <message>
+        <source>DEDUCTION</source>
+        <translation>DESCUENTO</translation>
+    </message>
+    <message>
+        <source>Sum (by the preview)</source>
+        <translation>Suma (de la vista previa)</translation>
+    </message>
+    <message>
+        <source>Sum so far (preview)</source>
+        <translation>Parcial (vista previa)</translation>
+    </message>
+    <message>
+        <source>Rows not counted</source>
+        <translation>Filas sin contar</translation>
+    </message>
+</context>
+<context>
     <name>vocabulary</name>
     <message>
         <source>width of the quantity column</source>

@@ -1761,6 +1761,25 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>paper</name>
+    <message>
+        <source>DEDUCTION</source>
+        <translation>DÉDUCTION</translation>
+    </message>
+    <message>
+        <source>Sum (by the preview)</source>
+        <translation>Somme (de l&apos;aperçu)</translation>
+    </message>
+    <message>
+        <source>Sum so far (preview)</source>
+        <translation>Partiel (aperçu)</translation>
+    </message>
+    <message>
+        <source>Rows not counted</source>
+        <translation>Lignes non comptées</translation>
+    </message>
+</context>
+<context>
     <name>vocabulary</name>
     <message>
         <source>width of the quantity column</source>

@@ -1761,6 +1761,25 @@ Iniziare con le impostazioni di esempio?</translation>
     </message>
 </context>
 <context>
+    <name>paper</name>
+    <message>
+        <source>DEDUCTION</source>
+        <translation>DETRAZIONE</translation>
+    </message>
+    <message>
+        <source>Sum (by the preview)</source>
+        <translation>Somma (dell&apos;anteprima)</translation>
+    </message>
+    <message>
+        <source>Sum so far (preview)</source>
+        <translation>Parziale (anteprima)</translation>
+    </message>
+    <message>
+        <source>Rows not counted</source>
+        <translation>Righe non contate</translation>
+    </message>
+</context>
+<context>
     <name>vocabulary</name>
     <message>
         <source>width of the quantity column</source>
