@@ -12,7 +12,6 @@
 #include <QMimeData>
 #include <QProcess>
 #include <QSettings>
-#include <QTextBrowser>
 
 #include <csignal>
 
@@ -130,18 +129,6 @@ private slots:
         QCOMPARE(editor.valueRow("receiptdoc.paperWidth")->text(0), QString("39"));
         QVERIFY(editor.window.isWindowModified());
         QVERIFY(editor.window.windowTitle().startsWith("korvel.conf"));
-    }
-
-    void helpShowsTheSettingsPage()
-    {
-        const TemporaryHome home(example("korvel.conf"));
-        Editor editor(home.settingsPath());
-        editor.shortcut(Qt::Key_F1, Qt::NoModifier);
-        auto *page = editor.child<QTextBrowser>("help");
-        QVERIFY(page->toPlainText().startsWith("The settings file"));
-        QVERIFY(page->toPlainText().contains("quantityFieldWidth"));
-        QVERIFY(!page->toPlainText().contains("table: settings"));
-        page->close();
     }
 
     void temporaryFoldersGoOnASignal_data()

@@ -1348,6 +1348,17 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::HelpPage</name>
+    <message>
+        <source>The help has no page %1.</source>
+        <translation>Die Hilfe hat keine Seite %1.</translation>
+    </message>
+    <message>
+        <source>Help: %1</source>
+        <translation>Hilfe (auf Englisch): %1</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperPane</name>
     <message>
         <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
@@ -1638,10 +1649,6 @@ Mit den Beispieleinstellungen beginnen?</translation>
     <message>
         <source>None</source>
         <translation>Keine</translation>
-    </message>
-    <message>
-        <source>The settings file</source>
-        <translation>Die Einstellungsdatei</translation>
     </message>
     <message>
         <source>Documents</source>

@@ -1348,6 +1348,17 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::HelpPage</name>
+    <message>
+        <source>The help has no page %1.</source>
+        <translation>La ayuda no tiene ninguna página %1.</translation>
+    </message>
+    <message>
+        <source>Help: %1</source>
+        <translation>Ayuda (en inglés): %1</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperPane</name>
     <message>
         <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
@@ -1638,10 +1649,6 @@ Begin with the sample settings?</source>
     <message>
         <source>None</source>
         <translation>Ninguno</translation>
-    </message>
-    <message>
-        <source>The settings file</source>
-        <translation>El archivo de ajustes</translation>
     </message>
     <message>
         <source>Documents</source>

@@ -1348,6 +1348,17 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::HelpPage</name>
+    <message>
+        <source>The help has no page %1.</source>
+        <translation>L&apos;aide n&apos;a pas de page %1.</translation>
+    </message>
+    <message>
+        <source>Help: %1</source>
+        <translation>Aide (en anglais)&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperPane</name>
     <message>
         <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
@@ -1638,10 +1649,6 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
     <message>
         <source>None</source>
         <translation>Aucun</translation>
-    </message>
-    <message>
-        <source>The settings file</source>
-        <translation>Le fichier de réglages</translation>
     </message>
     <message>
         <source>Documents</source>

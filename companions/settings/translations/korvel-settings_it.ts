@@ -1348,6 +1348,17 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::HelpPage</name>
+    <message>
+        <source>The help has no page %1.</source>
+        <translation>La guida non ha la pagina %1.</translation>
+    </message>
+    <message>
+        <source>Help: %1</source>
+        <translation>Guida (in inglese): %1</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::PaperPane</name>
     <message>
         <source>Line %1 is wider than the paper: %2 characters, of %3.</source>
@@ -1638,10 +1649,6 @@ Iniziare con le impostazioni di esempio?</translation>
     <message>
         <source>None</source>
         <translation>Nessuno</translation>
-    </message>
-    <message>
-        <source>The settings file</source>
-        <translation>Il file delle impostazioni</translation>
     </message>
     <message>
         <source>Documents</source>
