@@ -19,6 +19,7 @@ struct Element
 
 namespace element {
 
+inline constexpr auto root = "printjob"_L1; // of the pages and the samples: any name will do
 inline constexpr auto method = "method"_L1; // which comes before all others
 inline constexpr auto printers = "printers"_L1;
 inline constexpr auto geometry = "geometry"_L1;

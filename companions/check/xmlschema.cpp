@@ -19,7 +19,7 @@ using vocabulary::Documents;
 using vocabulary::Element;
 using vocabulary::Method;
 
-const QString root = u"printjob"_s; // of the pages and the samples
+const QString root = vocabulary::element::root;
 const QString xsd = u"http://www.w3.org/2001/XMLSchema"_s;
 
 /// What the rows of a name mean, each meaning behind its documents, unless it is that of all.

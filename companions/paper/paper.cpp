@@ -4,6 +4,8 @@
 #include "companions/paper/text.h"
 #include "companions/shared/oneline.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -19,6 +21,9 @@ QString textOf(const Command &command, const QByteArray &bytes)
 {
     return shared::inOneLine(command.codePage->decode(bytes));
 }
+
+/// A text that is not the printer's: English, or where a translator has it the user's language.
+QString translated(const char *text) { return QCoreApplication::translate("paper", text); }
 
 /// The amount for the reader: "1.20", or as it was sent where it is no plain number.
 QString moneyOf(const Command &command)
@@ -56,7 +61,8 @@ void Roll::print(const Command &command)
         printSaleRow(command);
         break;
     case Kind::Deduction:
-        appendSpread(Row::Deducted, u"DEDUCTION"_s, u'-' + moneyOf(command));
+        appendSpread(Row::Deducted, translated(QT_TRANSLATE_NOOP("paper", "DEDUCTION")),
+                     u'-' + moneyOf(command));
         break;
     case Kind::Unknown:
         append(Row::Unknown, escaped(command.content, *command.codePage));
@@ -83,10 +89,13 @@ void Roll::printSaleRow(const Command &row)
 void Roll::printSum(const Sum &sum)
 {
     append(Row::Computed, QString(columns, u'-'));
-    appendSpread(Row::Computed, sum.closed ? u"Sum (by the preview)"_s : u"Sum so far (preview)"_s,
+    appendSpread(Row::Computed,
+                 translated(sum.closed ? QT_TRANSLATE_NOOP("paper", "Sum (by the preview)")
+                                       : QT_TRANSLATE_NOOP("paper", "Sum so far (preview)")),
                  sum.amount.toString());
     if (sum.uncounted > 0)
-        appendSpread(Row::Computed, u"Rows not counted"_s, QString::number(sum.uncounted));
+        appendSpread(Row::Computed, translated(QT_TRANSLATE_NOOP("paper", "Rows not counted")),
+                     QString::number(sum.uncounted));
 }
 
 void Roll::append(Row kind, const QString &text) { take({kind, text}); }

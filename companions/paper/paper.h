@@ -33,7 +33,8 @@ struct PaperRow
  * 1, or cannot be counted) and department; a deduction is marked as one. Where a fiscal section
  * closes stands the sum of what was registered in it, and how many rows could not be counted: those
  * with an amount or a quantity that is no plain number. In a section that is never closed the sum
- * stands at its end, and says so. A row outside a fiscal section is in no sum.
+ * stands at its end, and says so. A row outside a fiscal section is in no sum. What is said of
+ * these is English, or where a translator is installed in the language of its user.
  */
 class Roll
 {

@@ -2,6 +2,7 @@
 #include "companions/settings/document.h"
 
 #include "companions/settings/fields.h"
+#include "companions/settings/jobs.h"
 #include "config/config.h"
 #include "config/path.h"
 #include "config/statements.h"
@@ -106,6 +107,33 @@ bool hasTail(const QByteArray &file)
     return !text.isEmpty() && !text.endsWith(';');
 }
 
+/// Whether bytes are in the store's other notation, behind the mark that some programs put in
+/// front.
+bool beginsAsXml(QByteArrayView bytes)
+{
+    constexpr QByteArrayView mark = "\xEF\xBB\xBF";
+    if (bytes.startsWith(mark))
+        bytes = bytes.sliced(mark.size());
+    return bytes.trimmed().startsWith('<');
+}
+
+// As no element can be called.
+constexpr auto wrapperName = "/"_L1;
+
+/// Calls the row that all others are below as the file is called. What stands in XML before the
+/// first element keeps the store from making that row: it is made here.
+void nameFileRow(QTreeWidget &view, const QString &path)
+{
+    if (view.topLevelItemCount() == 0)
+        return;
+    if (view.topLevelItem(0)->text(0) != wrapperName)
+        view.addTopLevelItem(new QTreeWidgetItem({path}));
+    QTreeWidgetItem *file = view.topLevelItem(view.topLevelItemCount() - 1);
+    file->setText(0, path);
+    while (view.topLevelItem(0) != file)
+        file->addChild(view.takeTopLevelItem(0));
+}
+
 /// Whether one path begins with another.
 bool isBelow(const QStringList &path, const QStringList &group)
 {
@@ -125,6 +153,7 @@ bool SettingsDocument::exists() const { return QFileInfo::exists(filePath); }
 void SettingsDocument::moveTo(const QString &file)
 {
     filePath = korvel::path::forToolkit(file);
+    notation = u"cfg"_s;
     lastSeen = bytesOnDisk();
     existed = exists();
 }
@@ -133,22 +162,20 @@ std::unique_ptr<QTreeWidget> SettingsDocument::read()
 {
     source = lastSeen = bytesOnDisk();
     existed = exists();
-    notation = lastSeen.trimmed().startsWith('<') ? u"xml"_s : u"cfg"_s;
-    if (!existed)
-        return std::unique_ptr<QTreeWidget>(Config().newConfigListView());
-    return std::unique_ptr<QTreeWidget>(Config(filePath, notation).newConfigListView());
+    notation = beginsAsXml(lastSeen) ? u"xml"_s : u"cfg"_s;
+    Config store;
+    store.readBytes(lastSeen, wrapperName, notation);
+    std::unique_ptr<QTreeWidget> view(store.newConfigListView());
+    nameFileRow(*view, filePath);
+    return view;
 }
 
 QString SettingsDocument::readError() const
 {
-    if (!exists())
-        return {};
-    if (!QFileInfo(filePath).isFile())
-        return tr("%1 is no file.").arg(filePath);
-    QFile file(filePath);
-    return file.open(QIODevice::ReadOnly)
-               ? QString()
-               : tr("%1 cannot be read: %2").arg(filePath, file.errorString());
+    QString error;
+    if (exists())
+        fileBytes(filePath, error);
+    return error;
 }
 
 bool SettingsDocument::hasChanged() const
@@ -160,7 +187,7 @@ QStringList SettingsDocument::losses(const QTreeWidget &view) const
 {
     QStringList lines;
     Config store;
-    store.readBytes(writtenBy(view, notation), filePath, notation);
+    store.readBytes(written(view), filePath, notation);
     const std::unique_ptr<QTreeWidget> readBack(store.newConfigListView());
 
     const QList<Row> before = rowsOf(view);
@@ -168,7 +195,7 @@ QStringList SettingsDocument::losses(const QTreeWidget &view) const
     if (before.isEmpty() && !source.trimmed().isEmpty())
         lines.append(tr("Everything: nothing in the file could be read, and it would be emptied."));
 
-    if (notation == "cfg"_L1) {
+    if (!beginsAsXml(source)) {
         for (const QString &name : emptyGroups(source))
             lines.append(tr("The group %1 has no settings.").arg(name));
         if (!before.isEmpty() && hasTail(source))
@@ -213,7 +240,7 @@ QString SettingsDocument::save(const QTreeWidget &view)
     // The backup would be empty, and the one before it lost.
     if (QString error = readError(); !error.isEmpty())
         return error;
-    const QByteArray expected = writtenBy(view, notation);
+    const QByteArray expected = written(view);
     const QByteArray before = bytesOnDisk();
     const bool wasThere = exists();
     if (wasThere) {

@@ -27,8 +27,12 @@ public:
     [[nodiscard]] QString path() const { return filePath; }
     [[nodiscard]] bool exists() const;
 
-    /// Makes another file the one that is saved to, in the place of what it holds.
+    /// Makes another file the one that is saved to, in the place of what it holds, in the notation
+    /// that the renderer reads.
     void moveTo(const QString &file);
+
+    /// Whether the file is in the XML notation, of which the renderer reads nothing.
+    [[nodiscard]] bool isXml() const { return notation == u"xml"; }
 
     /// Reads the file into a new view, and notes what it holds. A missing file gives an empty view.
     std::unique_ptr<QTreeWidget> read();
@@ -49,6 +53,12 @@ public:
      * @return why nothing was saved, in one line; empty when it was. The file then is as it was.
      */
     QString save(const QTreeWidget &view);
+
+    /// What save() writes for a view, in the notation of the file.
+    [[nodiscard]] QByteArray written(const QTreeWidget &view) const
+    {
+        return writtenBy(view, notation);
+    }
 
     /// What the store writes for a view, in the brace notation: what the renderer reads.
     [[nodiscard]] static QByteArray writtenBy(const QTreeWidget &view);

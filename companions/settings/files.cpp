@@ -59,27 +59,29 @@ QByteArray pictureOf(const QList<preview::PaperRow> &rows, const QString &path, 
 
 void SettingsWindow::open()
 {
-    if (!mayDiscardEdits())
-        return;
     const QString path = QFileDialog::getOpenFileName(this, tr("Open settings"),
                                                       QFileInfo(document->path()).absolutePath(),
                                                       tr("Settings (*.conf *.cfg);;All files (*)"));
-    if (path.isEmpty())
-        return;
-    openPath(path);
+    if (!path.isEmpty())
+        openPath(path);
 }
 
-/// Opens a file that is there and can be read; what was open stays where it is not.
+/// Opens settings, and shows a job. What was open stays where a file is neither or cannot be read.
 void SettingsWindow::openPath(const QString &path)
 {
-    auto next = std::make_unique<SettingsDocument>(path);
-    const QString error =
-        next->exists() ? next->readError() : tr("There is no file %1.").arg(next->path());
-    if (!error.isEmpty()) {
-        tell(error);
+    QString error;
+    const auto bytes = fileBytes(path, error);
+    const FileKind kind = bytes ? kindOf(*bytes) : FileKind::Other;
+    if (bytes && kind == FileKind::Other)
+        error = tr("%1 is neither settings nor a job. Choose a settings file such as korvel.conf, "
+                   "or a job in XML.")
+                    .arg(path);
+    else if (kind == FileKind::Job)
+        error = paper->openJob(path);
+    tell(error);
+    if (kind != FileKind::Settings || !mayDiscardEdits())
         return;
-    }
-    document = std::move(next);
+    document = std::make_unique<SettingsDocument>(path);
     load();
     noteRecent();
 }
@@ -125,6 +127,7 @@ bool SettingsWindow::save()
         return false;
     }
     state.markSaved();
+    setWindowModified(false);
     updateTitle();
     if (!losses.isEmpty())
         load(); // so that the tree shows what was kept
@@ -147,6 +150,7 @@ void SettingsWindow::saveAs()
     else
         *document = before;
     updateTitle();
+    refresh(); // the renderer may read another notation now
 }
 
 void SettingsWindow::revert()

@@ -60,14 +60,14 @@ QString spelt(const QList<qsizetype> &lines)
 /// All lines that are too wide, in one finding.
 QString wordsOfWide(const QList<qsizetype> &lines, const Rows &rows)
 {
-    qsizetype widest = 0;
+    qsizetype longest = 0;
     for (const qsizetype line : lines)
-        widest = std::max(widest, rows.value(line - 1).text.size());
+        longest = std::max(longest, rows.value(line - 1).text.size());
     const QString words =
         lines.size() == 1
             ? FindingsList::tr("Line %1 is wider than the paper: %2 characters, of %3.")
             : FindingsList::tr("Lines %1 are wider than the paper: up to %2 characters, of %3.");
-    return words.arg(spelt(lines)).arg(widest).arg(vocabulary::lineWidth);
+    return words.arg(spelt(lines)).arg(longest).arg(vocabulary::lineWidth);
 }
 
 } // namespace

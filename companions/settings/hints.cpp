@@ -110,6 +110,17 @@ QString readBy(vocabulary::Documents documents)
 
 } // namespace
 
+Hint ofXml()
+{
+    Hint hint;
+    hint.text = QCoreApplication::translate(
+        "korvel::settings::hints",
+        "The renderer reads nothing of this file: it is written as XML. Save as, in the menu "
+        "File, writes the settings as the renderer reads them.");
+    hint.isOfAll = true;
+    return hint;
+}
+
 QList<Hint> find(const QByteArray &settings)
 {
     QList<Hint> found;
@@ -119,7 +130,7 @@ QList<Hint> find(const QByteArray &settings)
             finding.code == check::Code::UnreadKey || finding.code == check::Code::LostGroup;
         const QString warning = warningOf(finding.code);
         found.append({finding.setting, finding.occurrence,
-                      warning.isEmpty() ? finding.text : warning, isUnread});
+                      warning.isEmpty() ? finding.text : warning, isUnread, false});
     }
     return found;
 }

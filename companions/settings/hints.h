@@ -17,7 +17,11 @@ struct Hint
     int occurrence = 0;  // which of several of that name, counted from 0
     QString text;        // in the user's language
     bool isUnread = false;
+    bool isOfAll = false; // about the file as a whole
 };
+
+/// The hint that nothing is read of a file in the XML notation.
+Hint ofXml();
 
 /// All hints of a settings file, in its order. @param settings what the store writes for the view
 QList<Hint> find(const QByteArray &settings);

@@ -16,22 +16,23 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Reads the command line without a display; the status to end with, or the file to edit.
+/// Reads the command line without a display; the status to end with, or the file that is named.
 std::optional<int> readArguments(int argc, char *argv[], QString &file)
 {
     const QCoreApplication application(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(
         u"Edits the settings of korvel-print and shows what they make of a receipt."_s);
-    parser.addPositionalArgument(
-        u"FILE"_s, u"The settings file; without it, the user's, ~/.korvel/conf/korvel.conf."_s,
-        u"[FILE]"_s);
+    parser.addPositionalArgument(u"FILE"_s,
+                                 u"The settings file, or a job to be shown by the user's; "
+                                 "without it, the user's, ~/.korvel/conf/korvel.conf."_s,
+                                 u"[FILE]"_s);
     if (const auto status = readCommandLine(parser, argumentsOf(argc, argv)))
         return status;
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1)
-        return trouble(u"one settings file at most; see --help"_s);
-    file = files.value(0, korvel::path::home() + korvel::path::settingsInHome);
+        return trouble(u"one file at most; see --help"_s);
+    file = files.value(0);
     // The toolkit would make replacement characters of the rest, and files of such names.
     for (const char *variable : {"HOME", "XDG_CONFIG_HOME"})
         if (const QString path = korvel::path::fromBytes(qgetenv(variable)); !path.isValidUtf16())
@@ -80,9 +81,10 @@ int main(int argc, char *argv[])
     });
     int status = 0;
     {
-        SettingsWindow window(file, Rendering::findRenderer());
+        SettingsWindow window(korvel::path::home() + korvel::path::settingsInHome,
+                              Rendering::findRenderer());
         window.show();
-        window.begin(); // which may ask, and be stopped meanwhile
+        window.begin(file); // which may ask, and be stopped meanwhile
         if (!isStopped)
             status = QApplication::exec();
     }

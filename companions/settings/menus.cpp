@@ -1,16 +1,14 @@
 // The menus of the window.
 #include "companions/settings/fieldrow.h"
 #include "companions/settings/formpane.h"
-#include "companions/settings/jobs.h"
+#include "companions/settings/helppage.h"
 #include "companions/settings/paperpane.h"
 #include "companions/settings/window.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
-#include <QRegularExpression>
 #include <QSettings>
-#include <QTextBrowser>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -91,27 +89,20 @@ void SettingsWindow::fillRecent(QMenu &menu)
     menu.clear();
     const QStringList paths = QSettings().value(u"recent"_s).toStringList();
     for (const QString &path : paths)
-        menu.addAction(QString(path).replace(u'&', "&&"_L1), this, [this, path] {
-            if (mayDiscardEdits())
-                openPath(path);
-        });
+        menu.addAction(QString(path).replace(u'&', "&&"_L1), this,
+                       [this, path] { openPath(path); });
     if (paths.isEmpty())
         menu.addAction(tr("None"))->setEnabled(false);
 }
 
-/// The page of the reference, without the marks of those who write it.
 void SettingsWindow::help()
 {
-    static const QRegularExpression marks(u"<!--.*?-->"_s,
-                                          QRegularExpression::DotMatchesEverythingOption);
-    auto *page = new QTextBrowser(this);
+    auto *page = new HelpPage(this);
     page->setObjectName(u"help"_s);
     page->setWindowFlag(Qt::Window);
     page->setAttribute(Qt::WA_DeleteOnClose);
-    page->setWindowTitle(tr("The settings file"));
-    page->setMarkdown(QString::fromUtf8(resource(u":/docs/settings.md"_s)).remove(marks));
-    page->setOpenLinks(false);
     page->resize(size().boundedTo({720, 640}));
+    connect(page, &HelpPage::failed, this, &SettingsWindow::tell);
     page->show();
 }
 

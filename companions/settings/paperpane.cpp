@@ -5,7 +5,6 @@
 #include "companions/check/settingsfile.h"
 #include "companions/settings/fields.h"
 #include "companions/settings/findingslist.h"
-#include "companions/settings/jobs.h"
 #include "companions/settings/paperview.h"
 #include "companions/settings/ruler.h"
 #include "companions/settings/state.h"
@@ -13,8 +12,6 @@
 
 #include <QComboBox>
 #include <QEvent>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -135,61 +132,6 @@ void PaperPane::build()
     layout->setContentsMargins(4, 4, 4, 4);
 }
 
-void PaperPane::showDocument(const vocabulary::Method &method)
-{
-    sampleMethod = shownMethod = &method;
-    jobs->setCurrentIndex(0);
-    jobPath.clear();
-    job = resource(u":/examples/jobs/"_s + method.sample + u".xml"_s);
-    litSetting.clear();
-    render();
-}
-
-void PaperPane::chooseJob(int index)
-{
-    const QString path = jobs->itemData(index).toString();
-    if (index == jobs->count() - 1)
-        chooseJobFile();
-    else if (!path.isEmpty())
-        emit failed(openJob(path));
-    else if (sampleMethod)
-        showDocument(*sampleMethod);
-}
-
-void PaperPane::chooseJobFile()
-{
-    const int before = jobPath.isEmpty() ? 0 : jobs->findData(jobPath);
-    const QString path = QFileDialog::getOpenFileName(this, tr("Choose a job"), QString(),
-                                                      tr("Jobs (*.xml);;All files (*)"));
-    jobs->setCurrentIndex(before);
-    if (!path.isEmpty())
-        emit failed(openJob(path));
-}
-
-QString PaperPane::openJob(const QString &path)
-{
-    QString error;
-    const auto bytes = jobFile(path, error);
-    if (!bytes)
-        return error;
-    int index = jobs->findData(path);
-    if (index < 0) {
-        index = 1;
-        jobs->insertItem(index, QFileInfo(path).fileName(), path);
-        jobs->setItemData(index, path, Qt::ToolTipRole);
-    }
-    if (const vocabulary::Method *found = methodOf(*bytes)) {
-        shownMethod = found;
-        emit documentChosen(QString(found->name)); // which shows its sample
-    }
-    jobs->setCurrentIndex(index);
-    jobPath = path;
-    job = *bytes;
-    render();
-    emit jobOpened();
-    return {};
-}
-
 void PaperPane::refresh(const QByteArray &newSettings, const QList<hints::Hint> &found)
 {
     settings = newSettings;
@@ -229,7 +171,8 @@ void PaperPane::listFindings(const QString &byRenderer)
     for (const hints::Hint &hint : std::as_const(hintsFound)) {
         const QString group = hint.setting.value(1);
         if (hint.isUnread
-            || (shownMethod && group != shownMethod->group && group != vocabulary::group::language))
+            || (!hint.isOfAll && shownMethod && group != shownMethod->group
+                && group != vocabulary::group::language))
             continue;
         const QString key = hint.setting.value(2);
         findings->add(key.isEmpty() ? hint.text : fields::titleOf(key) + u": "_s + hint.text,

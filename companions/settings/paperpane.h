@@ -38,7 +38,7 @@ public:
     /// Shows the sample job of a document.
     void showDocument(const vocabulary::Method &method);
 
-    /// Asks for a job file, and shows it.
+    /// Asks for a job file; see fileChosen().
     void chooseJobFile();
 
     /// Shows a job file; why it cannot be read, in one line, empty when it can.
@@ -80,6 +80,9 @@ signals:
     /// A job of the user's own is shown.
     void jobOpened();
 
+    /// The user chose a file, to be shown if it is a job.
+    void fileChosen(const QString &path);
+
     void failed(const QString &text);
 
     /// What is wrong with the shown job and its paper, beside its settings; nothing for none.
@@ -94,6 +97,8 @@ protected:
 private:
     void build();
     void chooseJob(int index);
+    void reopenJob(int index);
+    [[nodiscard]] int shownJob() const;
     void render();
     void showRendered(const shared::Rendered &rendered);
     void listFindings(const QString &byRenderer);

@@ -31,6 +31,21 @@ void noteValues(const QTreeWidgetItem &group, const QStringList &path, Values &v
     }
 }
 
+void outline(const QTreeWidgetItem &row, int depth, Outline &all)
+{
+    all.append({depth, row.text(0)});
+    for (int i = 0; i < row.childCount(); ++i)
+        outline(*row.child(i), depth + 1, all);
+}
+
+Outline outlineOf(const QTreeWidget &view)
+{
+    Outline all;
+    for (int i = 0; i < view.topLevelItemCount(); ++i)
+        outline(*view.topLevelItem(i), 0, all);
+    return all;
+}
+
 std::unique_ptr<QTreeWidgetItem> newSetting(const QString &name, const QString &value)
 {
     auto row = std::make_unique<QTreeWidgetItem>(QStringList(name));
@@ -123,6 +138,7 @@ void State::begin(std::unique_ptr<QTreeWidget> newView, const QString &path)
     rows = std::move(newView);
     filePath = path;
     present = inFile = valuesOf(*rows);
+    outlineInFile = outlineOf(*rows);
 }
 
 void State::noteChange()
@@ -265,8 +281,11 @@ void State::remove(QTreeWidgetItem &row)
 void State::markSaved()
 {
     inFile = present;
+    outlineInFile = outlineOf(*rows);
     stack.setClean();
 }
+
+bool State::isModified() const { return !stack.isClean() && outlineOf(*rows) != outlineInFile; }
 
 QTreeWidgetItem *State::rowOf(const QStringList &path) const
 {

@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -16,6 +17,9 @@ namespace korvel::settings {
 
 /// Values of settings by where these stand: "korvel", the group, the key.
 using Values = QHash<QStringList, QString>;
+
+/// The rows of a view in their order, each with how deep it stands.
+using Outline = QList<std::pair<int, QString>>;
 
 /// What the renderer reads of a view, set but empty values too.
 Values valuesOf(const QTreeWidget &view);
@@ -70,6 +74,9 @@ public:
     /// What is there now is what the file has.
     void markSaved();
 
+    /// Whether the rows are others than those that the file has, or stand in another order.
+    [[nodiscard]] bool isModified() const;
+
     /// The row of the group that all look-ups begin with, whatever its name; null without any.
     [[nodiscard]] static QTreeWidgetItem *firstGroup(const QTreeWidget &view);
 
@@ -95,6 +102,7 @@ private:
     Values present;
     Values inFile;
     Values inSample;
+    Outline outlineInFile;
     bool beginning = false;
 };
 

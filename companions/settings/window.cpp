@@ -1,7 +1,6 @@
 // What the window shows, and how its parts follow one another.
 #include "companions/settings/window.h"
 
-#include "companions/check/checks.h"
 #include "companions/check/vocabulary.h"
 #include "companions/settings/expertpane.h"
 #include "companions/settings/fields.h"
@@ -55,13 +54,18 @@ QStringList catalogueFolders(const QString &renderer)
     return folders;
 }
 
-/// Whether a hint is about what a document reads.
-bool concerns(const hints::Hint &hint, const vocabulary::Method &method)
+/// Whether a hint is about what a document reads; without one, about the language of the labels.
+bool concerns(const hints::Hint &hint, const vocabulary::Method *method)
 {
-    if (hint.isUnread || hint.setting.value(1) != method.group)
+    if (hint.isOfAll)
+        return true;
+    const QString group = method ? method->group : vocabulary::group::language;
+    if (hint.isUnread || hint.setting.value(1) != group)
         return false;
+    if (!method)
+        return true;
     const vocabulary::Setting *setting = vocabulary::findSetting(hint.setting.value(2));
-    return !setting || (setting->documents & method.document) != 0;
+    return !setting || (setting->documents & method->document) != 0;
 }
 
 } // namespace
@@ -79,22 +83,27 @@ SettingsWindow::SettingsWindow(const QString &file, const QString &renderer)
     pause.setInterval(50ms);
     connect(&pause, &QTimer::timeout, this, &SettingsWindow::refresh);
     connect(&state, &State::changed, this, &SettingsWindow::edited);
-    connect(&state.history(), &QUndoStack::cleanChanged, this,
-            [this](bool clean) { setWindowModified(!clean); });
 }
 
 SettingsWindow::~SettingsWindow()
 {
     state.disconnect(this);
-    state.history().disconnect(this);
     delete takeCentralWidget(); // before the state that it shows
 }
 
-void SettingsWindow::begin()
+void SettingsWindow::begin(const QString &named)
 {
+    QString error;
+    const auto bytes = fileBytes(named, error);
+    const bool isSettings =
+        bytes ? kindOf(*bytes) == FileKind::Settings : !QFileInfo::exists(named);
+    if (!named.isEmpty() && isSettings)
+        document = std::make_unique<SettingsDocument>(named);
     if (!document->exists())
         offerSample();
     load();
+    if (!named.isEmpty() && !isSettings)
+        openPath(named);
 }
 
 QByteArray SettingsWindow::shownStream() const { return paper->stream(); }
@@ -161,6 +170,7 @@ void SettingsWindow::connectPanes()
     });
     connect(paper, &PaperPane::found, this, &SettingsWindow::noteOfPaper);
     connect(paper, &PaperPane::jobOpened, this, [this] { panes->bringToFront(paper); });
+    connect(paper, &PaperPane::fileChosen, this, &SettingsWindow::openPath);
     connect(paper, &PaperPane::failed, this, &SettingsWindow::tell);
     connect(paper, &PaperPane::said, this,
             [this](const QString &text) { statusBar()->showMessage(text, 8000); });
@@ -228,6 +238,7 @@ void SettingsWindow::finishEditing()
 
 void SettingsWindow::edited()
 {
+    setWindowModified(state.isModified());
     form->refresh(found);
     unread->refresh();
     pause.start();
@@ -236,8 +247,8 @@ void SettingsWindow::edited()
 /// Brings the marks and the paper in line with the settings.
 void SettingsWindow::refresh()
 {
-    const QByteArray settings = SettingsDocument::writtenBy(*state.view());
-    found = hints::find(settings);
+    const QByteArray settings = document->written(*state.view());
+    found = document->isXml() ? QList<hints::Hint>{hints::ofXml()} : hints::find(settings);
     hints::mark(*state.view(), found);
     form->refresh(found);
     unread->refresh();
@@ -263,9 +274,7 @@ void SettingsWindow::markDocuments()
         const vocabulary::Method *method = methodAt(row);
         QStringList texts;
         for (const hints::Hint &hint : std::as_const(found)) {
-            if (method ? concerns(hint, *method)
-                       : row == languageRow() && !hint.isUnread
-                             && hint.setting.value(1) == vocabulary::group::language)
+            if (row != unreadRow() && concerns(hint, method))
                 texts.append(hint.text);
         }
         if (method)
@@ -348,20 +357,13 @@ void SettingsWindow::dragEnterEvent(QDragEnterEvent *event)
         event->acceptProposedAction();
 }
 
-/// Settings are opened, a job is shown.
 void SettingsWindow::dropEvent(QDropEvent *event)
 {
     const QList<QUrl> urls = event->mimeData()->urls();
     if (urls.isEmpty())
         return;
     event->acceptProposedAction();
-    const QString path = urls.constFirst().toLocalFile();
-    QString error;
-    const auto bytes = jobFile(path, error);
-    if (!bytes || !check::isSettings(*bytes))
-        tell(paper->openJob(path));
-    else if (mayDiscardEdits())
-        openPath(path);
+    openPath(urls.constFirst().toLocalFile());
 }
 
 } // namespace korvel::settings

@@ -43,14 +43,19 @@ class SettingsWindow : public QMainWindow
 
 public:
     /**
-     * @param file     path of the settings file; one that does not exist is made when saved
+     * @param file     path of the user's settings file; one that does not exist is made when saved
      * @param renderer path of korvel-print
      */
     SettingsWindow(const QString &file, const QString &renderer);
     ~SettingsWindow() override;
 
-    /// Reads the file. Where there is none, offers the sample settings.
-    void begin();
+    /**
+     * Reads the file. Where there is none, offers the sample settings.
+     *
+     * @param named another file to begin with. Settings, or a file that does not exist, are opened
+     *              in the place of the user's; a job is shown by these.
+     */
+    void begin(const QString &named = {});
 
     /// The command stream of the paper; empty while a message stands in its place.
     [[nodiscard]] QByteArray shownStream() const;

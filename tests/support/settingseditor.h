@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTest>
@@ -76,12 +77,14 @@ inline QByteArray sampleOf40()
 class Editor
 {
 public:
-    explicit Editor(const QString &file, const QString &renderer = KORVEL_PRINT)
+    /// @param named on the command line
+    explicit Editor(const QString &file, const QString &renderer = KORVEL_PRINT,
+                    const QString &named = {})
         : window(file, renderer)
     {
         window.show();
         activate();
-        window.begin();
+        window.begin(named);
         showExpert();
         activate();
         if (!QTest::qWaitFor([this] { return tree()->isVisible(); }))
@@ -214,6 +217,18 @@ public:
         press(Qt::Key_Return);
         if (!QTest::qWaitFor([this] { return QApplication::focusWidget() == tree(); }))
             qFatal("the editor stays open");
+    }
+
+    /// The entries of the menu of recent files, as they are when it is opened.
+    [[nodiscard]] QList<QAction *> recentFiles() const
+    {
+        for (QMenu *menu : window.findChildren<QMenu *>()) {
+            if (menu->title() == "Open &recent") {
+                emit menu->aboutToShow();
+                return menu->actions();
+            }
+        }
+        qFatal("there is no menu of recent files");
     }
 
     /// Whether a menu has an entry of this text, without the mark of its key.

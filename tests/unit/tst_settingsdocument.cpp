@@ -114,6 +114,38 @@ private slots:
                  QByteArray("<korvel> <doc paperWidth = \"30\"> </doc> </korvel>"));
     }
 
+    // What stands before the first element is none of the settings.
+    void theXmlNotationIsReadBehind_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::newRow("nothing") << QByteArray();
+        QTest::newRow("an empty line") << QByteArray("\n");
+        QTest::newRow("a declaration") << QByteArray("<?xml version=\"1.0\"?>\n");
+        QTest::newRow("a comment") << QByteArray("<!-- the shop's -->");
+        QTest::newRow("a document type") << QByteArray("<!DOCTYPE korvel>");
+        QTest::newRow("all of them") << QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                                                   "<!DOCTYPE korvel>\n<!-- a --><!-- b -->\n");
+        QTest::newRow("a byte order mark") << QByteArray("\xEF\xBB\xBF<?xml version=\"1.0\"?>");
+    }
+
+    void theXmlNotationIsReadBehind()
+    {
+        QFETCH(QByteArray, before);
+        const File file(before
+                        + "<korvel><doc paperWidth=\"31\"/><solddoc style=\"qd\"/></korvel>");
+        SettingsDocument document(file.path());
+        const auto view = document.read();
+        QVERIFY(document.isXml());
+        QCOMPARE(rowsOf(*view),
+                 QStringList({file.path(), "  korvel", "    doc", "      paperWidth", "        *31",
+                              "    solddoc", "      style", "        *qd"}));
+        QCOMPARE(document.losses(*view), QStringList());
+        QCOMPARE(document.save(*view), QString());
+        QCOMPARE(file.bytes().simplified(),
+                 QByteArray("<korvel> <doc paperWidth = \"31\"> </doc> "
+                            "<solddoc style = \"qd\"> </solddoc> </korvel>"));
+    }
+
     void changeOnDisk_data()
     {
         QTest::addColumn<bool>("before");      // whether there is a file at first

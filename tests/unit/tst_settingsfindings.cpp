@@ -2,6 +2,7 @@
 // preview.
 #include "companions/check/checks.h"
 #include "companions/check/settingsfile.h"
+#include "companions/paper/paper.h"
 #include "companions/preview/codes.h"
 #include "companions/settings/findingslist.h"
 #include "support/answers.h"
@@ -218,6 +219,38 @@ private slots:
                          qPrintable(name + ": " + finding.text));
             }
         }
+    }
+
+    /// 2 at 7.00 and 2 at 4.50 without 3.00 are 20.00; a row has 32 characters.
+    void theWordsOnThePaper_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QStringList>("words");
+        QTest::newRow("German") << "de"
+                                << QStringList{"ABZUG                      -3.00",
+                                               "Summe (der Vorschau)       20.00"};
+        QTest::newRow("Spanish") << "es"
+                                 << QStringList{"DESCUENTO                  -3.00",
+                                                "Suma (de la vista previa)  20.00"};
+        QTest::newRow("French") << "fr"
+                                << QStringList{"DÉDUCTION                  -3.00",
+                                               "Somme (de l'aperçu)        20.00"};
+        QTest::newRow("Italian") << "it"
+                                 << QStringList{"DETRAZIONE                 -3.00",
+                                                "Somma (dell'anteprima)     20.00"};
+    }
+
+    void theWordsOnThePaper()
+    {
+        QFETCH(QString, language);
+        QFETCH(QStringList, words);
+        const Language translated(language);
+        QStringList rows;
+        for (const preview::PaperRow &row :
+             preview::paperOf(example("expected/fiscal-receipt.out"), 32))
+            rows.append(row.text);
+        QCOMPARE(rows.value(rows.size() - 3), words[0]);
+        QCOMPARE(rows.value(rows.size() - 1), words[1]);
     }
 
     void thePreviewsWords()

@@ -286,7 +286,7 @@ private slots:
         QTest::qWait(200);
         editor.edit("receiptdoc.paperWidth", "40");
         QTRY_COMPARE_WITH_TIMEOUT(editor.stream(), receiptOf40(), 9000);
-        editor.edit("receiptdoc.paperWidth", "32");
+        editor.edit("receiptdoc.paperWidth", "39");
         QTest::qWait(200);
         answers.give({"Discard"});
         QVERIFY(editor.window.close());

@@ -1,5 +1,6 @@
 // Saving in the settings editor: what would be lost, what others changed, what cannot be written.
 #include "support/answers.h"
+#include "support/renderer.h"
 #include "support/settingseditor.h"
 #include "support/settingstext.h"
 #include "support/test.h"
@@ -39,6 +40,89 @@ private slots:
         // The marks in the tree are no edits either.
         QTest::qWait(200);
         QVERIFY(!editor.window.isWindowModified());
+    }
+
+    // What is saved then would be what the file has.
+    void whatIsSetBackIsNoEdit()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        editor.edit("receiptdoc.paperWidth", "40");
+        QVERIFY(editor.window.isWindowModified());
+        editor.edit("receiptdoc.paperWidth", "32");
+        QVERIFY(!editor.window.isWindowModified());
+
+        editor.showForm();
+        editor.activate();
+        auto *header = editor.check("receiptdoc.printHeader");
+        header->setFocus();
+        Editor::press(Qt::Key_Space);
+        QVERIFY(editor.window.isWindowModified());
+        editor.shortcut(Qt::Key_L); // as in the file
+        QVERIFY(header->isChecked());
+        QVERIFY(!editor.window.isWindowModified());
+        QVERIFY(editor.window.close()); // asks nothing
+    }
+
+    void whatIsUndoneBehindASaveIsAnEdit()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        editor.edit("receiptdoc.paperWidth", "40");
+        editor.save();
+        editor.shortcut(Qt::Key_Z);
+        QCOMPARE(editor.valueRow("receiptdoc.paperWidth")->text(0), QString("32"));
+        QVERIFY(editor.window.isWindowModified());
+        editor.edit("receiptdoc.paperWidth", "40");
+        QVERIFY(!editor.window.isWindowModified());
+    }
+
+    // A setting that was taken out stands behind the others when it is set again.
+    void anotherOrderIsAnEdit()
+    {
+        const TemporaryHome home(settingsFile(documentGroup("doc", "style = a; paperWidth = 31;")));
+        Editor editor(home.settingsPath());
+        editor.showForm();
+        editor.activate();
+        editor.choose("Kitchen order");
+        editor.field<QLineEdit>("doc.style")->setFocus();
+        editor.shortcut(Qt::Key_N); // not set
+        editor.shortcut(Qt::Key_L); // as in the file
+        QVERIFY(editor.window.isWindowModified());
+        editor.shortcut(Qt::Key_Z);
+        QVERIFY(editor.window.isWindowModified());
+        editor.shortcut(Qt::Key_Z);
+        QVERIFY(!editor.window.isWindowModified());
+    }
+
+    // The paper is what the renderer makes of the file: nothing of it is read.
+    void aFileInXml()
+    {
+        const TemporaryHome home(
+            "<?xml version=\"1.0\"?>\n<korvel><receiptdoc printHeader=\"true\" "
+            "paperWidth=\"40\"/></korvel>\n");
+        const QString said = "The renderer reads nothing of this file: it is written as XML. "
+                             "Save as, in the menu File, writes the settings as the renderer "
+                             "reads them.";
+        Editor editor(home.settingsPath());
+        QTRY_COMPARE_WITH_TIMEOUT(editor.stream(), rendered(home), longEnough);
+        QCOMPARE(editor.findings().value(0), said);
+        for (int row = 0; row < editor.documents()->count(); ++row)
+            QCOMPARE(editor.documents()->item(row)->toolTip().section('\n', 0, 0), said);
+        QCOMPARE(editor.number("receiptdoc.paperWidth")->value(), 40);
+        QVERIFY(editor.check("receiptdoc.printHeader")->isChecked());
+
+        const TemporaryHome other;
+        answers.give({other.settingsPath()});
+        QVERIFY(QDir().mkpath(QFileInfo(other.settingsPath()).path()));
+        editor.shortcut(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(bytesOf(other.settingsPath()),
+                 QByteArray("korvel: \n{\n    receiptdoc: \n    {\n"
+                            "        printHeader = \"true\";\n        paperWidth = \"40\";\n"
+                            "    };\n\n};\n\n"));
+        QVERIFY(rendered(other) != rendered(home));
+        QTRY_COMPARE_WITH_TIMEOUT(editor.stream(), rendered(other), longEnough);
+        QVERIFY(!editor.findings().contains(said));
     }
 
     // A value that is being typed counts as much as one behind Enter.
@@ -178,6 +262,16 @@ private slots:
     }
 
 private:
+    /// The sample receipt by the settings of a home.
+    static QStringList rendered(const TemporaryHome &home)
+    {
+        const QTemporaryDir folder;
+        const QString out = folder.filePath("stream.out");
+        runRenderer({KORVEL_SOURCE_DIR "/examples/jobs/receipt.xml", out}, home.path(),
+                    {"HOME=" + home.path()});
+        return linesOf(bytesOf(out));
+    }
+
     Answers answers;
 };
 

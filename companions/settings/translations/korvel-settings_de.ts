@@ -1247,6 +1247,14 @@
         <source>%1 cannot be read: %2</source>
         <translation>%1 lässt sich nicht lesen: %2</translation>
     </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Es gibt keine Datei %1.</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::AddDialog</name>
@@ -1359,6 +1367,17 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::HelpPage</name>
+    <message>
+        <source>The help has no page %1.</source>
+        <translation>Die Hilfe hat keine Seite %1.</translation>
+    </message>
+    <message>
+        <source>Help: %1</source>
+        <translation>Hilfe (auf Englisch): %1</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::Panes</name>
     <message>
         <source>Do&amp;cuments</source>
@@ -1440,14 +1459,6 @@
 </context>
 <context>
     <name>korvel::settings::SettingsDocument</name>
-    <message>
-        <source>%1 is no file.</source>
-        <translation>%1 ist keine Datei.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>%1 lässt sich nicht lesen: %2</translation>
-    </message>
     <message>
         <source>Everything: nothing in the file could be read, and it would be emptied.</source>
         <translation>Alles: In der Datei war nichts lesbar, und sie würde geleert.</translation>
@@ -1658,10 +1669,6 @@ Mit den Beispieleinstellungen beginnen?</translation>
         <translation>Keine</translation>
     </message>
     <message>
-        <source>The settings file</source>
-        <translation>Die Einstellungsdatei</translation>
-    </message>
-    <message>
         <source>Documents</source>
         <translation>Dokumente</translation>
     </message>
@@ -1690,8 +1697,8 @@ Mit den Beispieleinstellungen beginnen?</translation>
         <translation>Exportiert: %1</translation>
     </message>
     <message>
-        <source>There is no file %1.</source>
-        <translation>Es gibt keine Datei %1.</translation>
+        <source>%1 is neither settings nor a job. Choose a settings file such as korvel.conf, or a job in XML.</source>
+        <translation>%1 enthält weder Einstellungen noch einen Druckauftrag. Bitte eine Einstellungsdatei wie korvel.conf oder einen Druckauftrag in XML wählen.</translation>
     </message>
 </context>
 <context>
@@ -1772,6 +1779,29 @@ Mit den Beispieleinstellungen beginnen?</translation>
     <message>
         <source>Read by: %1.</source>
         <translation>Gelesen von: %1.</translation>
+    </message>
+    <message>
+        <source>The renderer reads nothing of this file: it is written as XML. Save as, in the menu File, writes the settings as the renderer reads them.</source>
+        <translation>Das Druckprogramm liest nichts von dieser Datei: Sie ist in XML geschrieben. „Speichern unter“ im Menü „Datei“ schreibt die Einstellungen so, wie das Druckprogramm sie liest.</translation>
+    </message>
+</context>
+<context>
+    <name>paper</name>
+    <message>
+        <source>DEDUCTION</source>
+        <translation>ABZUG</translation>
+    </message>
+    <message>
+        <source>Sum (by the preview)</source>
+        <translation>Summe (der Vorschau)</translation>
+    </message>
+    <message>
+        <source>Sum so far (preview)</source>
+        <translation>Bisher (Vorschau)</translation>
+    </message>
+    <message>
+        <source>Rows not counted</source>
+        <translation>Nicht gezählte Zeilen</translation>
     </message>
 </context>
 <context>

@@ -1247,6 +1247,14 @@
         <source>%1 cannot be read: %2</source>
         <translation>No se puede leer %1: %2</translation>
     </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>No hay ningún archivo %1.</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 no es un archivo.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::AddDialog</name>
@@ -1359,6 +1367,17 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::HelpPage</name>
+    <message>
+        <source>The help has no page %1.</source>
+        <translation>La ayuda no tiene ninguna página %1.</translation>
+    </message>
+    <message>
+        <source>Help: %1</source>
+        <translation>Ayuda (en inglés): %1</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::Panes</name>
     <message>
         <source>Do&amp;cuments</source>
@@ -1440,14 +1459,6 @@
 </context>
 <context>
     <name>korvel::settings::SettingsDocument</name>
-    <message>
-        <source>%1 is no file.</source>
-        <translation>%1 no es un archivo.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>No se puede leer %1: %2</translation>
-    </message>
     <message>
         <source>Everything: nothing in the file could be read, and it would be emptied.</source>
         <translation>Todo: no se pudo leer nada del archivo, y quedaría vacío.</translation>
@@ -1658,10 +1669,6 @@ Begin with the sample settings?</source>
         <translation>Ninguno</translation>
     </message>
     <message>
-        <source>The settings file</source>
-        <translation>El archivo de ajustes</translation>
-    </message>
-    <message>
         <source>Documents</source>
         <translation>Documentos</translation>
     </message>
@@ -1690,8 +1697,8 @@ Begin with the sample settings?</source>
         <translation>Exportado: %1</translation>
     </message>
     <message>
-        <source>There is no file %1.</source>
-        <translation>No hay ningún archivo %1.</translation>
+        <source>%1 is neither settings nor a job. Choose a settings file such as korvel.conf, or a job in XML.</source>
+        <translation>%1 no contiene ni ajustes ni un trabajo. Elija un archivo de ajustes como korvel.conf o un trabajo en XML.</translation>
     </message>
 </context>
 <context>
@@ -1772,6 +1779,29 @@ Begin with the sample settings?</source>
     <message>
         <source>Read by: %1.</source>
         <translation>Leído por: %1.</translation>
+    </message>
+    <message>
+        <source>The renderer reads nothing of this file: it is written as XML. Save as, in the menu File, writes the settings as the renderer reads them.</source>
+        <translation>El programa de impresión no lee nada de este archivo: está escrito en XML. «Guardar como», en el menú «Archivo», escribe los ajustes como el programa de impresión los lee.</translation>
+    </message>
+</context>
+<context>
+    <name>paper</name>
+    <message>
+        <source>DEDUCTION</source>
+        <translation>DESCUENTO</translation>
+    </message>
+    <message>
+        <source>Sum (by the preview)</source>
+        <translation>Suma (de la vista previa)</translation>
+    </message>
+    <message>
+        <source>Sum so far (preview)</source>
+        <translation>Parcial (vista previa)</translation>
+    </message>
+    <message>
+        <source>Rows not counted</source>
+        <translation>Filas sin contar</translation>
     </message>
 </context>
 <context>

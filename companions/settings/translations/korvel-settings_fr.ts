@@ -1247,6 +1247,14 @@
         <source>%1 cannot be read: %2</source>
         <translation>Impossible de lire %1&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Il n&apos;y a pas de fichier %1.</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 n&apos;est pas un fichier.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::AddDialog</name>
@@ -1359,6 +1367,17 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::HelpPage</name>
+    <message>
+        <source>The help has no page %1.</source>
+        <translation>L&apos;aide n&apos;a pas de page %1.</translation>
+    </message>
+    <message>
+        <source>Help: %1</source>
+        <translation>Aide (en anglais)&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::Panes</name>
     <message>
         <source>Do&amp;cuments</source>
@@ -1440,14 +1459,6 @@
 </context>
 <context>
     <name>korvel::settings::SettingsDocument</name>
-    <message>
-        <source>%1 is no file.</source>
-        <translation>%1 n&apos;est pas un fichier.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>Impossible de lire %1&#xa0;: %2</translation>
-    </message>
     <message>
         <source>Everything: nothing in the file could be read, and it would be emptied.</source>
         <translation>Tout&#xa0;: rien n&apos;a pu être lu dans le fichier, et il serait vidé.</translation>
@@ -1658,10 +1669,6 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
         <translation>Aucun</translation>
     </message>
     <message>
-        <source>The settings file</source>
-        <translation>Le fichier de réglages</translation>
-    </message>
-    <message>
         <source>Documents</source>
         <translation>Les documents</translation>
     </message>
@@ -1690,8 +1697,8 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
         <translation>Exporté&#xa0;: %1</translation>
     </message>
     <message>
-        <source>There is no file %1.</source>
-        <translation>Il n&apos;y a pas de fichier %1.</translation>
+        <source>%1 is neither settings nor a job. Choose a settings file such as korvel.conf, or a job in XML.</source>
+        <translation>%1 ne contient ni réglages ni tâche d&apos;impression. Choisissez un fichier de réglages comme korvel.conf, ou une tâche en XML.</translation>
     </message>
 </context>
 <context>
@@ -1772,6 +1779,29 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
     <message>
         <source>Read by: %1.</source>
         <translation>Lu par&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The renderer reads nothing of this file: it is written as XML. Save as, in the menu File, writes the settings as the renderer reads them.</source>
+        <translation>Le programme d&apos;impression ne lit rien de ce fichier&#xa0;: il est écrit en XML. «&#xa0;Enregistrer sous&#xa0;», dans le menu «&#xa0;Fichier&#xa0;», écrit les réglages comme le programme d&apos;impression les lit.</translation>
+    </message>
+</context>
+<context>
+    <name>paper</name>
+    <message>
+        <source>DEDUCTION</source>
+        <translation>DÉDUCTION</translation>
+    </message>
+    <message>
+        <source>Sum (by the preview)</source>
+        <translation>Somme (de l&apos;aperçu)</translation>
+    </message>
+    <message>
+        <source>Sum so far (preview)</source>
+        <translation>Partiel (aperçu)</translation>
+    </message>
+    <message>
+        <source>Rows not counted</source>
+        <translation>Lignes non comptées</translation>
     </message>
 </context>
 <context>

@@ -1247,6 +1247,14 @@
         <source>%1 cannot be read: %2</source>
         <translation>Impossibile leggere %1: %2</translation>
     </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Non c&apos;è nessun file %1.</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 non è un file.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::AddDialog</name>
@@ -1359,6 +1367,17 @@
     </message>
 </context>
 <context>
+    <name>korvel::settings::HelpPage</name>
+    <message>
+        <source>The help has no page %1.</source>
+        <translation>La guida non ha la pagina %1.</translation>
+    </message>
+    <message>
+        <source>Help: %1</source>
+        <translation>Guida (in inglese): %1</translation>
+    </message>
+</context>
+<context>
     <name>korvel::settings::Panes</name>
     <message>
         <source>Do&amp;cuments</source>
@@ -1440,14 +1459,6 @@
 </context>
 <context>
     <name>korvel::settings::SettingsDocument</name>
-    <message>
-        <source>%1 is no file.</source>
-        <translation>%1 non è un file.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>Impossibile leggere %1: %2</translation>
-    </message>
     <message>
         <source>Everything: nothing in the file could be read, and it would be emptied.</source>
         <translation>Tutto: nel file non si è potuto leggere nulla, e verrebbe svuotato.</translation>
@@ -1658,10 +1669,6 @@ Iniziare con le impostazioni di esempio?</translation>
         <translation>Nessuno</translation>
     </message>
     <message>
-        <source>The settings file</source>
-        <translation>Il file delle impostazioni</translation>
-    </message>
-    <message>
         <source>Documents</source>
         <translation>Documenti</translation>
     </message>
@@ -1690,8 +1697,8 @@ Iniziare con le impostazioni di esempio?</translation>
         <translation>Esportato: %1</translation>
     </message>
     <message>
-        <source>There is no file %1.</source>
-        <translation>Non esiste alcun file %1.</translation>
+        <source>%1 is neither settings nor a job. Choose a settings file such as korvel.conf, or a job in XML.</source>
+        <translation>%1 non contiene né impostazioni né un lavoro. Scegliere un file di impostazioni come korvel.conf o un lavoro in XML.</translation>
     </message>
 </context>
 <context>
@@ -1772,6 +1779,29 @@ Iniziare con le impostazioni di esempio?</translation>
     <message>
         <source>Read by: %1.</source>
         <translation>Letto da: %1.</translation>
+    </message>
+    <message>
+        <source>The renderer reads nothing of this file: it is written as XML. Save as, in the menu File, writes the settings as the renderer reads them.</source>
+        <translation>Il programma di stampa non legge nulla di questo file: è scritto in XML. «Salvare con nome», nel menu «File», scrive le impostazioni come il programma di stampa le legge.</translation>
+    </message>
+</context>
+<context>
+    <name>paper</name>
+    <message>
+        <source>DEDUCTION</source>
+        <translation>DETRAZIONE</translation>
+    </message>
+    <message>
+        <source>Sum (by the preview)</source>
+        <translation>Somma (dell&apos;anteprima)</translation>
+    </message>
+    <message>
+        <source>Sum so far (preview)</source>
+        <translation>Parziale (anteprima)</translation>
+    </message>
+    <message>
+        <source>Rows not counted</source>
+        <translation>Righe non contate</translation>
     </message>
 </context>
 <context>
