@@ -77,6 +77,7 @@ bool Statements::read()
             readSetting();
             break;
         case '}':
+            tree.passOver(name.trimmed());
             jump(';');
             if (open-- == 0)
                 return true;

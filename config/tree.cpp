@@ -31,9 +31,15 @@ void Tree::endGroup()
     --depth;
     if (!isPending)
         current = groupList[current].parent;
-    else if (emptyGroups)
-        emptyGroups->push_back(pending);
+    else if (readOver)
+        readOver->groups.push_back(pending);
     isPending = false;
+}
+
+void Tree::passOver(std::string_view text)
+{
+    if (readOver && !text.empty())
+        readOver->texts.emplace_back(text);
 }
 
 void Tree::addSetting(std::string_view name, std::string_view value, qint64 place)

@@ -93,9 +93,17 @@ public:
     void endGroup();
     /// A setting of the group that has begun last.
     void addSetting(std::string_view name, std::string_view value, qint64 place);
-    /// Takes note, in a list of the caller's, of the names of groups that leave no trace because
-    /// nothing is in them.
-    void noteEmptyGroups(std::vector<std::string> &names) { emptyGroups = &names; }
+    /// What leaves no trace: names of groups with nothing in them, and texts before the end of a
+    /// group.
+    struct ReadOver
+    {
+        std::vector<std::string> groups;
+        std::vector<std::string> texts;
+    };
+    /// Takes note of that for the caller.
+    void noteReadOver(ReadOver &what) { readOver = &what; }
+    /// The text between the last setting of a group and its end; empty for none.
+    void passOver(std::string_view text);
     /// A setting that is too long to be kept.
     void leaveOut() { ++leftOutCount; }
 
@@ -121,7 +129,7 @@ private:
     std::vector<Setting> settingList;
     std::string texts; // all names and values, one behind the other
     std::size_t leftOutCount = 0;
-    std::vector<std::string> *emptyGroups = nullptr;
+    ReadOver *readOver = nullptr;
 
     Index current = file; // the innermost group in the tree that has begun
     std::string pending;  // name of the group that has begun last, when it is not yet in the tree

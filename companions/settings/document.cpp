@@ -3,6 +3,7 @@
 
 #include "companions/settings/fields.h"
 #include "companions/settings/jobs.h"
+#include "companions/shared/oneline.h"
 #include "config/config.h"
 #include "config/path.h"
 #include "config/statements.h"
@@ -13,6 +14,7 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QSaveFile>
+#include <QSet>
 #include <QTreeWidget>
 
 #include <optional>
@@ -86,18 +88,35 @@ private:
     QHash<std::pair<QStringList, bool>, QList<Row>> left;
 };
 
-/// What stands in a file and is read over: groups without settings, by name.
-QStringList emptyGroups(const QByteArray &file)
+QString asText(std::string_view bytes)
 {
-    std::vector<std::string> names;
+    return QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
+
+/// What stands in a file and not in its view, a line each: groups without settings, texts before
+/// the end of a group, and settings that a later one of their name takes the place of.
+QStringList readOver(const QByteArray &file)
+{
+    libconfig::Tree::ReadOver what;
     libconfig::Tree tree;
-    tree.noteEmptyGroups(names);
+    tree.noteReadOver(what);
     libconfig::Memory bytes(file);
     libconfig::Statements(bytes, tree).read();
-    QStringList empty;
-    for (const std::string &name : names)
-        empty.append(QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())));
-    return empty;
+    QStringList lines;
+    for (const std::string &name : what.groups)
+        lines.append(SettingsDocument::tr("The group %1 has no settings.").arg(asText(name)));
+    for (const std::string &text : what.texts)
+        lines.append(
+            SettingsDocument::tr("The text %1 is no setting.").arg(shared::quoted(asText(text))));
+    QSet<std::pair<libconfig::Tree::Index, QString>> names;
+    for (const libconfig::Tree::Setting &setting : tree.settings()) {
+        const QString name = tree.text(setting.name);
+        if (names.contains({setting.group, name}))
+            lines.append(SettingsDocument::tr("The setting %1 stands twice; the last one is kept.")
+                             .arg(name));
+        names.insert({setting.group, name});
+    }
+    return lines;
 }
 
 /// Whether there is text behind the last group or setting of a file.
@@ -196,8 +215,7 @@ QStringList SettingsDocument::losses(const QTreeWidget &view) const
         lines.append(tr("Everything: nothing in the file could be read, and it would be emptied."));
 
     if (!beginsAsXml(source)) {
-        for (const QString &name : emptyGroups(source))
-            lines.append(tr("The group %1 has no settings.").arg(name));
+        lines += readOver(source);
         if (!before.isEmpty() && hasTail(source))
             lines.append(tr("The text at the end of the file is no setting."));
     }

@@ -90,14 +90,8 @@ void NumberBox::stepBy(int steps)
         QSpinBox::stepBy(steps);
 }
 
-/// The wheel scrolls the form, unless the field was chosen.
-void NumberBox::wheelEvent(QWheelEvent *event)
-{
-    if (hasFocus())
-        QSpinBox::wheelEvent(event);
-    else
-        event->ignore();
-}
+/// A wheel that scrolls the form changes nothing on its way, not even the field that was chosen.
+void NumberBox::wheelEvent(QWheelEvent *event) { event->ignore(); }
 
 /// "not set" gives way to what is typed.
 void NumberBox::focusInEvent(QFocusEvent *event)
@@ -181,12 +175,6 @@ void CatalogueBox::show(const std::optional<QString> &folder, const std::optiona
     setCurrentIndex(current);
 }
 
-void CatalogueBox::wheelEvent(QWheelEvent *event)
-{
-    if (hasFocus())
-        QComboBox::wheelEvent(event);
-    else
-        event->ignore();
-}
+void CatalogueBox::wheelEvent(QWheelEvent *event) { event->ignore(); }
 
 } // namespace korvel::settings

@@ -120,7 +120,8 @@ bool SettingsWindow::save()
                 tr("Save all the same")))
         return false;
     const QStringList losses = document->losses(*state.view());
-    if (!losses.isEmpty() && !ask(tr("Not everything can be saved."), losses, tr("Save the rest")))
+    if (!losses.isEmpty()
+        && !ask(tr("Not everything can be saved."), losses, tr("Save all the same")))
         return false;
     if (const QString error = document->save(*state.view()); !error.isEmpty()) {
         tell(error);

@@ -5,6 +5,7 @@
 #include "companions/check/settingsfile.h"
 #include "companions/check/vocabulary.h"
 #include "companions/settings/state.h"
+#include "companions/shared/oneline.h"
 #include "config/config.h"
 
 #include <QApplication>
@@ -117,6 +118,18 @@ Hint ofXml()
         "korvel::settings::hints",
         "The renderer reads nothing of this file: it is written as XML. Save as, in the menu "
         "File, writes the settings as the renderer reads them.");
+    hint.isOfAll = true;
+    return hint;
+}
+
+Hint ofFirstGroup(const QString &name)
+{
+    Hint hint;
+    hint.text = QCoreApplication::translate(
+                    "korvel::settings::hints",
+                    "The renderer reads nothing of this file: its first group is called %1, and "
+                    "not \"korvel\".")
+                    .arg(shared::quoted(name));
     hint.isOfAll = true;
     return hint;
 }

@@ -23,6 +23,9 @@ struct Hint
 /// The hint that nothing is read of a file in the XML notation.
 Hint ofXml();
 
+/// The hint that nothing is read of a file whose first group is not that of the shop.
+Hint ofFirstGroup(const QString &name);
+
 /// All hints of a settings file, in its order. @param settings what the store writes for the view
 QList<Hint> find(const QByteArray &settings);
 

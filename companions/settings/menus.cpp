@@ -41,7 +41,8 @@ void SettingsWindow::buildFileMenu()
     add(tr("Re&vert"), QKeySequence::Refresh, &SettingsWindow::revert);
     menu->addSeparator();
     add(tr("Open a &job file …"), Qt::CTRL | Qt::Key_J, [this] { paper->chooseJobFile(); });
-    add(tr("&Export the paper …"), Qt::CTRL | Qt::Key_E, &SettingsWindow::exportPaper);
+    // Ctrl+E alone goes to the end of the line in a field.
+    add(tr("&Export the paper …"), Qt::CTRL | Qt::SHIFT | Qt::Key_E, &SettingsWindow::exportPaper);
     menu->addSeparator();
     add(tr("&Quit"), Qt::CTRL | Qt::Key_Q, [this] { close(); });
 }

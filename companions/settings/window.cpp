@@ -102,6 +102,8 @@ void SettingsWindow::begin(const QString &named)
     if (!document->exists())
         offerSample();
     load();
+    if (document->exists())
+        noteRecent();
     if (!named.isEmpty() && !isSettings)
         openPath(named);
 }
@@ -248,14 +250,18 @@ void SettingsWindow::edited()
 void SettingsWindow::refresh()
 {
     const QByteArray settings = document->written(*state.view());
-    found = document->isXml() ? QList<hints::Hint>{hints::ofXml()} : hints::find(settings);
+    const QTreeWidgetItem *first = State::firstGroup(*state.view());
+    if (document->isXml())
+        found = {hints::ofXml()};
+    else if (first && first->text(0) != vocabulary::group::korvel)
+        found = {hints::ofFirstGroup(first->text(0))};
+    else
+        found = hints::find(settings);
     hints::mark(*state.view(), found);
     form->refresh(found);
     unread->refresh();
     expert->showCurrent();
-    // Of the other documents it is not known what the paper is like now.
-    const QString shown = paper->method() ? QString(paper->method()->name) : QString();
-    ofPaper = {{shown, ofPaper.value(shown)}};
+    forgetPapers();
     markDocuments();
     paper->refresh(settings, found);
 }
@@ -265,6 +271,29 @@ void SettingsWindow::noteOfPaper(const QStringList &texts)
     if (const vocabulary::Method *method = paper->method())
         ofPaper[method->name] = texts;
     markDocuments();
+}
+
+/// Forgets what was wrong with papers that may be others now: of the documents whose settings have
+/// changed, or all with the language. That of the shown document is looked at anew.
+void SettingsWindow::forgetPapers()
+{
+    const auto valuesOfGroup = [](const Values &values, const QString &group) {
+        Values own;
+        for (auto value = values.begin(); value != values.end(); ++value) {
+            const QString its = value.key().value(1);
+            if (its == group || its == vocabulary::group::language)
+                own.insert(value.key(), value.value());
+        }
+        return own;
+    };
+    const Values now = valuesOf(*state.view());
+    for (const vocabulary::Method &method : vocabulary::methods()) {
+        const QString group = method.group;
+        if (&method != paper->method()
+            && valuesOfGroup(now, group) != valuesOfGroup(ofPaperBy, group))
+            ofPaper.remove(method.name);
+    }
+    ofPaperBy = now;
 }
 
 void SettingsWindow::markDocuments()

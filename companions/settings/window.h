@@ -100,6 +100,7 @@ private:
     void edited();
     void refresh();
     void noteOfPaper(const QStringList &texts);
+    void forgetPapers();
     void markDocuments();
     void showUnreadRow();
     void updateTitle();
@@ -110,8 +111,9 @@ private:
     std::unique_ptr<SettingsDocument> document;
     QList<hints::Hint> found; // hints of the settings as they are
     QHash<QString, QStringList>
-        ofPaper;  // what else is wrong, by documents that were shown with them
-    QTimer pause; // gathers the edits of a moment into one run
+        ofPaper;      // what else is wrong, by documents that were shown with them
+    Values ofPaperBy; // the settings that it was found with
+    QTimer pause;     // gathers the edits of a moment into one run
 
     Panes *panes = nullptr;
     QListWidget *documents = nullptr;

@@ -242,6 +242,15 @@ private slots:
         row("stray text before a name stays with it", "# to be short\n" + doc, {}, {}, {});
         row("an empty group of the file",
             settingsFile("empty: { }; " + documentGroup("doc", "style = a;")), {}, {}, {"empty"});
+        row("a setting twice in a group",
+            settingsFile(documentGroup("doc", "style = a; style = b;")), {}, {},
+            {"style stands twice"});
+        row("the same setting in two groups",
+            settingsFile(documentGroup("doc", "style = a;")
+                         + documentGroup("fiscaldoc", "style = b;")),
+            {}, {}, {});
+        row("text before the end of a group", settingsFile("doc: { style = a; # remark\n };"), {},
+            {}, {"# remark"});
         row("text behind the last setting", doc + "# the end\n", {}, {}, {"text at the end"});
     }
 

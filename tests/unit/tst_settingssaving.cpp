@@ -177,7 +177,7 @@ private slots:
             QVERIFY(editor.window.isWindowModified());
             QCOMPARE(editor.valueRow("doc.style")->text(0), value);
         }
-        answers.give({"Save the rest"});
+        answers.give({"Save all the same"});
         editor.save();
         QVERIFY(bytesOf(home.settingsPath()) != file);
         QCOMPARE(bytesOf(home.settingsPath() + '~'), file);

@@ -132,7 +132,7 @@ private slots:
         TRY_STREAM(editor, example("expected/receipt.out"));
         Answers answers;
         answers.give({home.path() + "/paper"}); // the filter is that of PDFs
-        editor.shortcut(Qt::Key_E);
+        editor.shortcut(Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
         answers.verifyUsedUp();
         QVERIFY(bytesOf(home.path() + "/paper.pdf").startsWith("%PDF-"));
         QCOMPARE(editor.window.statusBar()->currentMessage(),
@@ -145,7 +145,7 @@ private slots:
         Editor editor(home.settingsPath());
         TRY_STREAM(editor, example("expected/receipt.out"));
         const PngDialog dialog(home.path() + "/paper");
-        editor.shortcut(Qt::Key_E);
+        editor.shortcut(Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
         QVERIFY(bytesOf(home.path() + "/paper.png").startsWith("\x89PNG"));
     }
 
@@ -158,7 +158,7 @@ private slots:
         const QString path = home.path() + "/file/paper.pdf";
         Answers answers;
         answers.give({path, Answers::enter});
-        editor.shortcut(Qt::Key_E);
+        editor.shortcut(Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
         answers.verifyUsedUp();
         QVERIFY2(answers.seen.value(1).text.startsWith(path + " cannot be written: "),
                  qPrintable(answers.seen.value(1).text));

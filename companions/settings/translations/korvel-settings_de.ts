@@ -1503,6 +1503,14 @@
         <source>The text at the end of the file is no setting.</source>
         <translation>Der Text am Ende der Datei ist keine Einstellung.</translation>
     </message>
+    <message>
+        <source>The text %1 is no setting.</source>
+        <translation>Der Text %1 ist keine Einstellung.</translation>
+    </message>
+    <message>
+        <source>The setting %1 stands twice; the last one is kept.</source>
+        <translation>Die Einstellung %1 steht zweimal da; die letzte bleibt.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::SettingsWindow</name>
@@ -1545,10 +1553,6 @@
     <message>
         <source>Not everything can be saved.</source>
         <translation>Nicht alles lässt sich speichern.</translation>
-    </message>
-    <message>
-        <source>Save the rest</source>
-        <translation>Den Rest speichern</translation>
     </message>
     <message>
         <source>There are edits that are not saved.</source>
@@ -1783,6 +1787,10 @@ Mit den Beispieleinstellungen beginnen?</translation>
     <message>
         <source>The renderer reads nothing of this file: it is written as XML. Save as, in the menu File, writes the settings as the renderer reads them.</source>
         <translation>Das Druckprogramm liest nichts von dieser Datei: Sie ist in XML geschrieben. „Speichern unter“ im Menü „Datei“ schreibt die Einstellungen so, wie das Druckprogramm sie liest.</translation>
+    </message>
+    <message>
+        <source>The renderer reads nothing of this file: its first group is called %1, and not &quot;korvel&quot;.</source>
+        <translation>Das Druckprogramm liest nichts von dieser Datei: Ihre erste Gruppe heißt %1 und nicht &quot;korvel&quot;.</translation>
     </message>
 </context>
 <context>

@@ -1503,6 +1503,14 @@
         <source>The text at the end of the file is no setting.</source>
         <translation>El texto al final del archivo no es ningún ajuste.</translation>
     </message>
+    <message>
+        <source>The text %1 is no setting.</source>
+        <translation>El texto %1 no es un ajuste.</translation>
+    </message>
+    <message>
+        <source>The setting %1 stands twice; the last one is kept.</source>
+        <translation>El ajuste %1 aparece dos veces; se conserva el último.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::SettingsWindow</name>
@@ -1545,10 +1553,6 @@
     <message>
         <source>Not everything can be saved.</source>
         <translation>No se puede guardar todo.</translation>
-    </message>
-    <message>
-        <source>Save the rest</source>
-        <translation>Guardar el resto</translation>
     </message>
     <message>
         <source>There are edits that are not saved.</source>
@@ -1783,6 +1787,10 @@ Begin with the sample settings?</source>
     <message>
         <source>The renderer reads nothing of this file: it is written as XML. Save as, in the menu File, writes the settings as the renderer reads them.</source>
         <translation>El programa de impresión no lee nada de este archivo: está escrito en XML. «Guardar como», en el menú «Archivo», escribe los ajustes como el programa de impresión los lee.</translation>
+    </message>
+    <message>
+        <source>The renderer reads nothing of this file: its first group is called %1, and not &quot;korvel&quot;.</source>
+        <translation>El programa de impresión no lee nada de este archivo: su primer grupo se llama %1 y no &quot;korvel&quot;.</translation>
     </message>
 </context>
 <context>

@@ -1503,6 +1503,14 @@
         <source>The text at the end of the file is no setting.</source>
         <translation>Le texte à la fin du fichier n&apos;est pas un paramètre.</translation>
     </message>
+    <message>
+        <source>The text %1 is no setting.</source>
+        <translation>Le texte %1 n&apos;est pas un paramètre.</translation>
+    </message>
+    <message>
+        <source>The setting %1 stands twice; the last one is kept.</source>
+        <translation>Le paramètre %1 figure deux fois&#xa0;; le dernier est conservé.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::SettingsWindow</name>
@@ -1545,10 +1553,6 @@
     <message>
         <source>Not everything can be saved.</source>
         <translation>Tout ne peut pas être enregistré.</translation>
-    </message>
-    <message>
-        <source>Save the rest</source>
-        <translation>Enregistrer le reste</translation>
     </message>
     <message>
         <source>There are edits that are not saved.</source>
@@ -1783,6 +1787,10 @@ Commencer avec les paramètres d&apos;exemple&#xa0;?</translation>
     <message>
         <source>The renderer reads nothing of this file: it is written as XML. Save as, in the menu File, writes the settings as the renderer reads them.</source>
         <translation>Le programme d&apos;impression ne lit rien de ce fichier&#xa0;: il est écrit en XML. «&#xa0;Enregistrer sous&#xa0;», dans le menu «&#xa0;Fichier&#xa0;», écrit les réglages comme le programme d&apos;impression les lit.</translation>
+    </message>
+    <message>
+        <source>The renderer reads nothing of this file: its first group is called %1, and not &quot;korvel&quot;.</source>
+        <translation>Le programme d&apos;impression ne lit rien de ce fichier&#xa0;: son premier groupe s&apos;appelle %1 et non &quot;korvel&quot;.</translation>
     </message>
 </context>
 <context>

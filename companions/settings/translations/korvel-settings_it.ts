@@ -1503,6 +1503,14 @@
         <source>The text at the end of the file is no setting.</source>
         <translation>Il testo alla fine del file non è un&apos;impostazione.</translation>
     </message>
+    <message>
+        <source>The text %1 is no setting.</source>
+        <translation>Il testo %1 non è un&apos;impostazione.</translation>
+    </message>
+    <message>
+        <source>The setting %1 stands twice; the last one is kept.</source>
+        <translation>L&apos;impostazione %1 compare due volte; resta l&apos;ultima.</translation>
+    </message>
 </context>
 <context>
     <name>korvel::settings::SettingsWindow</name>
@@ -1545,10 +1553,6 @@
     <message>
         <source>Not everything can be saved.</source>
         <translation>Non è possibile salvare tutto.</translation>
-    </message>
-    <message>
-        <source>Save the rest</source>
-        <translation>Salva il resto</translation>
     </message>
     <message>
         <source>There are edits that are not saved.</source>
@@ -1783,6 +1787,10 @@ Iniziare con le impostazioni di esempio?</translation>
     <message>
         <source>The renderer reads nothing of this file: it is written as XML. Save as, in the menu File, writes the settings as the renderer reads them.</source>
         <translation>Il programma di stampa non legge nulla di questo file: è scritto in XML. «Salvare con nome», nel menu «File», scrive le impostazioni come il programma di stampa le legge.</translation>
+    </message>
+    <message>
+        <source>The renderer reads nothing of this file: its first group is called %1, and not &quot;korvel&quot;.</source>
+        <translation>Il programma di stampa non legge nulla di questo file: il suo primo gruppo si chiama %1 e non &quot;korvel&quot;.</translation>
     </message>
 </context>
 <context>
