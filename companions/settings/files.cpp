@@ -132,7 +132,7 @@ bool SettingsWindow::save()
     updateTitle();
     if (!losses.isEmpty())
         load(); // so that the tree shows what was kept
-    statusBar()->showMessage(tr("Saved: %1").arg(document->path()), messageTime);
+    say(tr("Saved: %1").arg(document->path()));
     return true;
 }
 
@@ -194,7 +194,7 @@ void SettingsWindow::exportPaper()
         error = tr("%1 cannot be written: %2").arg(path, file.errorString());
     tell(error);
     if (error.isEmpty())
-        statusBar()->showMessage(tr("Exported: %1").arg(path), messageTime);
+        say(tr("Exported: %1").arg(path));
 }
 
 /// Where the paper is to go, a PDF or a picture by the end of the name; empty for nowhere.
@@ -208,6 +208,9 @@ QString SettingsWindow::exportPath()
     });
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
+
+/// Says what was done, as long as it takes to read it.
+void SettingsWindow::say(const QString &text) { statusBar()->showMessage(text, messageTime); }
 
 /// Says what went wrong, if anything did. Names and values may hold what looks like markup.
 void SettingsWindow::tell(const QString &text)

@@ -12,6 +12,8 @@ namespace korvel::settings {
 
 void PaperPane::showDocument(const vocabulary::Method &method)
 {
+    if (!jobPath.isEmpty()) // what is wrong with that job stays with no document
+        emit found({});
     sampleMethod = shownMethod = &method;
     jobs->setCurrentIndex(0);
     jobPath.clear();

@@ -18,6 +18,7 @@
 #include <QListWidget>
 #include <QMimeData>
 #include <QScreen>
+#include <QSet>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -65,7 +66,7 @@ bool concerns(const hints::Hint &hint, const vocabulary::Method *method)
     if (!method)
         return true;
     const vocabulary::Setting *setting = vocabulary::findSetting(hint.setting.value(2));
-    return !setting || (setting->documents & method->document) != 0;
+    return !setting || vocabulary::isRead(*setting, method->document);
 }
 
 } // namespace
@@ -174,8 +175,7 @@ void SettingsWindow::connectPanes()
     connect(paper, &PaperPane::jobOpened, this, [this] { panes->bringToFront(paper); });
     connect(paper, &PaperPane::fileChosen, this, &SettingsWindow::openPath);
     connect(paper, &PaperPane::failed, this, &SettingsWindow::tell);
-    connect(paper, &PaperPane::said, this,
-            [this](const QString &text) { statusBar()->showMessage(text, 8000); });
+    connect(paper, &PaperPane::said, this, &SettingsWindow::say);
     connect(statusBar(), &QStatusBar::messageChanged, this, &SettingsWindow::showStatusBar);
 }
 
@@ -277,23 +277,23 @@ void SettingsWindow::noteOfPaper(const QStringList &texts)
 /// changed, or all with the language. That of the shown document is looked at anew.
 void SettingsWindow::forgetPapers()
 {
-    const auto valuesOfGroup = [](const Values &values, const QString &group) {
-        Values own;
-        for (auto value = values.begin(); value != values.end(); ++value) {
-            const QString its = value.key().value(1);
-            if (its == group || its == vocabulary::group::language)
-                own.insert(value.key(), value.value());
-        }
-        return own;
-    };
     const Values now = valuesOf(*state.view());
+    QSet<QString> changed; // groups
+    const auto noteChanges = [&](const Values &values, const Values &others) {
+        for (auto value = values.begin(); value != values.end(); ++value) {
+            const auto other = others.find(value.key());
+            if (other == others.end() || *other != *value)
+                changed.insert(value.key().value(1));
+        }
+    };
+    noteChanges(now, ofPaperBy);
+    noteChanges(ofPaperBy, now);
+    ofPaperBy = now;
+    const bool isOfAll = changed.contains(vocabulary::group::language);
     for (const vocabulary::Method &method : vocabulary::methods()) {
-        const QString group = method.group;
-        if (&method != paper->method()
-            && valuesOfGroup(now, group) != valuesOfGroup(ofPaperBy, group))
+        if (&method != paper->method() && (isOfAll || changed.contains(method.group)))
             ofPaper.remove(method.name);
     }
-    ofPaperBy = now;
 }
 
 void SettingsWindow::markDocuments()

@@ -89,6 +89,7 @@ private:
     bool mayDiscardEdits();
     void exportPaper();
     QString exportPath();
+    void say(const QString &text);
     void tell(const QString &text);
     bool ask(const QString &question, const QStringList &details, const QString &goOn);
     void offerSample();

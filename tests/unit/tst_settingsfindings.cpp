@@ -92,6 +92,37 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(editor.findings(), QStringList(), longEnough);
     }
 
+    /// Nothing of such a file is read, whatever stands in it.
+    void aFirstGroupOfAnotherName()
+    {
+        const TemporaryHome home("# of 1998\nkorvel: { receiptdoc: { paperWidth = 40; }; };");
+        const Editor editor(home.settingsPath());
+        const QString said = "The renderer reads nothing of this file: its first group is called "
+                             "\"# of 1998 korvel\", and not \"korvel\".";
+        QTRY_COMPARE_WITH_TIMEOUT(editor.findings().value(0), said, longEnough);
+        QVERIFY(!editor.findings().join('\n').contains("Paper width:"));
+        for (const QString title : {"Receipt", "Language"})
+            QVERIFY(editor.documents()
+                        ->findItems(title, Qt::MatchExactly)
+                        .constFirst()
+                        ->toolTip()
+                        .startsWith(said));
+    }
+
+    void aCatalogueThatIsNotThere()
+    {
+        const TemporaryHome home(
+            settingsFile("language: { basedir = \"/nowhere\"; file = \"/korvel_xx.qm\"; };"));
+        const Editor editor(home.settingsPath());
+        const QString said = "labels stay English: no catalogue is found as "
+                             "/nowhere/korvel_xx.qm.qm, /nowhere/korvel_xx.qm, /nowhere/korvel_xx, "
+                             "/nowhere/korvel.qm, /nowhere/korvel";
+        QTRY_VERIFY_WITH_TIMEOUT(editor.findings().join('\n').contains(said), longEnough);
+        const auto found = editor.documents()->findItems("Language", Qt::MatchExactly);
+        QCOMPARE(found.constFirst()->toolTip(), said);
+        QVERIFY(!found.constFirst()->icon().isNull());
+    }
+
     /// A section that is opened in front of the first line, and one behind lines.
     void aSectionThatIsNeverClosed()
     {

@@ -256,6 +256,36 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(noteOf("Receipt"), QString(), longEnough);
     }
 
+    /// Another document's settings say nothing about a paper, and a job that is left says nothing
+    /// about settings: 32 + 2 characters are wider than the paper of the summary receipt.
+    void aMarkStaysAsLongAsItIsTrue()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        const auto isMarked = [&](const QString &title) {
+            const auto found = editor.documents()->findItems(title, Qt::MatchExactly);
+            return !found.constFirst()->icon().isNull();
+        };
+        editor.choose("Summary receipt");
+        QTRY_VERIFY_WITH_TIMEOUT(isMarked("Summary receipt"), longEnough);
+        editor.choose("Kitchen order");
+        TRY_STREAM(editor, example("expected/kitchen-order.out"));
+        QVERIFY(isMarked("Summary receipt"));
+        editor.edit("doc.paperWidth", "31");
+        QTRY_VERIFY_WITH_TIMEOUT(editor.stream().join('\n').contains('(' + QString(31, '=') + ' '),
+                                 longEnough);
+        QVERIFY(isMarked("Summary receipt"));
+
+        const QString job = home.path() + "/own.xml";
+        writeFile(job, "<printjob><method name=\"printOrder\"/><nonsense/></printjob>");
+        answers.give({job});
+        editor.shortcut(Qt::Key_J);
+        QTRY_VERIFY_WITH_TIMEOUT(isMarked("Kitchen order"), longEnough);
+        editor.choose("Full order");
+        QTRY_VERIFY_WITH_TIMEOUT(!isMarked("Kitchen order"), longEnough);
+        QVERIFY(isMarked("Summary receipt"));
+    }
+
     void whatTheCheckerSaysOfAJob()
     {
         const TemporaryHome home(example("korvel.conf"));

@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QPushButton>
 #include <QSet>
+#include <QWheelEvent>
 
 namespace tst_settingsform {
 
@@ -344,6 +345,32 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(editor.stream().join("").contains("SUMME"), longEnough);
         undo(editor);
         TRY_STREAM(editor, example("expected/receipt.out"));
+        QVERIFY(!editor.window.isWindowModified());
+    }
+
+    /// Whoever scrolls the form has the focus somewhere, and the pointer anywhere.
+    void theWheelChangesNothing()
+    {
+        const TemporaryHome home(example("korvel.conf"));
+        Editor editor(home.settingsPath());
+        editor.showForm();
+        const auto turn = [](QWidget &field, int angle) {
+            QWheelEvent event(QPointF(5, 5), field.mapToGlobal(QPointF(5, 5)), {}, {0, angle},
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&field, &event);
+        };
+        QSpinBox *width = editor.number("receiptdoc.totalPriceFieldWidth");
+        width->setFocus();
+        turn(*width, 120);
+        QCOMPARE(width->value(), 8);
+        editor.choose("Language");
+        auto *file = editor.field<QComboBox>("language.file");
+        const int before = file->currentIndex();
+        file->setFocus();
+        for (const int angle : {120, -120}) { // one of them leads to another entry
+            turn(*file, angle);
+            QCOMPARE(file->currentIndex(), before);
+        }
         QVERIFY(!editor.window.isWindowModified());
     }
 
