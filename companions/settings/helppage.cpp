@@ -5,6 +5,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -56,6 +57,14 @@ QVariant HelpPage::loadResource(int /*type*/, const QUrl &name)
     QTextDocument page;
     page.setMarkdown(QString(text).remove(marks).replace(pictures, u"*\\1*"_s));
     return page.toHtml();
+}
+
+void HelpPage::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Cancel))
+        close();
+    else
+        QTextBrowser::keyPressEvent(event);
 }
 
 void HelpPage::follow(const QUrl &link)

@@ -8,7 +8,7 @@ namespace korvel::settings {
 /**
  * Shows the page on the settings. Its links lead to places in it, to the other pages, and to the
  * sample settings and jobs; what else they name is not opened. Alt and the arrow to the left leads
- * back.
+ * back, Escape closes it.
  */
 class HelpPage : public QTextBrowser
 {
@@ -18,6 +18,9 @@ public:
     explicit HelpPage(QWidget *parent = nullptr);
 
     QVariant loadResource(int type, const QUrl &name) override;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 
 signals:
     /// A link leads to what the program does not have.

@@ -5,6 +5,7 @@
 #include "support/test.h"
 
 #include <QDir>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -31,7 +32,9 @@ private slots:
         QVERIFY(page->toPlainText().contains("quantityFieldWidth"));
         QVERIFY(!page->toPlainText().contains("table: settings"));
         QCOMPARE(page->windowTitle(), QString("Help: The settings file"));
-        page->close();
+        const QPointer<QTextBrowser> help = page;
+        QTest::keyClick(page, Qt::Key_Escape);
+        QTRY_VERIFY(!help);
     }
 
     // By keyboard: Tab goes from link to link, Enter follows.
