@@ -51,12 +51,10 @@ function(korvel_compile_test_headers)
         <QProcess> <QRegularExpression> <QTemporaryDir> <algorithm> <memory> <vector>)
 endfunction()
 
-# With KORVEL_TESTS_AS_ONE a program's tests are compiled as one source: sooner where all are built,
-# later where one is changed.
-option(KORVEL_TESTS_AS_ONE "Compile the tests of a room as one source" OFF)
+# Where the tests of a room are compiled as one source, what one of them includes is no fault of the
+# next, nor is a test a header.
 add_library(korvel-tests-as-one INTERFACE)
-if(KORVEL_TESTS_AS_ONE)
-    # What one test includes is no fault of the next, nor is a test a header.
+if(CMAKE_UNITY_BUILD)
     target_compile_options(korvel-tests-as-one INTERFACE -Wno-shadow -Wno-subobject-linkage)
 endif()
 
@@ -65,9 +63,6 @@ function(korvel_add_tests room)
     set(program tst_${room})
     add_executable(${program} support/test.cpp)
     set_target_properties(${program} PROPERTIES AUTOMOC ON)
-    if(KORVEL_TESTS_AS_ONE)
-        set_target_properties(${program} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 0)
-    endif()
     target_include_directories(${program} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_compile_definitions(${program} PRIVATE
         KORVEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
