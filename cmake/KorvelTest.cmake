@@ -2,7 +2,7 @@
 #
 #   korvel_add_tests(room
 #       [LIBRARIES libraries...]         what the tests are of
-#       [PROGRAMS targets...]            programs that they run, in KORVEL_PRINT and so on
+#       [PROGRAMS targets...]            programs that they run, in support/built.h
 #       [TESTS names or files...]        unit/tst_<name>.cpp, or <folder>/tst_<name>.cpp
 #       [SLOW names or files...])        the same, of tests that take seconds
 #                                          builds one program, tst_<room>; each is a test of ctest
@@ -33,10 +33,10 @@ set(KORVEL_TEST_ENVIRONMENT
     HOME=${PROJECT_BINARY_DIR}/no-home
     QT_QPA_PLATFORM=offscreen)
 
-# Optimised is what is tested, not the test.
+# The toolkit's assertions hold in tests of a release, too.
 add_library(korvel-test-options INTERFACE)
 target_link_libraries(korvel-test-options INTERFACE korvel-warnings korvel-test-macros)
-target_compile_options(korvel-test-options INTERFACE $<IF:$<CONFIG:Release>,-O1,-O0>)
+target_compile_definitions(korvel-test-options INTERFACE QT_NO_DEBUG QT_FORCE_ASSERTS)
 add_library(korvel-test-macros INTERFACE) # whose options stand behind those of the warnings
 if(Qt6_VERSION VERSION_GREATER_EQUAL 6.7) # its macros convert what they count
     target_compile_options(korvel-test-macros INTERFACE -Wno-conversion)
@@ -46,6 +46,8 @@ endif()
 # all tests but those of windows, to which the toolkit's headers show more.
 function(korvel_compile_test_headers)
     add_library(korvel-test-headers OBJECT ${PROJECT_SOURCE_DIR}/tests/support/headers.cpp)
+    set_target_properties(korvel-test-headers PROPERTIES
+        QT_TESTCASE_BUILDDIR ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(korvel-test-headers PRIVATE Qt6::Test korvel-test-options)
     target_precompile_headers(korvel-test-headers PRIVATE <QtTest> <QDir> <QDirIterator> <QFile>
         <QProcess> <QRegularExpression> <QTemporaryDir> <algorithm> <memory> <vector>)
@@ -58,18 +60,39 @@ if(CMAKE_UNITY_BUILD)
     target_compile_options(korvel-tests-as-one INTERFACE -Wno-shadow -Wno-subobject-linkage)
 endif()
 
+# What of the tests differs from build to build.
+function(korvel_name_what_is_built)
+    add_library(korvel-built STATIC ${PROJECT_SOURCE_DIR}/tests/support/built.cpp)
+    target_include_directories(korvel-built PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(korvel-built PRIVATE Qt6::Core)
+    set(sanitized false)
+    if(KORVEL_SANITIZERS)
+        set(sanitized true)
+    endif()
+    target_compile_definitions(korvel-built PRIVATE
+        KORVEL_BINARY_DIR="${PROJECT_BINARY_DIR}"
+        KORVEL_SANITIZED=${sanitized})
+    foreach(target IN ITEMS jobtokorvel korvel-backend korvel-check korvel-deliver
+            korvel-failing-call korvel-journal korvel-preview korvel-print korvel-printer-sim
+            korvel-recode korvel-settings)
+        string(TOUPPER ${target} definition)
+        string(REPLACE - _ definition ${definition})
+        target_compile_definitions(korvel-built PRIVATE ${definition}="$<TARGET_FILE:${target}>")
+    endforeach()
+endfunction()
+
 function(korvel_add_tests room)
     cmake_parse_arguments(PARSE_ARGV 1 room "" "" "LIBRARIES;PROGRAMS;TESTS;SLOW")
     set(program tst_${room})
     add_executable(${program} support/test.cpp)
-    set_target_properties(${program} PROPERTIES AUTOMOC ON)
+    set_target_properties(${program} PROPERTIES
+        AUTOMOC ON QT_TESTCASE_BUILDDIR ${CMAKE_CURRENT_SOURCE_DIR}) # which none asks for
     target_include_directories(${program} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_compile_definitions(${program} PRIVATE
         KORVEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
-        KORVEL_BINARY_DIR="${PROJECT_BINARY_DIR}"
         KORVEL_VERSION="${PROJECT_VERSION}")
     target_link_libraries(${program} PRIVATE
-        Qt6::Test korvel-test-options ${room_LIBRARIES} korvel-tests-as-one)
+        Qt6::Test korvel-test-options ${room_LIBRARIES} korvel-built korvel-tests-as-one)
     if(NOT room_LIBRARIES MATCHES "korvel::(listview|picture|settings)")
         target_precompile_headers(${program} REUSE_FROM korvel-test-headers)
     endif()
@@ -77,12 +100,20 @@ function(korvel_add_tests room)
     if("korvel-print" IN_LIST room_PROGRAMS)
         add_dependencies(${program} korvel-translations)
     endif()
-    foreach(target IN LISTS room_PROGRAMS)
-        string(TOUPPER ${target} definition)
-        string(REPLACE - _ definition ${definition})
-        add_dependencies(${program} ${target})
-        target_compile_definitions(${program} PRIVATE ${definition}="$<TARGET_FILE:${target}>")
+    # What is tested is linked whole and first, so that functions of headers that the tests hold
+    # too, the toolkit's lists for one, are the tested library's.
+    set(tested "")
+    foreach(library IN LISTS room_LIBRARIES)
+        get_target_property(type ${library} TYPE)
+        if(type STREQUAL STATIC_LIBRARY)
+            list(APPEND tested $<TARGET_FILE:${library}>)
+        endif()
     endforeach()
+    target_link_options(${program} PRIVATE
+        LINKER:--whole-archive ${tested} LINKER:--no-whole-archive)
+    if(room_PROGRAMS)
+        add_dependencies(${program} ${room_PROGRAMS})
+    endif()
     foreach(test IN LISTS room_TESTS room_SLOW)
         get_filename_component(name ${test} NAME)
         get_filename_component(folder ${test} DIRECTORY)
@@ -92,11 +123,13 @@ function(korvel_add_tests room)
         target_sources(${program} PRIVATE ${folder}/tst_${name}.cpp)
         add_test(NAME ${name} COMMAND ${program} ${name})
         set(label quick)
-        if(test IN_LIST room_SLOW)
+        set(cost 0)
+        if(test IN_LIST room_SLOW) # these begin, so that none runs alone in the end
             set(label slow)
+            set(cost 1)
         endif()
         set_tests_properties(${name} PROPERTIES
-            ENVIRONMENT "${KORVEL_TEST_ENVIRONMENT}" LABELS ${label})
+            ENVIRONMENT "${KORVEL_TEST_ENVIRONMENT}" LABELS ${label} COST ${cost})
     endforeach()
 endfunction()
 

@@ -1,4 +1,5 @@
 // Whole jobs through the real program: each case folder and each example, compared byte by byte.
+#include "support/built.h"
 #include "support/bytes.h"
 #include "support/files.h"
 #include "support/methods.h"
@@ -88,7 +89,7 @@ private slots:
         for (int i = 0; i < 4 * jobs.size(); ++i) {
             QProcess &process = processes[size_t(i % sideBySide)];
             QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished());
-            process.start(KORVEL_PRINT,
+            process.start(built::print,
                           {jobs[i % jobs.size()], home.path() + QString("/%1.out").arg(i)});
         }
         for (QProcess &process : processes)

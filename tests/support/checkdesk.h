@@ -1,6 +1,7 @@
 // A desk at which korvel-check runs: jobs of each kind, settings, and what it says of them.
 #pragma once
 
+#include "support/built.h"
 #include "support/bytes.h"
 #include "support/files.h"
 #include "support/jsonschema.h"
@@ -26,7 +27,7 @@ inline void haveSettings()
 inline Run checker(const QStringList &arguments, const Surroundings &surroundings = {})
 {
     haveSettings();
-    return runProgram(KORVEL_CHECK, arguments, surroundings);
+    return runProgram(built::check, arguments, surroundings);
 }
 
 inline const QByteArray cleanJob = "<job><method name=\"printSold\"/></job>\n";

@@ -1,6 +1,7 @@
 // A cupsd of the test's own, with this system's driver in it, in a folder of its own.
 #pragma once
 
+#include "support/built.h"
 #include "support/bytes.h"
 #include "support/files.h"
 #include "support/loopback.h"
@@ -76,8 +77,8 @@ public:
         ::chmod(qPrintable(folder.path()), 0755);
         for (const auto &[from, to] : files()) {
             const QByteArray target = QFile::encodeName(path(to));
-            if (::link(from, target.constData()) != 0 && !QFile::copy(from, path(to)))
-                qFatal("%s is not there", from);
+            if (::link(qPrintable(from), target.constData()) != 0 && !QFile::copy(from, path(to)))
+                qFatal("%s is not there", qPrintable(from));
         }
         for (const char *name : {"daemon", "notifier"})
             QFile::link("/usr/lib/cups/" + QString(name), path("bin/" + QString(name)));
@@ -202,7 +203,7 @@ public:
 
     [[nodiscard]] Run journal(const QStringList &arguments) const
     {
-        return runProgram(KORVEL_JOURNAL, QStringList{"--journal", journalPath()} + arguments,
+        return runProgram(built::journal, QStringList{"--journal", journalPath()} + arguments,
                           {folder.path(), {}, {}});
     }
 
@@ -254,19 +255,19 @@ public:
     }
 
 private:
-    static QList<std::pair<const char *, QString>> files()
+    static QList<std::pair<QString, QString>> files()
     {
         return {
-            {KORVEL_PRINT, "bin/filter/korvel-print"},
-            {JOBTOKORVEL, "bin/filter/jobtokorvel"},
-            {KORVEL_BACKEND, "bin/backend/korvel"},
+            {built::print, "bin/filter/korvel-print"},
+            {built::filter, "bin/filter/jobtokorvel"},
+            {built::backend, "bin/backend/korvel"},
             {"/usr/lib/cups/backend/ipp", "bin/backend/ipp"},
             {"/usr/lib/cups/filter/gziptoany", "bin/filter/gziptoany"},
             {"/usr/share/cups/mime/mime.types", "data/mime/mime.types"},
             {"/usr/share/cups/mime/mime.convs", "data/mime/mime.convs"},
             {KORVEL_SOURCE_DIR "/companions/queue/korvel.types", "data/mime/korvel.types"},
             {KORVEL_SOURCE_DIR "/companions/queue/korvel.convs", "data/mime/korvel.convs"},
-            {KORVEL_BINARY_DIR "/companions/queue/korvel.ppd", "data/model/korvel.ppd"},
+            {built::path("/companions/queue/korvel.ppd"), "data/model/korvel.ppd"},
             {KORVEL_SOURCE_DIR "/examples/korvel.conf", "settings/korvel.conf"},
         };
     }

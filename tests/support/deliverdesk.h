@@ -1,6 +1,7 @@
 // Runs korvel-deliver as a till does, in a shop of its own.
 #pragma once
 
+#include "support/built.h"
 #include "support/bytes.h"
 #include "support/files.h"
 #include "support/program.h"
@@ -42,13 +43,13 @@ public:
     [[nodiscard]] Run runTo(const QString &device, const QStringList &arguments,
                             const QByteArray &input = {}) const
     {
-        return runProgram(KORVEL_DELIVER,
+        return runProgram(built::deliver,
                           QStringList{"--to", device, "--journal", path("journal.db")} + arguments,
                           {folder.path(), variables(), input});
     }
     [[nodiscard]] Run journal(const QStringList &arguments) const
     {
-        return runProgram(KORVEL_JOURNAL, QStringList{"--journal", path("journal.db")} + arguments,
+        return runProgram(built::journal, QStringList{"--journal", path("journal.db")} + arguments,
                           {folder.path(), variables(), {}});
     }
 

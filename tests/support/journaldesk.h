@@ -1,6 +1,7 @@
 // A desk at which korvel-journal runs on a journal of its own.
 #pragma once
 
+#include "support/built.h"
 #include "support/bytes.h"
 #include "support/journals.h"
 #include "support/program.h"
@@ -25,7 +26,7 @@ struct JournalDesk : JournalFolder
 {
     [[nodiscard]] Run run(const QStringList &arguments, const QStringList &variables = {}) const
     {
-        return runProgram(KORVEL_JOURNAL, QStringList{"--journal", path()} + arguments,
+        return runProgram(built::journal, QStringList{"--journal", path()} + arguments,
                           {filePath(""), QStringList{"TZ=UTC0"} + variables, {}});
     }
 };

@@ -1,6 +1,7 @@
 // Runs the renderer in surroundings that no shell would give it, and measures the run.
 #pragma once
 
+#include "support/built.h"
 #include "support/renderer.h"
 
 #include <QByteArrayList>
@@ -16,12 +17,6 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-#ifdef __SANITIZE_ADDRESS__
-inline constexpr bool sanitized = true;
-#else
-inline constexpr bool sanitized = false;
-#endif
 
 /// What a run left behind, and what it took.
 struct MeasuredRun : Run
@@ -85,7 +80,7 @@ inline QByteArray contentOf(int descriptor)
 inline MeasuredRun launch(const Launch &how)
 {
     QByteArrayList environment = launching::environmentWith(how.variables);
-    QByteArrayList arguments{KORVEL_PRINT};
+    QByteArrayList arguments{built::print};
     for (const QString &argument : how.arguments)
         arguments.append(QFile::encodeName(argument));
     const auto environmentPointers = launching::pointersTo(environment);
@@ -94,7 +89,7 @@ inline MeasuredRun launch(const Launch &how)
     const int out = memfd_create("standard-output", MFD_CLOEXEC);
     const int err = memfd_create("standard-error", MFD_CLOEXEC);
     const int in = open("/dev/null", O_RDONLY | O_CLOEXEC);
-    const int program = open(KORVEL_PRINT, O_PATH | O_CLOEXEC);
+    const int program = open(built::print, O_PATH | O_CLOEXEC);
 
     const pid_t child = fork();
     if (child == 0) {

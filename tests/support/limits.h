@@ -9,7 +9,7 @@
 #include <limits>
 
 // Sanitizers make long jobs slow.
-constexpr int slowness = sanitized ? 4 : 1;
+const int slowness = built::sanitized ? 4 : 1;
 
 constexpr int smallest = std::numeric_limits<int>::min();
 constexpr int largest = std::numeric_limits<int>::max();

@@ -1,6 +1,7 @@
 // Runs korvel-preview as a user does, on a stream that lies ready.
 #pragma once
 
+#include "support/built.h"
 #include "support/bytes.h"
 #include "support/files.h"
 #include "support/program.h"
@@ -16,7 +17,7 @@ inline const QString examples = KORVEL_SOURCE_DIR "/examples/expected/";
 
 inline Run preview(const QStringList &arguments, const Surroundings &surroundings = {})
 {
-    return runProgram(KORVEL_PREVIEW, arguments, surroundings);
+    return runProgram(built::preview, arguments, surroundings);
 }
 
 /// A folder in which a stream lies ready as "x.out".

@@ -1,6 +1,7 @@
 // Runs the renderer as a point of sale does.
 #pragma once
 
+#include "support/built.h"
 #include "support/bytes.h"
 #include "support/program.h"
 
@@ -9,7 +10,7 @@
 inline Run runRenderer(const QStringList &arguments, const QString &folder,
                        const QStringList &variables = {})
 {
-    return runProgram(KORVEL_PRINT, arguments, {folder, variables, {}});
+    return runProgram(built::print, arguments, {folder, variables, {}});
 }
 
 /// Fails the test unless the run ended as every run does: by itself, with status 0 and nothing on

@@ -3,6 +3,7 @@
 
 #include "companions/settings/paperview.h"
 #include "companions/settings/window.h"
+#include "support/built.h"
 #include "support/settingsfiles.h"
 #include "support/streams.h"
 #include "support/temporaryhome.h"
@@ -78,7 +79,7 @@ class Editor
 {
 public:
     /// @param named on the command line
-    explicit Editor(const QString &file, const QString &renderer = KORVEL_PRINT,
+    explicit Editor(const QString &file, const QString &renderer = built::print,
                     const QString &named = {})
         : window(file, renderer)
     {

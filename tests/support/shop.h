@@ -56,7 +56,7 @@ public:
     do {                                                                                           \
         VERIFY_SOUND(run);                                                                         \
         QCOMPARE(linesOf((run).standardOutput), QStringList());                                    \
-        if (!sanitized)                                                                            \
+        if (!built::sanitized)                                                                     \
             QVERIFY2((run).peakKilobytes < 300 * 1024,                                             \
                      qPrintable(QString::number((run).peakKilobytes) + " KB"));                    \
     } while (false)

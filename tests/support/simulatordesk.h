@@ -1,6 +1,7 @@
 // Runs korvel-printer-sim as a till's test does, and sends to it.
 #pragma once
 
+#include "support/built.h"
 #include "support/bytes.h"
 #include "support/files.h"
 #include "support/loopback.h"
@@ -34,7 +35,7 @@ class Simulator
 public:
     explicit Simulator(const QStringList &arguments)
     {
-        process.start(KORVEL_PRINTER_SIM, arguments);
+        process.start(built::printerSim, arguments);
         waitFor("listening");
     }
 

@@ -1,6 +1,7 @@
 // Runs a till of the examples in a shop of its own, with the simulator as its printer.
 #pragma once
 
+#include "support/built.h"
 #include "support/bytes.h"
 #include "support/files.h"
 #include "support/program.h"
@@ -72,7 +73,7 @@ public:
 
     [[nodiscard]] Run journal(const QStringList &arguments) const
     {
-        return runProgram(KORVEL_JOURNAL, arguments, {folder.path(), variables(), {}});
+        return runProgram(built::journal, arguments, {folder.path(), variables(), {}});
     }
 
     /// Puts a script in the place of korvel-deliver, or with none takes it away; REAL is the real
@@ -118,9 +119,9 @@ private:
     [[nodiscard]] QStringList variables() const
     {
         const QString own =
-            QFileInfo(KORVEL_DELIVER).path() + ':' + QString::fromLocal8Bit(qgetenv("PATH"));
+            QFileInfo(built::deliver).path() + ':' + QString::fromLocal8Bit(qgetenv("PATH"));
         return {"HOME=" + path("home"), "XDG_DATA_HOME", "PATH=" + programs.value_or(own),
-                "REAL=" KORVEL_DELIVER};
+                "REAL=" + QString(built::deliver)};
     }
 
     const TillProgram till;

@@ -2,6 +2,7 @@
 #include "companions/check/checks.h"
 #include "companions/check/settingsfile.h"
 #include "companions/preview/findings.h"
+#include "support/built.h"
 #include "support/capturedoutput.h"
 #include "support/files.h"
 #include "support/renderer.h"
@@ -18,7 +19,7 @@ namespace check = korvel::check;
 namespace preview = korvel::preview;
 
 const QString top = KORVEL_SOURCE_DIR "/";
-const QString catalogues = KORVEL_BINARY_DIR "/translations";
+const QString catalogues = built::path("/translations");
 
 /// The widths of what is wider than the paper, in the order of the stream.
 QStringList wideInStream(const QByteArray &stream)

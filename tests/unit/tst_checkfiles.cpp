@@ -1,4 +1,5 @@
 // The files of korvel-check: standard input, any names, and what cannot be read or written.
+#include "support/built.h"
 #include "support/bytenames.h"
 #include "support/checkdesk.h"
 #include "support/test.h"
@@ -113,7 +114,7 @@ private slots:
         const QByteArray path = folder + '/' + name;
         const QByteArray missing = "korvel-check: " + shown + ": No such file or directory\n";
         const auto run = [&](const QByteArrayList &arguments) {
-            return runWithBytes(KORVEL_CHECK, arguments, folder);
+            return runWithBytes(built::check, arguments, folder);
         };
 
         const Run missingJob = run({"--", name});

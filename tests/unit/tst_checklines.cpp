@@ -1,5 +1,6 @@
 // Findings are one line each, and nothing in them is obeyed by a terminal, whatever the input
 // holds.
+#include "support/built.h"
 #include "support/bytenames.h"
 #include "support/checkdesk.h"
 #include "support/test.h"
@@ -173,7 +174,7 @@ private slots:
         const QByteArray folder = desk.folder.path().toUtf8();
         writeNamed(folder + '/' + name, jobWithError);
         const auto run = [&](const QByteArrayList &arguments) {
-            return runWithBytes(KORVEL_CHECK, arguments, folder);
+            return runWithBytes(built::check, arguments, folder);
         };
         const Run text = run({name});
         VERIFY_ENDED(text, 1);

@@ -1,4 +1,5 @@
 // The reference page of korvel-check: its options, keys and statuses, and its example.
+#include "support/built.h"
 #include "support/checkdesk.h"
 #include "support/test.h"
 
@@ -128,7 +129,7 @@ private slots:
             writeFile(desk.path("clean.xml"), line.toUtf8() + '\n' + cleanJob);
             const Run run = desk.run({"--strict", "clean.xml"});
             VERIFY_ENDED(run, 0);
-            QCOMPARE(runProgram(KORVEL_PRINT, {"clean.xml", "x.out"},
+            QCOMPARE(runProgram(built::print, {"clean.xml", "x.out"},
                                 {desk.folder.path(), {"HOME=" + desk.folder.path()}, {}})
                          .status,
                      0);

@@ -1,4 +1,5 @@
 // The command line: argument counts, files that are missing or broken, environments.
+#include "support/built.h"
 #include "support/bytenames.h"
 #include "support/files.h"
 #include "support/renderer.h"
@@ -71,7 +72,7 @@ private slots:
         } else {
             QVERIFY(!QFile::exists(shop.path("stream.out")));
             QCOMPARE(linesOf(run.standardOutput),
-                     QStringList("Usage: " KORVEL_PRINT " input_file output_file\\n"));
+                     QStringList("Usage: " + QString(built::print) + " input_file output_file\\n"));
         }
     }
 
@@ -232,7 +233,7 @@ private slots:
         const QByteArray folder = shop.home.path().toUtf8();
         writeNamed(folder + '/' + name, sampleJob);
         for (const QByteArray &path : {name, folder + '/' + name}) {
-            const Run run = runWithBytes(KORVEL_PRINT, {path, "stream.out"}, folder);
+            const Run run = runWithBytes(built::print, {path, "stream.out"}, folder);
             VERIFY_SOUND(run);
             QCOMPARE(linesOf(run.standardOutput), QStringList());
             QCOMPARE(shop.output(), stream);
@@ -249,7 +250,7 @@ private slots:
         const Sweeper sweeper(shop.home.path());
         const QByteArray folder = shop.home.path().toUtf8();
         for (const QByteArray &path : {name, folder + '/' + name}) {
-            const Run run = runWithBytes(KORVEL_PRINT, {"job.xml", path}, folder);
+            const Run run = runWithBytes(built::print, {"job.xml", path}, folder);
             VERIFY_SOUND(run);
             QCOMPARE(linesOf(run.standardOutput), QStringList());
             QCOMPARE(linesOf(bytesNamed(folder + '/' + name)), stream);
@@ -266,7 +267,7 @@ private slots:
         const Shop shop;
         const Sweeper sweeper(shop.home.path());
         const QByteArray folder = shop.home.path().toUtf8();
-        const Run run = runWithBytes(KORVEL_PRINT, {"job.xml", name + "/stream.out"}, folder);
+        const Run run = runWithBytes(built::print, {"job.xml", name + "/stream.out"}, folder);
         VERIFY_SOUND(run);
         QCOMPARE(linesOf(run.standardOutput),
                  QStringList("PrintManager::printAbstractOrder(...): Unable To Open File\\n"));
@@ -282,7 +283,7 @@ private slots:
         const Sweeper sweeper(shop.home.path());
         const QByteArray folder = shop.home.path().toUtf8();
         const auto run = [&](const QByteArray &home) {
-            return runWithBytes(KORVEL_PRINT, {"job.xml", "stream.out"}, folder, home);
+            return runWithBytes(built::print, {"job.xml", "stream.out"}, folder, home);
         };
         const QByteArray home = folder + '/' + name;
         for (const QByteArray &path : {name, home}) {
@@ -317,7 +318,7 @@ private slots:
         const QByteArray folder = shop.home.path().toUtf8() + '/' + name;
         std::filesystem::create_directory(folder.toStdString());
         writeNamed(folder + "/:in", sampleJob);
-        const Run run = runWithBytes(KORVEL_PRINT, {":in", ":out"}, folder);
+        const Run run = runWithBytes(built::print, {":in", ":out"}, folder);
         VERIFY_SOUND(run);
         QCOMPARE(linesOf(run.standardOutput), QStringList());
         QCOMPARE(linesOf(bytesNamed(folder + "/:out")), stream);
@@ -374,7 +375,7 @@ private slots:
     void theRendererNeedsNoDisplayLibraries()
     {
         QProcess ldd;
-        ldd.start("ldd", {KORVEL_PRINT});
+        ldd.start("ldd", {built::print});
         QVERIFY(ldd.waitForFinished());
         const QByteArray libraries = ldd.readAllStandardOutput();
         QVERIFY(libraries.contains("libQt6Core.so"));

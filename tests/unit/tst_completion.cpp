@@ -1,5 +1,6 @@
 // The completion of bash: each program's options, and the words that they take, as its help has
 // them.
+#include "support/built.h"
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
 #include "support/test.h"
@@ -12,8 +13,8 @@ namespace tst_completion {
 
 // clang-format off
 const QStringList programs = {
-    KORVEL_CHECK, KORVEL_DELIVER,     KORVEL_JOURNAL, KORVEL_PREVIEW,
-    KORVEL_PRINT, KORVEL_PRINTER_SIM, KORVEL_RECODE,  KORVEL_SETTINGS,
+    built::check, built::deliver,     built::journal, built::preview,
+    built::print, built::printerSim, built::recode,  built::settings,
 };
 // clang-format on
 

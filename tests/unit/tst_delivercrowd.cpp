@@ -1,4 +1,5 @@
 // Many deliveries at once: to one printer, and of one document.
+#include "support/built.h"
 #include "support/deliverdesk.h"
 #include "support/printers.h"
 #include "support/test.h"
@@ -17,7 +18,7 @@ QList<int> deliverAtOnce(const DeliverDesk &desk, const QString &device, const Q
     for (const QString &id : ids) {
         all.push_back(std::make_unique<QProcess>());
         all.back()->setProcessEnvironment(environment);
-        all.back()->start(KORVEL_DELIVER, QStringList{"--to", device, "--journal",
+        all.back()->start(built::deliver, QStringList{"--to", device, "--journal",
                                                       desk.path("journal.db"), "--id", id}
                                               + options + QStringList{desk.path("receipt.xml")});
     }

@@ -1,4 +1,5 @@
 // The command line of korvel-deliver: what is wrong usage, and that it sends nothing.
+#include "support/built.h"
 #include "support/deliverdesk.h"
 #include "support/test.h"
 
@@ -52,7 +53,7 @@ private slots:
         QFETCH(QString, advice);
         const DeliverDesk desk;
         const Run run =
-            runProgram(KORVEL_DELIVER, arguments, {desk.path("."), desk.variables(), {}});
+            runProgram(built::deliver, arguments, {desk.path("."), desk.variables(), {}});
         VERIFY_DELIVERY(run, 2, advice.toUtf8());
         QVERIFY(run.standardError.startsWith("korvel-deliver: "));
         QVERIFY2(!QFile::exists(desk.path("home/.local")), "a journal for wrong usage");
@@ -61,7 +62,7 @@ private slots:
     void theJournalIsTheUsersUnlessNamed()
     {
         const DeliverDesk desk;
-        const Run run = runProgram(KORVEL_DELIVER, {"--to", desk.device(), "receipt.xml"},
+        const Run run = runProgram(built::deliver, {"--to", desk.device(), "receipt.xml"},
                                    {desk.path("."), desk.variables(), {}});
         VERIFY_DELIVERY(run, 0, "receipt.xml: sent to ");
         QVERIFY(QFile::exists(desk.path("home/.local/share/korvel-print/journal.db")));
@@ -91,7 +92,7 @@ private slots:
         QFETCH(QString, journal);
         const DeliverDesk desk;
         const Run run =
-            runProgram(KORVEL_DELIVER, {"--to", desk.device(), "--journal", journal, "receipt.xml"},
+            runProgram(built::deliver, {"--to", desk.device(), "--journal", journal, "receipt.xml"},
                        {desk.path("."), desk.variables(), {}});
         VERIFY_DELIVERY(run, 2, "korvel-deliver: ");
         QCOMPARE(desk.paper(), QByteArray());

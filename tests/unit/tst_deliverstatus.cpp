@@ -1,4 +1,5 @@
 // The exit statuses of korvel-deliver: what brings each, and what there is to do.
+#include "support/built.h"
 #include "support/deliverdesk.h"
 #include "support/printers.h"
 #include "support/test.h"
@@ -15,8 +16,8 @@ class OwnRenderer
 public:
     explicit OwnRenderer(const QByteArray &script)
     {
-        if (!QFile::copy(KORVEL_DELIVER, program()))
-            qFatal("no copy of %s", KORVEL_DELIVER);
+        if (!QFile::copy(built::deliver, program()))
+            qFatal("no copy of %s", built::deliver);
         const QString renderer = folder.filePath("korvel-print");
         writeFile(renderer, "#!/bin/sh\n" + script);
         QFile::setPermissions(renderer, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -193,7 +194,7 @@ private slots:
         static const QRegularExpression named("then run \"korvel-journal (.*) printed\"");
         const auto match = named.match(QString::fromUtf8(run.standardError));
         QVERIFY2(match.hasMatch(), run.standardError.constData());
-        const QString command = QString(KORVEL_JOURNAL) + ' ' + match.captured(1) + " printed";
+        const QString command = QString(built::journal) + ' ' + match.captured(1) + " printed";
         QCOMPARE(QProcess::execute("sh", {"-c", command}), 0);
         VERIFY_DELIVERY(desk.runTo(printer.device(), {"--id=" + id, "receipt.xml"}), 0, "already");
     }
@@ -206,7 +207,7 @@ private slots:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("HOME", desk.path("home"));
         process.setProcessEnvironment(environment);
-        process.start(KORVEL_DELIVER, {"--to", fifo, "--wait", "60", "--journal",
+        process.start(built::deliver, {"--to", fifo, "--wait", "60", "--journal",
                                        desk.path("journal.db"), desk.path("receipt.xml")});
         QVERIFY(!process.waitForFinished(1000));
         FifoPrinter printer(fifo);
@@ -222,7 +223,7 @@ private slots:
         Surroundings deaf{desk.path("."), desk.variables(), {}, "/dev/full"};
         const QStringList call = {"--to", desk.device(), "--journal",  desk.path("journal.db"),
                                   "--id", "a",           "receipt.xml"};
-        QCOMPARE(runProgram(KORVEL_DELIVER, call, deaf).status, 0);
+        QCOMPARE(runProgram(built::deliver, call, deaf).status, 0);
         QCOMPARE(desk.paper(), receipt());
     }
 };

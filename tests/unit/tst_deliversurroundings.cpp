@@ -1,4 +1,5 @@
 // korvel-deliver with less than it needs of the system: files, memory, signals, a home.
+#include "support/built.h"
 #include "support/deliverdesk.h"
 #include "support/test.h"
 
@@ -9,7 +10,7 @@ namespace tst_deliversurroundings {
 /// Runs it behind a command of the shell, with arguments behind the device and the journal.
 Run runBehind(const DeliverDesk &desk, const QString &command, const QStringList &arguments)
 {
-    const QStringList call = {KORVEL_DELIVER, "--to", desk.device(), "--journal",
+    const QStringList call = {built::deliver, "--to", desk.device(), "--journal",
                               desk.path("journal.db")};
     return runProgram("sh", QStringList{"-c", command + "; exec \"$@\"", "sh"} + call + arguments,
                       {desk.path("."), desk.variables(), {}});
@@ -19,13 +20,10 @@ Run runBehind(const DeliverDesk &desk, const QString &command, const QStringList
 /// it is told to give no more than so much at once, and to say so elsewhere.
 QString littleMemory(const DeliverDesk &desk)
 {
-#ifdef __SANITIZE_ADDRESS__
+    if (!built::sanitized)
+        return "ulimit -v 150000";
     return "export ASAN_OPTIONS=allocator_may_return_null=1:max_allocation_size_mb=40:log_path="
            + desk.path("asan");
-#else
-    Q_UNUSED(desk)
-    return "ulimit -v 150000";
-#endif
 }
 
 class TestDeliverSurroundings : public QObject
@@ -108,12 +106,12 @@ private slots:
         const Surroundings surroundings{desk.path("."), {home, "XDG_DATA_HOME"}, {}};
         const QByteArray advice = "set it, or name a file with --journal";
         const Run delivered =
-            runProgram(KORVEL_DELIVER, {"--to", desk.device(), "receipt.out"}, surroundings);
+            runProgram(built::deliver, {"--to", desk.device(), "receipt.out"}, surroundings);
         VERIFY_DELIVERY(delivered, 2, advice);
-        VERIFY_DELIVERY(runProgram(KORVEL_JOURNAL, {"list"}, surroundings), 2, advice);
+        VERIFY_DELIVERY(runProgram(built::journal, {"list"}, surroundings), 2, advice);
         QCOMPARE(desk.paper(), QByteArray());
         QVERIFY(!QFile::exists(desk.path("home/.local")));
-        VERIFY_DELIVERY(runProgram(KORVEL_DELIVER,
+        VERIFY_DELIVERY(runProgram(built::deliver,
                                    {"--to", desk.device(), "--journal", "j.db", "receipt.out"},
                                    surroundings),
                         0, "sent");

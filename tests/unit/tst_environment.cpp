@@ -9,7 +9,7 @@
 namespace tst_environment {
 
 // A sanitizer's frames are several times as large.
-constexpr rlim_t stackKilobyte = sanitized ? 4096 : 1024;
+const rlim_t stackKilobyte = built::sanitized ? 4096 : 1024;
 
 class TestEnvironment : public QObject
 {

@@ -1,4 +1,5 @@
 // Calls to the system and for memory that fail: what is printed is right as far as it goes.
+#include "support/built.h"
 #include "support/settingstext.h"
 #include "support/shop.h"
 #include "support/test.h"
@@ -13,15 +14,15 @@ const QByteArray stream =
     "=o\n" + ("=\"/(  2 X" + QByteArray(25, ' ') + " )\n").repeated(items) + "=o\n";
 
 constexpr int failingWriteCalls = 20;
-constexpr int stride = sanitized ? 4 : 1; // runs are slow there
+const int stride = built::sanitized ? 4 : 1; // runs are slow there
 
 Launch withFault(const QString &kind, int call)
 {
     Launch how;
-    how.variables = {"LD_PRELOAD=" KORVEL_FAILING_CALL, "KORVEL_FAULT_KIND=" + kind,
+    how.variables = {"LD_PRELOAD=" + QString(built::failingCall), "KORVEL_FAULT_KIND=" + kind,
                      "KORVEL_FAULT_CALL=" + QString::number(call)};
     // A sanitizer wants to be loaded first.
-    if (sanitized)
+    if (built::sanitized)
         how.variables.append("ASAN_OPTIONS=verify_asan_link_order=0");
     return how;
 }
@@ -30,7 +31,7 @@ Launch withFault(const QString &kind, int call)
 QByteArray germanSettings()
 {
     return bytesOf(KORVEL_SOURCE_DIR "/examples/korvel.conf")
-        .replace("basedir = \"\"", "basedir = \"" KORVEL_BINARY_DIR "/translations\"")
+        .replace("basedir = \"\"", "basedir = \"" + QByteArray(built::folder) + "/translations\"")
         .replace("file = \"\"", "file = \"/korvel_de.qm\"");
 }
 
@@ -125,7 +126,7 @@ private slots:
             for (const QString kind : {"EIO", "EIO-once", "EINTR-once", "EMFILE-once"})
                 QTest::addRow("%s: %s", qPrintable(function), qPrintable(kind)) << function << kind;
         }
-        if (!sanitized) { // whose memory is not the program's
+        if (!built::sanitized) { // whose memory is not the program's
             QTest::newRow("memory that is not there once") << "alloc"
                                                            << "ENOMEM-once";
             QTest::newRow("memory that is not there any more") << "alloc"
@@ -173,7 +174,7 @@ private slots:
     /// The memory for data ends in each phase of a run.
     void endOfMemory()
     {
-        if (sanitized)
+        if (built::sanitized)
             return; // whose memory is far beyond
         QFETCH(QByteArray, before);
         QFETCH(int, step);

@@ -1,4 +1,5 @@
 // What korvel-journal shows: lines, JSON, paper, contents, sums.
+#include "support/built.h"
 #include "support/journaldesk.h"
 #include "support/test.h"
 
@@ -202,7 +203,8 @@ private slots:
             journal.accept(id, {unfriendly, unfriendly, id, line, line, "utf-8"}, id, id);
             journal.change(id, State::Sending, "tcp://192.0.2.7:9100", id);
         }
-        const QString command = KORVEL_JOURNAL " --journal " + desk.path() + ' ' + arguments;
+        const QString command =
+            QString(built::journal) + " --journal " + desk.path() + ' ' + arguments;
         const Run run = runProgram("script", {"--quiet", "--command", command, "/dev/null"},
                                    {desk.filePath(""), {"ID=" + id}, {}});
         const QString shown = QString::fromUtf8(run.standardOutput).remove("\r\n");
@@ -340,7 +342,7 @@ private slots:
         const JournalDesk desk;
         desk.writer().accept("a", sampleContents("receipt"), till, {});
         const QString program = desk.filePath("korvel-journal");
-        QVERIFY(QFile::copy(KORVEL_JOURNAL, program));
+        QVERIFY(QFile::copy(built::journal, program));
         const Run run = runProgram(program, {"--journal", desk.path(), "replay"},
                                    {desk.filePath(""), {"PATH=/nowhere"}, {}});
         VERIFY_SAID(run, 2, QStringList(),
@@ -355,7 +357,7 @@ private slots:
         Journal journal = desk.writer();
         for (int i = 0; i < 40; ++i)
             journal.accept(QString::number(i), sampleContents("receipt"), till, {});
-        const QString command = KORVEL_JOURNAL " --journal " + desk.path() + " replay";
+        const QString command = QString(built::journal) + " --journal " + desk.path() + " replay";
         const Run run = runProgram("script", {"--quiet", "--command", command, "/dev/null"},
                                    {desk.filePath(""), {}, {}});
         static const QRegularExpression shown(

@@ -1,5 +1,6 @@
 // korvel-journal as a user meets it: arguments, options, exit statuses and errors.
 #include "delivery/lease.h"
+#include "support/built.h"
 #include "support/journaldesk.h"
 #include "support/ordinaryuser.h"
 #include "support/test.h"
@@ -214,7 +215,7 @@ private slots:
             Journal journal(folder + "/journal.db", Journal::Access::Write);
             deliver(journal, "mine", {});
         }
-        const Run run = runProgram(KORVEL_JOURNAL, {"list"},
+        const Run run = runProgram(built::journal, {"list"},
                                    {{}, {"XDG_DATA_HOME=" + desk.filePath("data")}, {}});
         QCOMPARE(shownLines(run.standardOutput),
                  QStringList("TIME  accepted     mine  tcp://192.0.2.7:9100"));
@@ -258,7 +259,7 @@ private slots:
             if (!becomeOrdinaryUser())
                 ::_exit(127);
         });
-        ordinary.start(KORVEL_JOURNAL, QStringList{"--journal", desk.path()} + arguments);
+        ordinary.start(built::journal, QStringList{"--journal", desk.path()} + arguments);
         const bool ended = ordinary.waitForFinished();
         desk.makeWritable();
         QVERIFY(ended);

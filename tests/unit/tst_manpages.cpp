@@ -1,4 +1,5 @@
 // The manual pages: their options and arguments are the programs' own, and their examples run.
+#include "support/built.h"
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
 #include "support/test.h"
@@ -21,14 +22,14 @@ struct Program
 
 // clang-format off
 const QList<Program> programs = {
-    {"korvel-check",       KORVEL_CHECK      },
-    {"korvel-deliver",     KORVEL_DELIVER    },
-    {"korvel-journal",     KORVEL_JOURNAL    },
-    {"korvel-preview",     KORVEL_PREVIEW    },
-    {"korvel-print",       KORVEL_PRINT      },
-    {"korvel-printer-sim", KORVEL_PRINTER_SIM},
-    {"korvel-recode",      KORVEL_RECODE     },
-    {"korvel-settings",    KORVEL_SETTINGS   },
+    {"korvel-check",       built::check      },
+    {"korvel-deliver",     built::deliver    },
+    {"korvel-journal",     built::journal    },
+    {"korvel-preview",     built::preview    },
+    {"korvel-print",       built::print      },
+    {"korvel-printer-sim", built::printerSim},
+    {"korvel-recode",      built::recode     },
+    {"korvel-settings",    built::settings   },
 };
 // clang-format on
 
@@ -251,8 +252,8 @@ private slots:
         QStringList said;
         if (name == renderer) {
             const QString usage = saidBy(name, {});
-            QVERIFY(usage.startsWith("Usage: " KORVEL_PRINT " "));
-            said = usage.section(KORVEL_PRINT, 1).simplified().split(' ');
+            QVERIFY(usage.startsWith("Usage: " + QString(built::print) + " "));
+            said = usage.section(built::print, 1).simplified().split(' ');
         } else {
             said = captured(helpBelow(saidBy(name, {"--help"}), "Arguments"), "^  (\\w+)");
             for (QString &argument : said)
@@ -299,7 +300,7 @@ private slots:
         const Run run = runRenderer({"job.xml", "."}, home.path());
         VERIFY_SOUND(run);
         const QString said = QString::fromUtf8(usage.standardOutput + run.standardOutput)
-                                 .replace(KORVEL_PRINT, renderer)
+                                 .replace(built::print, renderer)
                                  .replace(home.settingsPath(), "path")
                                  .trimmed();
         QCOMPARE(said.split('\n').size(), 4);
@@ -339,8 +340,7 @@ private slots:
         const QTemporaryDir installed;
         const Run install = runProgram(
             "cmake",
-            {"--install", KORVEL_BINARY_DIR, "--component", "print", "--prefix", installed.path()},
-            {});
+            {"--install", built::folder, "--component", "print", "--prefix", installed.path()}, {});
         QVERIFY2(install.status == 0, install.standardError.constData());
 
         // One folder and one HOME for all examples of a page: a later one may build on an earlier.

@@ -1,5 +1,6 @@
 // The commands of README and the pages of docs: each is run as it stands, or a row says why not.
 // Those of the manual pages are run by tst_manpages.
+#include "support/built.h"
 #include "support/pagecommands.h"
 #include "support/printers.h"
 #include "support/test.h"
@@ -115,8 +116,7 @@ private slots:
     {
         const Run install = runProgram(
             "cmake",
-            {"--install", KORVEL_BINARY_DIR, "--component", "print", "--prefix", installed.path()},
-            {});
+            {"--install", built::folder, "--component", "print", "--prefix", installed.path()}, {});
         QVERIFY2(install.status == 0, install.standardError.constData());
     }
 
@@ -257,8 +257,8 @@ private:
     static QStringList programs()
     {
         QStringList folders;
-        for (const char *program : {KORVEL_PRINT, KORVEL_PREVIEW, KORVEL_CHECK, KORVEL_RECODE,
-                                    KORVEL_PRINTER_SIM, KORVEL_DELIVER, KORVEL_JOURNAL})
+        for (const char *program : {built::print, built::preview, built::check, built::recode,
+                                    built::printerSim, built::deliver, built::journal})
             folders.append(QFileInfo(program).path());
         return folders;
     }

@@ -1,4 +1,5 @@
 // Streams as an 8-bit printer gets them: korvel-preview --charset.
+#include "support/built.h"
 #include "support/previewdesk.h"
 #include "support/streams.h"
 #include "support/test.h"
@@ -11,7 +12,7 @@ namespace tst_previewcharset {
 /// What korvel-recode makes of a stream.
 QByteArray recoded(const QString &path, const QString &charset)
 {
-    return runProgram(KORVEL_RECODE, {"--to", charset, path}, {}).standardOutput;
+    return runProgram(built::recode, {"--to", charset, path}, {}).standardOutput;
 }
 
 class TestPreviewCharset : public QObject

@@ -1,4 +1,5 @@
 // Jobs that korvel-preview shows: rendered by which settings, what is said of them, what it leaves.
+#include "support/built.h"
 #include "support/previewdesk.h"
 #include "support/schemajobs.h"
 #include "support/streams.h"
@@ -77,7 +78,7 @@ private slots:
         // The guard of a script lets each through.
         const Run guard = runProgram("sh",
                                      {"-c", "\"$0\" -q \"$1\" > /dev/null && cat \"$1\" > printed",
-                                      KORVEL_PREVIEW, expected},
+                                      built::preview, expected},
                                      {shop.folder.path(), shop.variables(), {}});
         VERIFY_ENDED(guard, 0);
         QCOMPARE(bytesOf(shop.path("printed")), bytesOf(expected));
@@ -205,14 +206,15 @@ private slots:
         const QStringList arguments = {"--ignore", "unknown-method,empty-stream", "job.xml"};
         const Run run = shop.run(arguments);
         VERIFY_ENDED(run, 1);
-        QVERIFY2(run.standardError.contains("job.xml: " KORVEL_PRINT
-                                            " says: File Format Not Supported\n"),
+        QVERIFY2(run.standardError.contains("job.xml: " + QByteArray(built::print)
+                                            + " says: File Format Not Supported\n"),
                  run.standardError.constData());
 
         const Run json = shop.run(QStringList{"--json", "-q"} + arguments);
         VERIFY_ENDED(json, 1);
         QCOMPARE(linesOf(json.standardOutput),
-                 QStringList("{\"said\":\"" KORVEL_PRINT " says: File Format Not Supported\"}\\n"));
+                 QStringList("{\"said\":\"" + QString(built::print)
+                             + " says: File Format Not Supported\"}\\n"));
         const Run checked = shop.run({"--json", "-q", "job.xml"});
         VERIFY_ENDED(checked, 1);
         QVERIFY2(!checked.standardOutput.contains("\"said\""), checked.standardOutput.constData());
@@ -265,7 +267,7 @@ private slots:
         // A copy of the program, beside it a renderer that hangs.
         const Shop shop;
         const QString program = shop.path("korvel-preview");
-        QVERIFY(QFile::copy(KORVEL_PREVIEW, program));
+        QVERIFY(QFile::copy(built::preview, program));
         writeFile(shop.path("korvel-print"),
                   "#!/bin/sh\necho $$ > " + shop.path("pid").toUtf8() + "\nexec sleep 600\n");
         QFile::setPermissions(shop.path("korvel-print"), QFile::Permissions(0x7700));

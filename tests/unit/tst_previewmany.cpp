@@ -1,4 +1,5 @@
 // Several jobs and streams, and folders of them, shown one after the other.
+#include "support/built.h"
 #include "support/previewdesk.h"
 #include "support/streams.h"
 #include "support/test.h"
@@ -118,7 +119,7 @@ private slots:
         const Day day;
         writeFile(day.path("empty.out"), "");
         const Run run = runProgram(
-            "sh", {"-c", "\"$0\" --columns=5 x.out empty.out day/9.out 2>&1", KORVEL_PREVIEW},
+            "sh", {"-c", "\"$0\" --columns=5 x.out empty.out day/9.out 2>&1", built::preview},
             {day.folder.path(), {}, {}});
         VERIFY_ENDED(run, 1);
         const QStringList lines = QString::fromUtf8(run.standardOutput).split('\n');

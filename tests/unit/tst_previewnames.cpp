@@ -1,4 +1,5 @@
 // Streams, pictures and folders of any names that korvel-preview is given.
+#include "support/built.h"
 #include "support/bytenames.h"
 #include "support/previewdesk.h"
 #include "support/streams.h"
@@ -20,14 +21,14 @@ private slots:
         const Desk desk("=x\n");
         const Sweeper sweeper(desk.folder.path());
         const QByteArray folder = desk.folder.path().toUtf8();
-        const Run missing = runWithBytes(KORVEL_PREVIEW, {"--", name}, folder);
+        const Run missing = runWithBytes(built::preview, {"--", name}, folder);
         VERIFY_TROUBLE(missing);
         QCOMPARE(missing.standardError,
                  "korvel-preview: " + shown + ": No such file or directory\n");
 
         std::filesystem::rename(desk.path("x.out").toStdString(),
                                 (folder + '/' + name).toStdString());
-        const Run run = runWithBytes(KORVEL_PREVIEW, {"--list", "--", name}, folder);
+        const Run run = runWithBytes(built::preview, {"--list", "--", name}, folder);
         VERIFY_ENDED(run, 1);
         QVERIFY2(run.standardError.startsWith(shown + ":1: byte 1: "),
                  run.standardError.constData());
@@ -45,7 +46,7 @@ private slots:
         const QByteArray folder = desk.folder.path().toUtf8();
         for (const QByteArray &path :
              {name + ".png", name + ".pdf", folder + '/' + name + ".PNG"}) {
-            const Run run = runWithBytes(KORVEL_PREVIEW, {"-o", path, "x.out"}, folder);
+            const Run run = runWithBytes(built::preview, {"-o", path, "x.out"}, folder);
             VERIFY_ENDED(run, 0);
             QCOMPARE(run.standardError, "");
         }
@@ -65,13 +66,13 @@ private slots:
         const Desk desk(documentOf("Ciao"));
         const Sweeper sweeper(desk.folder.path());
         const QByteArray folder = desk.folder.path().toUtf8();
-        const Run missing = runWithBytes(KORVEL_PREVIEW, {"-o", name + "/y.png", "x.out"}, folder);
+        const Run missing = runWithBytes(built::preview, {"-o", name + "/y.png", "x.out"}, folder);
         VERIFY_TROUBLE(missing);
         QCOMPARE(missing.standardError,
                  "korvel-preview: " + shown + "/y.png: No such file or directory\n");
 
         std::filesystem::create_directory((folder + '/' + name + ".png").toStdString());
-        const Run inFolder = runWithBytes(KORVEL_PREVIEW, {"-o", name + ".png", "x.out"}, folder);
+        const Run inFolder = runWithBytes(built::preview, {"-o", name + ".png", "x.out"}, folder);
         VERIFY_TROUBLE(inFolder);
         QCOMPARE(inFolder.standardError, "korvel-preview: " + shown + ".png: no regular file\n");
         QCOMPARE(namesIn(folder), sortedNames({"x.out", name + ".png"}));
@@ -86,7 +87,7 @@ private slots:
         const Sweeper sweeper(desk.folder.path());
         const QByteArray folder = desk.folder.path().toUtf8() + '/' + name;
         std::filesystem::create_directory(folder.toStdString());
-        VERIFY_ENDED(runWithBytes(KORVEL_PREVIEW, {"-o", "y.png", "../x.out"}, folder), 0);
+        VERIFY_ENDED(runWithBytes(built::preview, {"-o", "y.png", "../x.out"}, folder), 0);
         QCOMPARE(sizeOfPng(bytesNamed(folder + "/y.png")), QSize(464, 24 + 24 + 24));
         QCOMPARE(namesIn(folder), QByteArrayList{"y.png"});
         QCOMPARE(namesIn(desk.folder.path().toUtf8()), sortedNames({name, "x.out"}));
@@ -121,7 +122,7 @@ private slots:
         const Desk desk(documentOf("Ciao"));
         const QByteArray folder = desk.folder.path().toUtf8();
         for (const QByteArray &argument : QByteArrayList{"--b\xE8t", "--columns=\xFF", "-\x1b"}) {
-            const Run run = runWithBytes(KORVEL_PREVIEW, {argument, "x.out"}, folder);
+            const Run run = runWithBytes(built::preview, {argument, "x.out"}, folder);
             VERIFY_TROUBLE(run);
             QVERIFY(run.standardError.isValidUtf8());
             QVERIFY(!run.standardError.contains('\x1b'));

@@ -1,4 +1,5 @@
 // The pictures that korvel-preview writes into files.
+#include "support/built.h"
 #include "support/previewdesk.h"
 #include "support/streams.h"
 #include "support/test.h"
@@ -17,7 +18,7 @@ private slots:
         const Desk desk(documentOf("Ciao"));
         const auto run = [&](const QString &mask) {
             return runProgram(
-                "sh", {"-c", "umask " + mask + " && exec \"$0\" -o y.png x.out", KORVEL_PREVIEW},
+                "sh", {"-c", "umask " + mask + " && exec \"$0\" -o y.png x.out", built::preview},
                 {desk.folder.path(), {}, {}});
         };
         const auto permissions = [&] {

@@ -1,5 +1,6 @@
 // korvel-preview in terminals and other surroundings: colours, and nothing that a terminal would
 // obey.
+#include "support/built.h"
 #include "support/previewdesk.h"
 #include "support/streams.h"
 #include "support/test.h"
@@ -62,7 +63,7 @@ private slots:
         QVERIFY(!inPipe.standardOutput.contains('\033'));
 
         // script(1) runs a command in a terminal of its own.
-        const QString command = QString(KORVEL_PREVIEW " %1 '%2'").arg(option, stream);
+        const QString command = QString(QString(built::preview) + " %1 '%2'").arg(option, stream);
         const Run onTerminal =
             runProgram("script", {"--quiet", "--return", "--command", command, "/dev/null"},
                        {{}, variables, {}});

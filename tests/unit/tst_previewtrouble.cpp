@@ -1,4 +1,5 @@
 // What korvel-preview does where it can neither read nor write.
+#include "support/built.h"
 #include "support/previewdesk.h"
 #include "support/streams.h"
 #include "support/test.h"
@@ -55,7 +56,7 @@ private slots:
         const Desk desk(documentOf("Ciao"));
         const auto run = [&](const QString &closed, const QStringList &arguments) {
             return runProgram(
-                "sh", QStringList{"-c", "exec \"$0\" \"$@\" " + closed, KORVEL_PREVIEW} + arguments,
+                "sh", QStringList{"-c", "exec \"$0\" \"$@\" " + closed, built::preview} + arguments,
                 {desk.folder.path(), {}, {}});
         };
         VERIFY_TROUBLE(run("<&-", {"-"}));
@@ -77,8 +78,8 @@ private slots:
         QTest::addColumn<QString>("output");
         QTest::addColumn<QStringList>("variables");
         // A sanitizer wants to be loaded first.
-        const QStringList fullDisk = {"LD_PRELOAD=" KORVEL_FAILING_CALL, "KORVEL_FAULT_CALL=1",
-                                      "KORVEL_FAULT_KIND=ENOSPC",
+        const QStringList fullDisk = {"LD_PRELOAD=" + QString(built::failingCall),
+                                      "KORVEL_FAULT_CALL=1", "KORVEL_FAULT_KIND=ENOSPC",
                                       "ASAN_OPTIONS=verify_asan_link_order=0"};
 
         QTest::newRow("PNG, no such folder") << "missing/y.png" << QStringList();

@@ -3,6 +3,7 @@
 #include "companions/queue/document.h"
 #include "companions/queue/request.h"
 #include "companions/recode/codepage.h"
+#include "support/built.h"
 #include "support/cupsdesk.h"
 #include "support/queuedesk.h"
 #include "support/test.h"
@@ -42,18 +43,18 @@ public:
 
     [[nodiscard]] Run filter(const QStringList &files, const QByteArray &input = {}) const
     {
-        return runProgram(JOBTOKORVEL, arguments() + files,
+        return runProgram(built::filter, arguments() + files,
                           {folder.path(), variables("korvel://127.0.0.1:9"), input});
     }
     [[nodiscard]] Run backend(const QString &uri, const QByteArray &input,
                               const QString &copies = "1") const
     {
-        return runProgram(KORVEL_BACKEND, arguments(copies),
+        return runProgram(built::backend, arguments(copies),
                           {folder.path(), variables(uri), input});
     }
     [[nodiscard]] QByteArray journal(const QStringList &arguments) const
     {
-        return runProgram(KORVEL_JOURNAL, QStringList{"--journal", path("journal.db")} + arguments,
+        return runProgram(built::journal, QStringList{"--journal", path("journal.db")} + arguments,
                           {folder.path(), {}, {}})
             .standardOutput;
     }
@@ -99,7 +100,7 @@ private slots:
 
     void theBackendListsDevices()
     {
-        const Run run = runProgram(KORVEL_BACKEND, {}, {QDir::tempPath(), {}, {}});
+        const Run run = runProgram(built::backend, {}, {QDir::tempPath(), {}, {}});
         QCOMPARE(run.status, 0);
         const QStringList lines = QString::fromUtf8(run.standardOutput).trimmed().split('\n');
         QCOMPARE(lines.constFirst(),
@@ -150,7 +151,7 @@ private slots:
 
     void bothSayHowTheyAreCalled()
     {
-        for (const char *program : {JOBTOKORVEL, KORVEL_BACKEND}) {
+        for (const char *program : {built::filter, built::backend}) {
             const Run run = runProgram(program, {"7", "anna"}, {QDir::tempPath(), {}, {}});
             QVERIFY(run.status != 0);
             QCOMPARE(run.standardError,
@@ -232,13 +233,13 @@ private slots:
         const Driver driver;
         QStringList arguments = Driver::arguments();
         arguments[4] = "job-uuid=\"-it\\'s 118\"";
-        const Run run = runProgram(KORVEL_BACKEND, arguments,
+        const Run run = runProgram(built::backend, arguments,
                                    {driver.path(""), driver.variables(printer.uri()), receipt()});
         QCOMPARE(run.status, int(CUPS_BACKEND_HOLD));
         static const QRegularExpression form("run \"([^\"]+ printed)\" or ");
         const QString command = form.match(QString::fromUtf8(run.standardError)).captured(1);
         QVERIFY2(command.endsWith(" resolve -- '-it'\\''s 118' printed"), qPrintable(command));
-        const QString folder = QFileInfo(KORVEL_JOURNAL).path();
+        const QString folder = QFileInfo(built::journal).path();
         QCOMPARE(runProgram("/bin/sh", {"-c", command}, {folder, {"PATH=" + folder}, {}}).status,
                  0);
         QVERIFY(driver.journal({"list"}).contains("printed      -it's 118"));
@@ -253,7 +254,7 @@ private slots:
         for (const QString &variable : driver.variables(printer.uri()))
             environment.insert(variable.section('=', 0, 0), variable.section('=', 1));
         backend.setProcessEnvironment(environment);
-        backend.start(KORVEL_BACKEND, Driver::arguments());
+        backend.start(built::backend, Driver::arguments());
         backend.write(receipt());
         backend.closeWriteChannel();
         QByteArray said;
@@ -284,7 +285,7 @@ private slots:
     /// Each code page in the description of the printer is one that texts can be written in.
     void theDescriptionIsSound()
     {
-        const QString ppd = KORVEL_BINARY_DIR "/companions/queue/korvel.ppd";
+        const QString ppd = built::path("/companions/queue/korvel.ppd");
         int pages = 0;
         for (const QByteArray &line : bytesOf(ppd).split('\n')) {
             if (!line.startsWith("*charset "))
@@ -299,7 +300,7 @@ private slots:
         QVERIFY2(!test.isEmpty(), "cupstestppd is not there: install the package cups-client");
         const QTemporaryDir root;
         QDir(root.path()).mkpath("usr/lib/cups/filter");
-        QFile::copy(JOBTOKORVEL, root.filePath("usr/lib/cups/filter/jobtokorvel"));
+        QFile::copy(built::filter, root.filePath("usr/lib/cups/filter/jobtokorvel"));
         const Run run =
             runProgram(test, {"-R", root.path(), ppd}, {root.path(), {"LC_ALL=C.UTF-8"}, {}});
         QCOMPARE(run.standardOutput, ppd.toUtf8() + ": PASS\n");

@@ -1,4 +1,5 @@
 // Jobs printed by lp: what comes to the printer, and what is said of what does not.
+#include "support/built.h"
 #include "support/queuedesk.h"
 #include "support/test.h"
 
@@ -75,7 +76,7 @@ private slots:
     /// In Italian, by settings of this queue alone.
     void theQueueHasSettingsAndALanguage()
     {
-        QVERIFY(QFile::copy(KORVEL_BINARY_DIR "/translations/korvel_it.qm", desk->path("it.qm")));
+        QVERIFY(QFile::copy(built::path("/translations/korvel_it.qm"), desk->path("it.qm")));
         QByteArray settings = bytesOf(desk->path("settings/korvel.conf"));
         settings.replace("basedir = \"\"", "basedir = \"" + desk->path("").toUtf8() + '"');
         settings.replace("file = \"\"", "file = \"/it.qm\"");

@@ -1,4 +1,5 @@
 // A queue of which a part is killed: its backend, the delivery in it, its filter, the server.
+#include "support/built.h"
 #include "support/queuedesk.h"
 #include "support/test.h"
 
@@ -34,7 +35,7 @@ private:
     {
         QFile::remove(desk->path(renderer));
         if (script.isEmpty())
-            QFile::copy(KORVEL_PRINT, desk->path(renderer));
+            QFile::copy(built::print, desk->path(renderer));
         else
             writeFile(desk->path(renderer), script);
         ::chmod(qPrintable(desk->path(renderer)), 0755);

@@ -1,4 +1,5 @@
 // korvel-recode as a user starts it: streams, what is lost of them, wrong usage.
+#include "support/built.h"
 #include "support/bytes.h"
 #include "support/files.h"
 #include "support/program.h"
@@ -14,7 +15,7 @@ const QString expected = KORVEL_SOURCE_DIR "/examples/expected/";
 
 Run recode(const QStringList &arguments, const Surroundings &surroundings = {})
 {
-    return runProgram(KORVEL_RECODE, arguments, surroundings);
+    return runProgram(built::recode, arguments, surroundings);
 }
 
 /// A folder with a stream in it.

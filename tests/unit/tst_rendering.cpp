@@ -1,5 +1,6 @@
 // The renderer as a child process of the companions: what it wrote, and what fails.
 #include "companions/shared/rendering.h"
+#include "support/built.h"
 #include "support/settingsfiles.h"
 #include "support/settingstext.h"
 #include "support/temporaryhome.h"
@@ -37,7 +38,7 @@ private slots:
     {
         QFETCH(QString, name);
         const TemporaryHome home(settingsFile(documentGroup("receiptdoc", "paperWidth = 10;")));
-        Rendering rendering(KORVEL_PRINT);
+        Rendering rendering(built::print);
         QSignalSpy ended(&rendering, &Rendering::ended);
         rendering.render(example("jobs/" + name + ".xml"), example("korvel.conf"));
         QVERIFY(ended.wait(longEnough));
@@ -53,7 +54,7 @@ private slots:
             QStringList({".korvel"}));
 
         const Rendered waited =
-            rendered(example("jobs/" + name + ".xml"), example("korvel.conf"), KORVEL_PRINT);
+            rendered(example("jobs/" + name + ".xml"), example("korvel.conf"), built::print);
         QCOMPARE(waited.end, End::Complete);
         QCOMPARE(waited.stream, first(ended).stream);
     }
@@ -61,11 +62,12 @@ private slots:
     void theRendererIsHeard()
     {
         const QByteArray job = "<printjob><method name=\"printNothing\"/></printjob>";
-        const Rendered refused = rendered(job, {}, KORVEL_PRINT);
+        const Rendered refused = rendered(job, {}, built::print);
         QCOMPARE(refused.end, End::Refused);
         QVERIFY(refused.isThere());
         QCOMPARE(refused.said, QString("File Format Not Supported"));
-        QCOMPARE(refused.reason(), QString(KORVEL_PRINT " says: File Format Not Supported"));
+        QCOMPARE(refused.reason(),
+                 QString(QString(built::print) + " says: File Format Not Supported"));
     }
 
     /// A catalogue that the settings name by a relative path lies in the folder of this process.
@@ -73,7 +75,7 @@ private slots:
     {
         const QTemporaryDir folder;
         QVERIFY(QDir(folder.path()).mkdir("labels"));
-        QVERIFY(QFile::copy(KORVEL_BINARY_DIR "/translations/korvel_it.qm",
+        QVERIFY(QFile::copy(built::path("/translations/korvel_it.qm"),
                             folder.filePath("labels/korvel_it.qm")));
         const QByteArray settings = "korvel:\n{\n    language:\n    {\n"
                                     "        basedir = \"labels\";\n"
@@ -82,7 +84,7 @@ private slots:
         QVERIFY(QDir::setCurrent(folder.path()));
         const Rendered italian = rendered("<job><method name=\"printFullOrderReceipt\"/>"
                                           "<total price=\"1.00\"/></job>",
-                                          settings, KORVEL_PRINT);
+                                          settings, built::print);
         QVERIFY(QDir::setCurrent(before));
         QCOMPARE(italian.end, End::Complete);
         QVERIFY2(italian.stream.contains("T0TALE"), italian.stream.constData());
@@ -90,7 +92,7 @@ private slots:
 
     void theLatestRequestWins()
     {
-        Rendering rendering(KORVEL_PRINT);
+        Rendering rendering(built::print);
         QSignalSpy ended(&rendering, &Rendering::ended);
         for (const char *name : {"kitchen-order", "invoice", "statement", "sold-items"})
             rendering.render(example(QString("jobs/%1.xml").arg(name)), example("korvel.conf"));
@@ -103,7 +105,7 @@ private slots:
 
     void oneRunAfterTheOther()
     {
-        Rendering rendering(KORVEL_PRINT);
+        Rendering rendering(built::print);
         QSignalSpy ended(&rendering, &Rendering::ended);
         for (const char *name : {"receipt", "kitchen-order", "receipt"}) {
             rendering.render(example(QString("jobs/%1.xml").arg(name)), example("korvel.conf"));
@@ -191,7 +193,7 @@ private slots:
     {
         const QByteArray before = qgetenv("TMPDIR");
         qputenv("TMPDIR", "/proc");
-        const Rendered none = rendered("<job/>", {}, KORVEL_PRINT);
+        const Rendered none = rendered("<job/>", {}, built::print);
         before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
         QCOMPARE(none.end, End::NoRoom);
         QCOMPARE(none.reason(), QString("the folder for temporary files cannot be written: /proc"));
@@ -218,9 +220,8 @@ private slots:
     void aHangingRunGivesWayToTheNext()
     {
         const QTemporaryDir folder;
-        Rendering rendering(script(folder,
-                                   "grep -q hang \"$1\" && exec sleep 600\nexec " KORVEL_PRINT
-                                   " \"$1\" \"$2\"\n"));
+        Rendering rendering(script(folder, "grep -q hang \"$1\" && exec sleep 600\nexec "
+                                               + QByteArray(built::print) + " \"$1\" \"$2\"\n"));
         QSignalSpy ended(&rendering, &Rendering::ended);
         rendering.render("<hang/>", example("korvel.conf"));
         QTest::qWait(200);

@@ -1,6 +1,7 @@
 // Files around the settings editor: saved under another name, opened again, exported, jobs that are
 // dropped, temporary folders; and a task from its beginning to the file.
 #include "support/answers.h"
+#include "support/built.h"
 #include "support/settingseditor.h"
 #include "support/settingstext.h"
 #include "support/test.h"
@@ -156,7 +157,7 @@ private slots:
         environment.insert("XDG_RUNTIME_DIR", home.path()); // the toolkit's, not the editor's
         QProcess editor;
         editor.setProcessEnvironment(environment);
-        editor.start(KORVEL_SETTINGS, {});
+        editor.start(built::settings, {});
         QTRY_VERIFY_WITH_TIMEOUT(!temporary.isEmpty(), longEnough);
         QTest::qWait(500); // until the window is there
         QCOMPARE(kill(pid_t(editor.processId()), signal), 0);

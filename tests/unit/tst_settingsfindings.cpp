@@ -6,6 +6,7 @@
 #include "companions/preview/codes.h"
 #include "companions/settings/findingslist.h"
 #include "support/answers.h"
+#include "support/built.h"
 #include "support/settingseditor.h"
 #include "support/settingstext.h"
 #include "support/test.h"
@@ -41,7 +42,7 @@ class Language
 public:
     explicit Language(const QString &name)
     {
-        if (!catalogue.load("korvel-settings_" + name, KORVEL_BINARY_DIR "/companions/settings"))
+        if (!catalogue.load("korvel-settings_" + name, built::path("/companions/settings")))
             qFatal("no catalogue");
         QCoreApplication::installTranslator(&catalogue);
     }

@@ -1,6 +1,7 @@
 // The help of the settings editor: its page, and where the links of the page lead.
 #include "companions/settings/helppage.h"
 #include "support/answers.h"
+#include "support/built.h"
 #include "support/settingseditor.h"
 #include "support/test.h"
 
@@ -8,6 +9,7 @@
 #include <QPointer>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QSet>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTranslator>
@@ -68,20 +70,25 @@ private slots:
         page->close();
     }
 
-    // Whatever links between the pages, the help follows it to the place that is named.
+    // Whatever links between the pages, the help follows it to the place that is named: to each
+    // once from within its page, and once from another.
     void linksBetweenThePages_data()
     {
         QTest::addColumn<QString>("from");
         QTest::addColumn<QString>("link");
         const QDir docs(KORVEL_SOURCE_DIR "/docs");
         const QRegularExpression links(R"(\]\(([a-z0-9-]+\.md)?(#[a-z0-9-]+)?\))");
+        QSet<QString> places;
         for (const QString &name : docs.entryList({"*.md"}, QDir::Files)) {
             auto found = links.globalMatch(QString::fromUtf8(bytesOf(docs.filePath(name))));
             while (found.hasNext()) {
                 const auto match = found.next();
                 const QString link = match.captured(1) + match.captured(2);
-                if (!link.isEmpty())
-                    QTest::newRow(qPrintable(name + " " + link)) << name << link;
+                const QString place = match.captured(1).isEmpty() ? name + link : "to " + link;
+                if (link.isEmpty() || places.contains(place))
+                    continue;
+                places.insert(place);
+                QTest::newRow(qPrintable(name + " " + link)) << name << link;
             }
         }
     }
@@ -133,7 +140,7 @@ private slots:
     void theLanguageOfThePages()
     {
         QTranslator german;
-        QVERIFY(german.load("korvel-settings_de", KORVEL_BINARY_DIR "/companions/settings"));
+        QVERIFY(german.load("korvel-settings_de", built::path("/companions/settings")));
         QCoreApplication::installTranslator(&german);
         const TemporaryHome home(example("korvel.conf"));
         Editor editor(home.settingsPath());

@@ -2,6 +2,7 @@
 // gone.
 #include "companions/settings/jobs.h"
 #include "support/answers.h"
+#include "support/built.h"
 #include "support/settingseditor.h"
 #include "support/settingstext.h"
 #include "support/test.h"
@@ -87,7 +88,7 @@ private slots:
     void aJobIsNamed()
     {
         const TemporaryHome home(example("korvel.conf"));
-        const Editor editor(home.settingsPath(), KORVEL_PRINT, invoice);
+        const Editor editor(home.settingsPath(), built::print, invoice);
         TRY_STREAM(editor, example("expected/invoice.out"));
         QCOMPARE(editor.jobs()->currentText(), QString("invoice.xml"));
         QVERIFY(editor.window.windowTitle().startsWith("korvel.conf"));
@@ -99,7 +100,7 @@ private slots:
         const TemporaryHome home(example("korvel.conf"));
         const QString other = home.path() + "/other.conf";
         writeFile(other, sampleOf40());
-        const Editor editor(home.settingsPath(), KORVEL_PRINT, other);
+        const Editor editor(home.settingsPath(), built::print, other);
         QVERIFY(editor.window.windowTitle().startsWith("other.conf"));
         QTRY_COMPARE_WITH_TIMEOUT(editor.stream(), receiptOf40(), longEnough);
     }
@@ -109,7 +110,7 @@ private slots:
         const TemporaryHome home(example("korvel.conf"));
         const QString other = home.path() + "/other.conf";
         answers.give({"Yes"});
-        const Editor editor(home.settingsPath(), KORVEL_PRINT, other);
+        const Editor editor(home.settingsPath(), built::print, other);
         QVERIFY2(answers.seen[0].text.contains(other), qPrintable(answers.seen[0].text));
         QCOMPARE(bytesOf(other), example("korvel.conf"));
         QVERIFY(editor.window.windowTitle().startsWith("other.conf"));
@@ -149,7 +150,7 @@ private slots:
         const QString letter = home.path() + "/letter.txt";
         writeFile(letter, "Dear shop,\n");
         answers.give({Answers::enter});
-        const Editor editor(home.settingsPath(), KORVEL_PRINT, letter);
+        const Editor editor(home.settingsPath(), built::print, letter);
         QVERIFY(answers.seen[0].text.startsWith(letter + " is neither settings nor a job."));
         QVERIFY(editor.window.windowTitle().startsWith("korvel.conf"));
         TRY_STREAM(editor, example("expected/receipt.out"));

@@ -1,5 +1,6 @@
 // Settings files that cannot be read or written, with names of any kind, on a full disk.
 #include "companions/settings/document.h"
+#include "support/built.h"
 #include "support/bytenames.h"
 #include "support/ordinaryuser.h"
 #include "support/settingsfiles.h"
@@ -200,7 +201,7 @@ private slots:
         QFETCH(QByteArray, home);
         QFETCH(QByteArray, said);
         const QTemporaryDir folder;
-        const Run run = runWithBytes(KORVEL_SETTINGS, arguments, folder.path().toUtf8(), home);
+        const Run run = runWithBytes(built::settings, arguments, folder.path().toUtf8(), home);
         QVERIFY(run.exited);
         QCOMPARE(run.status, 2);
         QCOMPARE(run.standardOutput, QByteArray());

@@ -2,6 +2,7 @@
 #include "companions/preview/picture.h"
 #include "printer/company/commands.h"
 #include "support/answers.h"
+#include "support/built.h"
 #include "support/settingseditor.h"
 #include "support/test.h"
 
@@ -260,7 +261,8 @@ private slots:
         const TemporaryHome home(example("korvel.conf"));
         Editor editor(home.settingsPath(),
                       script(folder, "grep -q 'paperWidth = \"13\"' ~/.korvel/conf/korvel.conf"
-                                     " && exit 1\nexec " KORVEL_PRINT " \"$1\" \"$2\"\n"));
+                                     " && exit 1\nexec "
+                                         + QByteArray(built::print) + " \"$1\" \"$2\"\n"));
         TRY_STREAM(editor, example("expected/receipt.out"));
         const QImage before = lookOf(*editor.paper());
         editor.edit("receiptdoc.paperWidth", "13");
@@ -278,7 +280,8 @@ private slots:
         const TemporaryHome home(example("korvel.conf"));
         Editor editor(home.settingsPath(),
                       script(folder, "grep -q 'paperWidth = \"40\"' ~/.korvel/conf/korvel.conf"
-                                     " || exec sleep 600\nexec " KORVEL_PRINT " \"$1\" \"$2\"\n"));
+                                     " || exec sleep 600\nexec "
+                                         + QByteArray(built::print) + " \"$1\" \"$2\"\n"));
         QTest::qWait(200);
         editor.edit("receiptdoc.printCompany", "false");
         QTest::qWait(200);

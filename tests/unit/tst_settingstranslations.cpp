@@ -1,6 +1,7 @@
 // The catalogues of the settings editor: whole, and true to the texts that they translate.
 #include "companions/check/vocabulary.h"
 #include "companions/settings/window.h"
+#include "support/built.h"
 #include "support/test.h"
 
 #include <QDir>
@@ -18,7 +19,7 @@ namespace tst_settingstranslations {
 using namespace korvel::settings;
 
 const QString sources = KORVEL_SOURCE_DIR "/companions/settings/translations";
-const QString compiled = KORVEL_BINARY_DIR "/companions/settings";
+const QString compiled = built::path("/companions/settings");
 const QStringList languages = {"de", "es", "fr", "it"};
 
 QString nameOf(const QString &language) { return "korvel-settings_" + language; }

@@ -2,6 +2,7 @@
 // it does not list or light.
 #include "companions/settings/adddialog.h"
 #include "support/answers.h"
+#include "support/built.h"
 #include "support/settingseditor.h"
 #include "support/settingstext.h"
 #include "support/test.h"
@@ -104,7 +105,7 @@ private slots:
     void buttonsInGerman()
     {
         QTranslator german;
-        QVERIFY(german.load("korvel-settings_de", KORVEL_BINARY_DIR "/companions/settings"));
+        QVERIFY(german.load("korvel-settings_de", built::path("/companions/settings")));
         QCoreApplication::installTranslator(&german);
         const TemporaryHome home(example("korvel.conf"));
         Editor editor(home.settingsPath());

@@ -1,4 +1,5 @@
 // How korvel-printer-sim begins and ends.
+#include "support/built.h"
 #include "support/simulatordesk.h"
 #include "support/test.h"
 
@@ -9,7 +10,7 @@ const QString notice =
 
 Run simulate(const QStringList &arguments, const Surroundings &surroundings = {})
 {
-    return runProgram(KORVEL_PRINTER_SIM, arguments, surroundings);
+    return runProgram(built::printerSim, arguments, surroundings);
 }
 
 /// Fails the test unless a run took nothing and said in one line why.

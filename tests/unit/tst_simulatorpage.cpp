@@ -1,4 +1,5 @@
 // The simulator's page: its course, options, faults and keys are those of the program.
+#include "support/built.h"
 #include "support/names.h"
 #include "support/simulatordesk.h"
 #include "support/test.h"
@@ -44,7 +45,7 @@ private slots:
 
     void pageNamesTheOptions()
     {
-        const Run run = runProgram(KORVEL_PRINTER_SIM, {"--help"}, {});
+        const Run run = runProgram(built::printerSim, {"--help"}, {});
         const char *const option = "(?:^|[ `])(--[a-z][a-z-]*)";
         Names names;
         for (const QStringList &row : rowsBelow("Options"))
@@ -56,7 +57,7 @@ private slots:
 
     void pageNamesTheFaults()
     {
-        const Run run = runProgram(KORVEL_PRINTER_SIM, {"--fault=?"}, {});
+        const Run run = runProgram(built::printerSim, {"--fault=?"}, {});
         QCOMPARE(run.status, 2);
         QStringList faults;
         for (const QStringList &row : rowsBelow("Faults"))

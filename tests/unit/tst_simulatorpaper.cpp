@@ -1,4 +1,5 @@
 // The documents that korvel-printer-sim keeps, and their code page.
+#include "support/built.h"
 #include "support/simulatordesk.h"
 #include "support/test.h"
 
@@ -53,7 +54,7 @@ private slots:
             const QString name = QString::number(i + 1).rightJustified(4, '0');
             names << name + ".out" << name + ".txt";
             QCOMPARE(linesOf(bytesOf(paper + '/' + name + ".out")), linesOf(bytesOf(streams[i])));
-            const Run preview = runProgram(KORVEL_PREVIEW, {streams[i]}, {});
+            const Run preview = runProgram(built::preview, {streams[i]}, {});
             QCOMPARE(linesOf(bytesOf(paper + '/' + name + ".txt")),
                      linesOf(preview.standardOutput));
         }

@@ -1,5 +1,6 @@
 // The catalogues: found by both name rules, printed by the real program, and fit for their columns.
 #include "config/config.h"
+#include "support/built.h"
 #include "support/renderer.h"
 #include "support/temporaryhome.h"
 #include "support/test.h"
@@ -9,7 +10,7 @@
 
 namespace tst_translations {
 
-const QString catalogues = KORVEL_BINARY_DIR "/translations";
+const QString catalogues = built::path("/translations");
 const QStringList languages = {"de", "es", "fr", "it"};
 
 constexpr auto job = R"(<job>
@@ -221,7 +222,7 @@ private slots:
         const QTemporaryDir prefix;
         QProcess install;
         install.setStandardErrorFile(QProcess::nullDevice());
-        install.start("cmake", {"--install", KORVEL_BINARY_DIR, "--prefix", prefix.path()});
+        install.start("cmake", {"--install", built::folder, "--prefix", prefix.path()});
         QVERIFY(install.waitForFinished());
         QCOMPARE(install.exitCode(), 0);
         QVERIFY(QFile::exists(prefix.path() + "/bin/korvel-print"));
