@@ -27,6 +27,11 @@ add_custom_command(
 add_custom_target(korvel-test-locale ALL
     DEPENDS ${KORVEL_TEST_LOCALES}/${KORVEL_TEST_LOCALE}/LC_NUMERIC)
 
+# What moc makes of the tests. It is told where our headers are, whose macros may hold slots, and
+# not where the toolkit's are: reading them would be nearly all of its work.
+set(KORVEL_TEST_MOCS ${PROJECT_BINARY_DIR}/tests/mocs)
+file(MAKE_DIRECTORY ${KORVEL_TEST_MOCS})
+
 set(KORVEL_TEST_ENVIRONMENT
     LC_ALL=${KORVEL_TEST_LOCALE}
     LOCPATH=${KORVEL_TEST_LOCALES}
@@ -83,11 +88,14 @@ endfunction()
 
 function(korvel_add_tests room)
     cmake_parse_arguments(PARSE_ARGV 1 room "" "" "LIBRARIES;PROGRAMS;TESTS;SLOW")
+    if(NOT TARGET korvel-test-mocs)
+        add_custom_target(korvel-test-mocs)
+    endif()
     set(program tst_${room})
     add_executable(${program} support/test.cpp)
     set_target_properties(${program} PROPERTIES
-        AUTOMOC ON QT_TESTCASE_BUILDDIR ${CMAKE_CURRENT_SOURCE_DIR}) # which none asks for
-    target_include_directories(${program} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+        QT_TESTCASE_BUILDDIR ${CMAKE_CURRENT_SOURCE_DIR}) # which none asks for
+    target_include_directories(${program} PRIVATE ${PROJECT_SOURCE_DIR}/tests ${KORVEL_TEST_MOCS})
     target_compile_definitions(${program} PRIVATE
         KORVEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
         KORVEL_VERSION="${PROJECT_VERSION}")
@@ -120,7 +128,16 @@ function(korvel_add_tests room)
         if(NOT folder)
             set(folder unit)
         endif()
-        target_sources(${program} PRIVATE ${folder}/tst_${name}.cpp)
+        set(moc ${KORVEL_TEST_MOCS}/tst_${name}.moc)
+        add_custom_command(OUTPUT ${moc}
+            COMMAND Qt6::moc -I ${PROJECT_SOURCE_DIR} -I ${PROJECT_SOURCE_DIR}/tests
+                --output-dep-file --dep-file-path ${moc}.d -o ${moc}
+                ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/tst_${name}.cpp
+            DEPENDS ${folder}/tst_${name}.cpp
+            DEPFILE ${moc}.d
+            VERBATIM)
+        set_property(TARGET korvel-test-mocs APPEND PROPERTY SOURCES ${moc})
+        target_sources(${program} PRIVATE ${folder}/tst_${name}.cpp ${moc})
         add_test(NAME ${name} COMMAND ${program} ${name})
         set(label quick)
         set(cost 0)
@@ -145,7 +162,7 @@ function(korvel_add_fuzz_target name)
     endif()
     foreach(executable IN LISTS executables)
         target_include_directories(${executable} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-        target_link_libraries(${executable} PRIVATE korvel-warnings ${ARGN})
+        target_link_libraries(${executable} PRIVATE korvel-test-options ${ARGN})
         add_dependencies(${executable} korvel-test-locale)
     endforeach()
     add_test(NAME fuzz-${name}

@@ -2,6 +2,7 @@
 #include "companions/paper/decoder.h"
 #include "companions/recode/codepage.h"
 #include "companions/recode/substitutes.h"
+#include "support/built.h"
 #include "support/streams.h"
 #include "support/test.h"
 
@@ -29,7 +30,8 @@ QByteArrayList names()
     return all;
 }
 
-/// The code pages among them, each once, without UTF-8.
+/// The code pages among them, each once, without UTF-8; under the sanitizers, which see the same
+/// steps in each, every fourth.
 const QList<CodePage> &pages()
 {
     static const QList<CodePage> all = [] {
@@ -43,7 +45,8 @@ const QList<CodePage> &pages()
             if (!page || page->isUnicode() || seen.contains(page->decode(everyByte)))
                 continue;
             seen.insert(page->decode(everyByte));
-            found.append(*page);
+            if (!built::sanitized || seen.size() % 4 == 0)
+                found.append(*page);
         }
         return found;
     }();
@@ -119,7 +122,7 @@ class TestRecodePages : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QVERIFY(pages().size() > 40); }
+    void initTestCase() { QVERIFY(pages().size() > (built::sanitized ? 15 : 40)); }
 
     /// One byte for each UTF-16 unit; what is not lost comes back whole, what is lost comes back as
     /// its substitute.
