@@ -37,6 +37,10 @@ set(KORVEL_TEST_ENVIRONMENT
     LOCPATH=${KORVEL_TEST_LOCALES}
     HOME=${PROJECT_BINARY_DIR}/no-home
     QT_QPA_PLATFORM=offscreen)
+if(KORVEL_SANITIZERS)
+    # Most programs run for some milliseconds: of what they free, less is kept to be watched.
+    list(APPEND KORVEL_TEST_ENVIRONMENT ASAN_OPTIONS=malloc_context_size=8:quarantine_size_mb=32)
+endif()
 
 # The toolkit's assertions hold in tests of a release, too.
 add_library(korvel-test-options INTERFACE)
