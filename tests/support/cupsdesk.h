@@ -77,7 +77,7 @@ public:
         ::chmod(qPrintable(folder.path()), 0755);
         for (const auto &[from, to] : files()) {
             const QByteArray target = QFile::encodeName(path(to));
-            if (::link(qPrintable(from), target.constData()) != 0 && !QFile::copy(from, path(to)))
+            if (::link(QFile::encodeName(from), target) != 0 && !QFile::copy(from, path(to)))
                 qFatal("%s is not there", qPrintable(from));
         }
         for (const char *name : {"daemon", "notifier"})

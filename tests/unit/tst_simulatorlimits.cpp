@@ -56,8 +56,6 @@ private slots:
     {
         QFETCH(QByteArray, pattern);
         QFETCH(qsizetype, size);
-        if (built::sanitized) // whose memory is not the program's
-            size /= 8;
         Simulator simulator({anyPort});
         const QByteArray bytes = pattern.repeated(size / pattern.size());
         send(simulator, "=o\n" + bytes + "\n=o\n" + documentOf("last"));
