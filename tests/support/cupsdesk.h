@@ -4,7 +4,7 @@
 #include "support/built.h"
 #include "support/bytes.h"
 #include "support/files.h"
-#include "support/loopback.h"
+#include "support/keptport.h"
 #include "support/program.h"
 
 #include <QDeadlineTimer>
@@ -42,17 +42,6 @@ inline bool waitUntil(const std::function<bool()> &holds)
     return true;
 }
 
-/// A port of the loopback that nobody has.
-inline quint16 freePort()
-{
-    const int descriptor = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const in_port_t port = bindToLoopback(descriptor);
-    if (port == 0)
-        qFatal("no free port");
-    ::close(descriptor);
-    return port;
-}
-
 /// What CUPS says of a job.
 struct JobState
 {
@@ -68,7 +57,6 @@ class CupsDesk
 {
 public:
     CupsDesk()
-        : port(freePort())
     {
         for (const char *name :
              {"root/ppd", "bin/backend", "bin/filter", "data/mime", "data/model", "cache",
@@ -109,7 +97,7 @@ public:
     [[nodiscard]] QString journalPath() const { return path("journal/journal.db"); }
     [[nodiscard]] QString uri(const QString &queue) const
     {
-        return "ipp://127.0.0.1:" + QString::number(port) + "/printers/" + queue;
+        return "ipp://" + port.address() + "/printers/" + queue;
     }
 
     void start()
@@ -295,8 +283,7 @@ private:
     /// Whoever reaches it may do all; in a folder of the test's own and on the loopback.
     [[nodiscard]] QByteArray serverConfiguration() const
     {
-        return "Listen " + socket().toUtf8() + "\nListen 127.0.0.1:" + QByteArray::number(port)
-               + R"(
+        return "Listen " + socket().toUtf8() + "\nListen " + port.address().toUtf8() + R"(
 LogLevel debug
 MaxLogSize 0
 WebInterface No
@@ -336,7 +323,7 @@ JobRetryInterval 1
     }
 
     const QTemporaryDir folder;
-    const quint16 port;
+    const KeptPort port;
     QProcess server;
 };
 

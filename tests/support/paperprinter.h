@@ -3,6 +3,7 @@
 
 #include "support/bytes.h"
 #include "support/cupsdesk.h"
+#include "support/keptport.h"
 #include "support/simulatordesk.h"
 
 #include <QDir>
@@ -14,20 +15,14 @@
 class PaperPrinter
 {
 public:
-    PaperPrinter()
-        : port(freePort())
-    {
-    }
-
-    [[nodiscard]] QString uri() const { return "korvel://127.0.0.1:" + QString::number(port); }
+    [[nodiscard]] QString uri() const { return "korvel://" + port.address(); }
 
     /// Switches it on, with a fault or without.
     void on(const QStringList &fault = {})
     {
         off();
         simulator = std::make_unique<Simulator>(
-            QStringList{"--listen", "127.0.0.1:" + QString::number(port), "--paper", folder.path()}
-            + fault);
+            QStringList{"--listen", port.address(), "--paper", folder.path()} + fault);
     }
 
     void off() { simulator.reset(); }
@@ -56,6 +51,6 @@ public:
 
 private:
     const QTemporaryDir folder;
-    const quint16 port;
+    const KeptPort port;
     std::unique_ptr<Simulator> simulator;
 };

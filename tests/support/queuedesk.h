@@ -31,6 +31,9 @@ protected:
             for (const QByteArray &line : desk->errorLog().split('\n'))
                 if (line.contains("[Job "))
                     qWarning("%s", line.constData());
+        // What still waits for this printer must not meet another one at its address.
+        if (desk)
+            static_cast<void>(desk->run("cancel", {"-a"}));
     }
     void close() { desk.reset(); }
 

@@ -11,3 +11,9 @@ inline QString expected(const QString &name)
 
 /// What its receipt is to the printer.
 inline QByteArray receipt() { return bytesOf(expected("receipt.out")); }
+
+/// What a sample's stream is in the code page 858.
+inline QByteArray inCp858(QByteArray stream)
+{
+    return stream.replace("\xC3\xB9", "\x97").replace("\xC3\xA8", "\x8A");
+}

@@ -1,6 +1,7 @@
 // The commands of README and the pages of docs: each is run as it stands, or a row says why not.
 // Those of the manual pages are run by tst_manpages.
 #include "support/built.h"
+#include "support/keptport.h"
 #include "support/pagecommands.h"
 #include "support/printers.h"
 #include "support/test.h"
@@ -132,7 +133,8 @@ private slots:
         const QString page = QTest::currentDataTag();
         NetworkPrinter network;
         LinePrinter line;
-        PageShell shell(standIns(hasPrinter(page) ? freeAddress() : network.device().mid(6),
+        const KeptPort simulated; // where a page's own commands listen
+        PageShell shell(standIns(hasPrinter(page) ? simulated.address() : network.device().mid(6),
                                  network.device(), line.path()));
         if (!isTutorial(page))
             furnish(shell);
@@ -243,15 +245,6 @@ private:
             {"/dev/ttyS0", serial},
             {"/dev/usb/lp0", "/dev/null"},
         };
-    }
-
-    /// An address of this machine that nobody has.
-    static QString freeAddress()
-    {
-        const int taken = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-        const int port = bindToLoopback(taken);
-        ::close(taken);
-        return "127.0.0.1:" + QString::number(port);
     }
 
     static QStringList programs()
