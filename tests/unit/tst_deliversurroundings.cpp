@@ -8,11 +8,13 @@
 namespace tst_deliversurroundings {
 
 /// Runs it behind a command of the shell, with arguments behind the device and the journal.
+/// Files that whoever runs the test has left open are none of the program's.
 Run runBehind(const DeliverDesk &desk, const QString &command, const QStringList &arguments)
 {
+    const QString script = "exec 3>&- 4>&- 5>&- 6>&- 7>&- 8>&- 9>&-; " + command + "; exec \"$@\"";
     const QStringList call = {built::deliver, "--to", desk.device(), "--journal",
                               desk.path("journal.db")};
-    return runProgram("sh", QStringList{"-c", command + "; exec \"$@\"", "sh"} + call + arguments,
+    return runProgram("sh", QStringList{"-c", script, "sh"} + call + arguments,
                       {desk.path("."), desk.variables(), {}});
 }
 
