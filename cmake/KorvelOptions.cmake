@@ -30,3 +30,28 @@ if(KORVEL_SANITIZERS)
         -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${KORVEL_SANITIZERS})
 endif()
+
+# Most of a source's time in the compiler goes into the toolkit's headers: those that most sources
+# include are compiled once, for all targets of a folder and below.
+function(korvel_share_headers folder)
+    if(NOT TARGET korvel-headers)
+        set(source ${PROJECT_BINARY_DIR}/headers.cpp)
+        file(CONFIGURE OUTPUT ${source} CONTENT "")
+        add_library(korvel-headers OBJECT ${source})
+        target_link_libraries(korvel-headers PRIVATE Qt6::Core korvel-options)
+        target_precompile_headers(korvel-headers PRIVATE
+            <QByteArray> <QCoreApplication> <QDir> <QFile> <QHash> <QList> <QRegularExpression>
+            <QSet> <QString> <QStringList> <algorithm> <functional> <memory> <optional>)
+    endif()
+    get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
+    foreach(target IN LISTS targets)
+        get_target_property(libraries ${target} LINK_LIBRARIES)
+        if(libraries MATCHES korvel-options AND NOT target STREQUAL korvel-headers)
+            target_precompile_headers(${target} REUSE_FROM korvel-headers)
+        endif()
+    endforeach()
+    get_property(subfolders DIRECTORY ${folder} PROPERTY SUBDIRECTORIES)
+    foreach(subfolder IN LISTS subfolders)
+        korvel_share_headers(${subfolder})
+    endforeach()
+endfunction()
