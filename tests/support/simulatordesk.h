@@ -50,9 +50,18 @@ public:
     QByteArray waitFor(const QByteArray &text, int times = 1)
     {
         const QDeadlineTimer deadline(simulatorPatience);
+        qsizetype counted = 0; // bytes: the whole lines that were looked through
+        qsizetype seen = 0;
+        int found = 0;
         const auto isThere = [&] {
-            const qsizetype whole = said.lastIndexOf('\n') + 1;
-            return QByteArrayView(said).first(whole).count(text) >= times;
+            const QByteArrayView all = said;
+            if (const qsizetype feed = all.sliced(seen).lastIndexOf('\n'); feed >= 0) {
+                const qsizetype whole = seen + feed + 1;
+                found += int(all.sliced(counted, whole - counted).count(text));
+                counted = whole;
+            }
+            seen = all.size();
+            return found >= times;
         };
         while (!isThere() && !deadline.hasExpired() && process.state() != QProcess::NotRunning) {
             process.waitForReadyRead(100);
